@@ -1,0 +1,36 @@
+# SPDX-License-Identifier: Apache-2.0
+# Language level, warnings, sanitizers and the compiler cache, the same for every target.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+set(OSTRIA_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+add_library(ostria_compiler INTERFACE)
+if(MSVC)
+    target_compile_options(ostria_compiler INTERFACE /W4 /WX /permissive- /utf-8 /fp:precise)
+else()
+    # No fused multiply-add: every machine must give the same last digit.
+    target_compile_options(ostria_compiler INTERFACE
+        -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+        -Wcast-qual -Wconversion -Wno-sign-conversion -Wformat=2 -Wnull-dereference
+        -ffp-contract=off)
+    if(OSTRIA_SANITIZE)
+        target_compile_options(ostria_compiler INTERFACE
+            -fsanitize=${OSTRIA_SANITIZE} -fno-sanitize-recover=all)
+        target_link_options(ostria_compiler INTERFACE -fsanitize=${OSTRIA_SANITIZE})
+    endif()
+endif()
+target_compile_definitions(ostria_compiler INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DEPRECATED_WARNINGS
+    QT_DISABLE_DEPRECATED_BEFORE=0x050F00)

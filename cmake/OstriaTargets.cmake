@@ -1,0 +1,62 @@
+# SPDX-License-Identifier: Apache-2.0
+# The project's own target functions: one line a target says what it is made of and may use.
+
+include(GoogleTest)
+
+function(_ostria_check_arguments prefix)
+    if(${prefix}_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "Unknown arguments: ${${prefix}_UNPARSED_ARGUMENTS}")
+    endif()
+endfunction()
+
+# A static library. Its folder is its include directory, so headers are found by their bare name.
+function(ostria_add_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;PUBLIC_DEPS;PRIVATE_DEPS")
+    _ostria_check_arguments(arg)
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC ${arg_PUBLIC_DEPS}
+        PRIVATE $<BUILD_INTERFACE:ostria_compiler> ${arg_PRIVATE_DEPS})
+    set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
+endfunction()
+
+# A program in the bin folder.
+function(ostria_add_executable name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS")
+    _ostria_check_arguments(arg)
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS})
+    set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
+endfunction()
+
+# A GoogleTest program; each of its tests becomes one ctest entry.
+function(ostria_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS;LABELS;ENVIRONMENT")
+    _ostria_check_arguments(arg)
+    if(NOT arg_LABELS)
+        set(arg_LABELS unit)
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS} GTest::gmock GTest::gtest_main)
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC "${arg_AUTOMOC}"
+        RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    set(environment
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
+        "UBSAN_OPTIONS=print_stacktrace=1"
+        "QT_QPA_PLATFORM=offscreen"
+        ${arg_ENVIRONMENT})
+    gtest_discover_tests(${name}
+        DISCOVERY_TIMEOUT 120
+        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}")
+endfunction()
+
+# A Google Benchmark program.
+function(ostria_add_benchmark name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;DEPS")
+    _ostria_check_arguments(arg)
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS} benchmark::benchmark_main)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/benchmarks")
+endfunction()

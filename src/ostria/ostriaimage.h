@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+// The container of a camera image.
+#pragma once
+
+#include "pixeltype.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+namespace Ostria {
+
+/// One pixel of an image as integers at the image's own bit depth.
+struct PixelReading
+{
+    int pixelType; ///< PFNC id of the image's pixel type
+    int bitDepth;  ///< significant bits of each channel, 8 to 16
+    int red;       ///< 0 to 2^bitDepth - 1
+    int green;     ///< 0 to 2^bitDepth - 1
+    int blue;      ///< 0 to 2^bitDepth - 1
+};
+
+/// A camera image: pixel type, size and rows of pixels from top to bottom.
+///
+/// A value: copies share the pixels, and whoever asks for write access to shared pixels gets a
+/// copy of his own. Reentrant; copies may live in different threads.
+///
+/// Colours that are read from a pixel: a mono pixel answers its value three times; a pixel behind
+/// a Bayer mosaic answers its one value in the channel of its filter and 0 in the others; YUV is
+/// converted to RGB.
+class COstriaImage
+{
+public:
+    COstriaImage() = default;
+
+    /// An image with zeroed pixels of its own.
+    /// \param paddingX  unused bytes after each row
+    /// \throws std::invalid_argument  unknown pixel type, size that the type cannot have
+    /// \throws std::length_error      more bytes than an int can count
+    COstriaImage(PixelType type, int width, int height, std::size_t paddingX = 0);
+
+    virtual ~COstriaImage();
+    COstriaImage(const COstriaImage&) = default;
+    COstriaImage& operator=(const COstriaImage&) = default;
+    COstriaImage(COstriaImage&&) noexcept = default;
+    COstriaImage& operator=(COstriaImage&&) noexcept = default;
+
+    /// An image over pixels that somebody else holds; nothing is copied.
+    /// \param buffer  shared with the image and all its copies; not written to
+    /// \param size    bytes in the buffer, at least stride times height
+    /// \throws as the constructor; std::invalid_argument also if buffer is null or too short
+    static COstriaImage attach(std::shared_ptr<const std::uint8_t> buffer, std::size_t size,
+                               PixelType type, int width, int height, std::size_t paddingX = 0);
+
+    /// Whether the image holds pixels.
+    bool isValid() const { return m_pixels != nullptr; }
+
+    PixelType pixelType() const { return m_type; }
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+    std::size_t paddingX() const { return m_paddingX; }
+    std::size_t stride() const { return m_stride; }
+
+    /// Bytes from the first row's beginning to the last row's end; 0 for an image without pixels.
+    std::size_t size() const { return m_stride * static_cast<std::size_t>(m_height); }
+
+    /// The first row, null for an image without pixels. Lent as long as the image lives.
+    const std::uint8_t* data() const { return m_pixels.get(); }
+
+    /// The first row for writing. Pixels that are attached or shared with another image are copied
+    /// before, so that nobody else sees the change. Null for an image without pixels.
+    std::uint8_t* writableData();
+
+    /// One pixel.
+    /// \throws std::out_of_range  x or y lies outside, or the image has no pixels
+    virtual PixelReading readPixel(int x, int y) const;
+
+    /// A run of pixels of one row, the same values as readPixel gives, without its cost per pixel.
+    /// \param rgb  room for 3 * count values: red, green, blue of each pixel
+    /// \throws std::out_of_range  a part of the run lies outside, or the image has no pixels
+    virtual void readRow(int x, int y, int count, std::uint16_t* rgb) const;
+
+private:
+    COstriaImage(PixelType type, int width, int height, std::size_t paddingX, std::size_t stride);
+
+    std::shared_ptr<const std::uint8_t> m_pixels;
+    bool m_attached = false;
+    PixelType m_type = PixelType::Undefined;
+    int m_width = 0;
+    int m_height = 0;
+    std::size_t m_paddingX = 0;
+    std::size_t m_stride = 0;
+};
+
+} // namespace Ostria

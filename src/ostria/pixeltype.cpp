@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: Apache-2.0
+// Table of the pixel types that this layer reads.
+#include "pixeltype.h"

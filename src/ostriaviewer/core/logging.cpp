@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: Apache-2.0
+// Log entries to a sink, or to Qt's logging where there is none.
+#include "logging.h"
+
+#include <QHash>
+#include <QLoggingCategory>
+#include <QMutex>
+#include <QMutexLocker>
+
+#include <deque>
+#include <utility>
+
+namespace Core::Logging {
+namespace {
+
+struct Category
+{
+    explicit Category(const QString& categoryName)
+        : name(categoryName)
+        , utf8Name(categoryName.toUtf8())
+        , qtCategory(utf8Name.constData())
+    {}
+
+    QString name;
+    QByteArray utf8Name; // QLoggingCategory keeps the pointer it is given
+    QLoggingCategory qtCategory;
+};
+
+class Registry
+{
+public:
+    CatId idOf(const QString& name)
+    {
+        const QMutexLocker lock(&m_mutex);
+        const auto known = m_ids.constFind(name);
+        if (known != m_ids.constEnd())
+            return *known;
+        const auto id = static_cast<CatId>(m_categories.size());
+        m_categories.emplace_back(name);
+        m_ids.insert(name, id);
+        return id;
+    }
+
+    /// Categories never move and are never removed, so that the pointer outlives the lock.
+    const Category* find(CatId id)
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (id < 0 || id >= static_cast<CatId>(m_categories.size()))
+            return nullptr;
+        return &m_categories[static_cast<std::size_t>(id)];
+    }
+
+    LogSink exchangeSink(LogSink sink)
+    {
+        const QMutexLocker lock(&m_mutex);
+        std::swap(m_sink, sink);
+        return sink;
+    }
+
+    LogSink sink()
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_sink;
+    }
+
+private:
+    QMutex m_mutex;
+    std::deque<Category> m_categories;
+    QHash<QString, CatId> m_ids;
+    LogSink m_sink;
+};
+
+Registry& registry()
+{
+    static Registry instance;
+    return instance;
+}
+
+void writeToQt(ELogLevel level, const QLoggingCategory& category, const QString& text)
+{
+    switch (level) {
+    case Debug:
+        qCDebug(category).noquote() << text;
+        break;
+    case Information:
+        qCInfo(category).noquote() << text;
+        break;
+    case Warning:
+        qCWarning(category).noquote() << text;
+        break;
+    case Error:
+    case Fatal:
+        qCCritical(category).noquote() << text;
+        break;
+    }
+}
+
+} // namespace
+
+CatId getCatId(const QString& name)
+{
+    return registry().idOf(name);
+}
+
+QString categoryName(CatId category)
+{
+    const Category* found = registry().find(category);
+    return found ? found->name : QString();
+}
+
+void createLogEntry(ELogLevel level, CatId category, const QString& text)
+{
+    const LogSink sink = registry().sink();
+    if (sink) {
+        sink(level, categoryName(category), text);
+        return;
+    }
+    if (const Category* found = registry().find(category))
+        writeToQt(level, found->qtCategory, text);
+    else
+        writeToQt(level, *QLoggingCategory::defaultCategory(), text);
+}
+
+LogSink installLogSink(LogSink sink)
+{
+    return registry().exchangeSink(std::move(sink));
+}
+
+} // namespace Core::Logging
