@@ -11,10 +11,8 @@
 #include <new>
 #include <ostream>
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 struct Subcommand
 {
@@ -50,9 +48,10 @@ void dispatch(const QStringList& arguments, const Streams& streams)
         streams.out << "colorcalibrate " COLORCALIBRATE_VERSION "\n";
         return;
     }
-    const auto found = std::find_if(
-        subcommands.begin(), subcommands.end(),
-        [&name](const Subcommand& subcommand) { return name == QLatin1String(subcommand.name); });
+    const auto found =
+        std::find_if(subcommands.begin(), subcommands.end(), [&name](const Subcommand& subcommand) {
+            return name == QLatin1String(subcommand.name);
+        });
     if (found == subcommands.end()) {
         const QString problem = name.isEmpty()
                                     ? QStringLiteral("a subcommand is missing")

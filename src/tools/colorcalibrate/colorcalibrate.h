@@ -6,8 +6,7 @@
 
 #include <QStringList>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Runs the tool. Needs a QCoreApplication. No exception leaves it.
 /// \param arguments  without the program's name

@@ -7,8 +7,7 @@
 #include <iosfwd>
 #include <stdexcept>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 enum ExitCode {
     Success = 0,

@@ -4,15 +4,14 @@
 
 #include <ostream>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 CommandLine::CommandLine(const QString& usage, const QString& description)
     : m_usage(usage)
     , m_description(description)
 {
-    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
-                        QStringLiteral("Displays this help.")});
+    m_parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Displays this help.")});
 }
 
 void CommandLine::addFlag(const QString& name, const QString& description)
@@ -50,9 +49,9 @@ bool CommandLine::parse(const QStringList& arguments, int positionals, std::ostr
 QString CommandLine::requiredValue(const QString& name) const
 {
     if (!isSet(name))
-        throw CommandError(QStringLiteral("--%1 is missing; usage: colorcalibrate %2")
-                               .arg(name, m_usage),
-                           WrongUsage);
+        throw CommandError(
+            QStringLiteral("--%1 is missing; usage: colorcalibrate %2").arg(name, m_usage),
+            WrongUsage);
     return value(name);
 }
 

@@ -8,8 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Reads a subcommand's part of the command line. Reentrant.
 class CommandLine

@@ -4,16 +4,15 @@
 
 #include "colorcalibrationv1.h"
 #include "command.h"
+#include "stepkey.h"
 
 #include <cmath>
 #include <stdexcept>
 
 using namespace ColorCalibration;
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 constexpr std::array<const char*, 5> stepNames{"Original", "DigitalGain", "WhiteBalance",
                                                "Matrix3x3", "Bc6x2"};
@@ -40,9 +39,9 @@ void requireFinite(const std::array<double, 3>& whiteBalance)
             throw CommandError(
                 QStringLiteral("no white balance can be computed: the %1 gain is %2, because the "
                                "gray patches 20 to 22 are saturated or black")
-                    .arg(QLatin1String(channels[i]),
-                         std::isnan(whiteBalance[i]) ? QStringLiteral("not a number")
-                                                     : QStringLiteral("infinite")));
+                    .arg(QLatin1String(channels[i]), std::isnan(whiteBalance[i])
+                                                         ? QStringLiteral("not a number")
+                                                         : QStringLiteral("infinite")));
 }
 
 /// The patch at which the last step stopped, from 1; 0 if none is gray.
@@ -64,7 +63,7 @@ void executeAll(ColorCalibrationV1& engine)
                                           "matrix; is the grid on the chart, and the image neither "
                                           "over- nor underexposed?)")
                                .arg(QString::fromUtf8(error.what()))
-                               .arg(firstGrayPatch(engine.GetStepColors(Matrix3x3Step))));
+                               .arg(firstGrayPatch(engine.GetStepColors(StepKey::Matrix3x3))));
     }
 }
 
@@ -73,10 +72,10 @@ void executeAll(ColorCalibrationV1& engine)
 Computation compute(const PatchColors& measured)
 {
     ColorCalibrationV1 engine;
-    engine.SetStepColors(OriginalStep, measured);
+    engine.SetStepColors(StepKey::Original, measured);
     Computation computation{};
     auto& [red, green, blue] = computation.whiteBalance;
-    engine.ExecuteStep(WhiteBalanceStep, OriginalStep);
+    engine.ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
     engine.GetWhiteBalance(red, green, blue);
     requireFinite(computation.whiteBalance);
 
@@ -92,8 +91,8 @@ Computation compute(const PatchColors& measured)
     }
     computation.meanDeltaE = computation.steps.back().meanDeltaE;
     computation.targets = engine.GetTargetColors();
-    computation.before = deltasOf(engine, OriginalStep);
-    computation.after = deltasOf(engine, Bc6x2Step);
+    computation.before = deltasOf(engine, StepKey::Original);
+    computation.after = deltasOf(engine, StepKey::Bc6x2);
     return computation;
 }
 

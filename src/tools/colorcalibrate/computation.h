@@ -6,8 +6,7 @@
 
 #include <array>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// How far the patches are from their targets.
 struct Deltas

@@ -14,16 +14,17 @@
 
 using namespace ColorCalibration;
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 constexpr int sectors = 6;
 constexpr std::array<const char*, sectors> sectorNames{"red",  "yellow", "green",
                                                        "cyan", "blue",   "magenta"};
 
-QString number(double value) { return QString::asprintf("%9.4f", value); }
+QString number(double value)
+{
+    return QString::asprintf("%9.4f", value);
+}
 
 QString deltaRow(double beforeE, double afterE, double beforeC, double afterC)
 {
@@ -48,7 +49,8 @@ void writePatches(std::ostream& out, const Computation& computation)
     }
 }
 
-template <typename Values> double largest(const Values& values)
+template <typename Values>
+double largest(const Values& values)
 {
     return *std::max_element(values.begin(), values.end());
 }

@@ -8,8 +8,7 @@
 
 #include <iosfwd>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Writes a table of the patches, their means and largest values, and the settings. Colours are
 /// shown as a screen would show them, #rrggbb in sRGB.

@@ -10,8 +10,7 @@
 
 #include <ostream>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 void computeCommand(const QStringList& arguments, const Streams& streams)
 {

@@ -6,8 +6,7 @@
 
 #include <QStringList>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Computes camera settings from 24 patch colours.
 /// \throws CommandError

@@ -12,23 +12,51 @@
 #include <unistd.h>
 #endif
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 #ifdef _WIN32
-int duplicate(int descriptor) { return _dup(descriptor); }
-void duplicateOnto(int descriptor, int target) { _dup2(descriptor, target); }
-void closeDescriptor(int descriptor) { _close(descriptor); }
-int openNothing() { return _open("NUL", _O_WRONLY); }
-int standardErrorDescriptor() { return _fileno(stderr); }
+int duplicate(int descriptor)
+{
+    return _dup(descriptor);
+}
+void duplicateOnto(int descriptor, int target)
+{
+    _dup2(descriptor, target);
+}
+void closeDescriptor(int descriptor)
+{
+    _close(descriptor);
+}
+int openNothing()
+{
+    return _open("NUL", _O_WRONLY);
+}
+int standardErrorDescriptor()
+{
+    return _fileno(stderr);
+}
 #else
-int duplicate(int descriptor) { return dup(descriptor); }
-void duplicateOnto(int descriptor, int target) { dup2(descriptor, target); }
-void closeDescriptor(int descriptor) { close(descriptor); }
-int openNothing() { return open("/dev/null", O_WRONLY | O_CLOEXEC); }
-int standardErrorDescriptor() { return fileno(stderr); }
+int duplicate(int descriptor)
+{
+    return dup(descriptor);
+}
+void duplicateOnto(int descriptor, int target)
+{
+    dup2(descriptor, target);
+}
+void closeDescriptor(int descriptor)
+{
+    close(descriptor);
+}
+int openNothing()
+{
+    return open("/dev/null", O_WRONLY | O_CLOEXEC);
+}
+int standardErrorDescriptor()
+{
+    return fileno(stderr);
+}
 #endif
 
 } // namespace

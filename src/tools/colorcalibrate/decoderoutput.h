@@ -2,8 +2,7 @@
 // Keeps the image decoders' own messages off standard error.
 #pragma once
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// While it lives, what is written to the process's standard error is dropped: the decoders write
 /// to it directly, and their lines would stand beside the one that tells the user what is wrong.

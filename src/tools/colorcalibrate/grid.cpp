@@ -13,10 +13,8 @@
 
 using ColorCalibration::TrapezoidPoints;
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 constexpr std::array<const char*, 4> cornerNames{"upper left", "upper right", "lower left",
                                                  "lower right"};
@@ -58,8 +56,12 @@ void requireShape(const TrapezoidPoints& grid, const QString& text)
     for (std::size_t i = 0; i < 4; ++i)
         turns[i] = turn(round[i], round[(i + 1) % 4], round[(i + 2) % 4]);
 
-    const auto zero = [](double value) { return value == 0.0; };
-    const auto negative = [](double value) { return value < 0.0; };
+    const auto zero = [](double value) {
+        return value == 0.0;
+    };
+    const auto negative = [](double value) {
+        return value < 0.0;
+    };
     if (std::any_of(turns.begin(), turns.end(), zero))
         failGrid(text, QStringLiteral("has three corners on one line, which leaves patches "
                                       "without area"));

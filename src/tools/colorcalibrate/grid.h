@@ -7,8 +7,7 @@
 #include <QSize>
 #include <QString>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Reads four points "x,y x,y x,y x,y": upper left, upper right, lower left, lower right of the
 /// chart, image pixels. The chart may lie in the image in any turn, but not mirrored.

@@ -16,10 +16,8 @@
 using Ostria::COstriaImage;
 using Ostria::PixelType;
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 constexpr qint64 mostPixels = qint64{1} << 28;
 
@@ -53,8 +51,8 @@ QImage decode(QFile& file)
                                   .arg(size.height()));
     const QImage image = reader.read();
     if (image.isNull())
-        fail(file.fileName(), QStringLiteral("the image is damaged or truncated (%1)")
-                                  .arg(reader.errorString()));
+        fail(file.fileName(),
+             QStringLiteral("the image is damaged or truncated (%1)").arg(reader.errorString()));
     if (!isComplete(file, format))
         fail(file.fileName(), QStringLiteral("the image is truncated"));
     return image;
@@ -86,9 +84,10 @@ void requireColor(const QImage& image, const QString& fileName)
         if (image.isGrayscale())
             fail(fileName,
                  QStringLiteral("the image is gray; a color image of the chart is needed"));
-        fail(fileName, QStringLiteral("the image has a palette of %1 colors, which a camera's image "
-                                      "has not; save it with full colors")
-                           .arg(image.colorCount()));
+        fail(fileName,
+             QStringLiteral("the image has a palette of %1 colors, which a camera's image "
+                            "has not; save it with full colors")
+                 .arg(image.colorCount()));
     default:
         break;
     }

@@ -6,8 +6,7 @@
 
 #include <QString>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Reads a colour image of 8 or 16 bits a channel, PNG, TIFF, JPEG or BMP, at its own bit depth:
 /// RGB8 or RGB16. The turn that a photograph's data asks for is carried out. What the decoders

@@ -6,10 +6,8 @@
 
 #include <cstdlib>
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 constexpr uchar endOfImage = 0xD9;
 
@@ -56,16 +54,27 @@ bool isCompleteBmp(const QByteArray& data)
     return data.size() >= qFromLittleEndian<quint32>(bytes + 10) + rowBytes * height;
 }
 
+bool isCompletePng(const QByteArray& data)
+{
+    const QByteArray endChunk("IEND\xAE\x42\x60\x82", 8);
+    return data.lastIndexOf(endChunk) >= 0;
+}
+
 } // namespace
 
 bool isComplete(QIODevice& file, const QByteArray& format)
 {
-    const bool isJpeg = format == "jpeg" || format == "jpg";
-    if (!isJpeg && format != "bmp")
+    bool (*check)(const QByteArray&) = nullptr;
+    if (format == "jpeg" || format == "jpg")
+        check = isCompleteJpeg;
+    else if (format == "bmp")
+        check = isCompleteBmp;
+    else if (format == "png")
+        check = isCompletePng;
+    if (!check)
         return true;
     file.seek(0);
-    const QByteArray data = file.readAll();
-    return isJpeg ? isCompleteJpeg(data) : isCompleteBmp(data);
+    return check(file.readAll());
 }
 
 } // namespace ColorCalibrate

@@ -9,10 +9,8 @@
 
 #include <cmath>
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 QByteArray numberText(double value)
 {

@@ -5,8 +5,7 @@
 #include <QByteArray>
 #include <QJsonValue>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// One line of JSON without a line feed. Numbers carry 17 significant digits; a number that is not
 /// finite, which JSON has no word for, becomes the string "nan", "inf" or "-inf".

@@ -7,8 +7,7 @@
 
 #include <QJsonArray>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// One array a row, one number a column.
 template <long Rows, long Columns>

@@ -19,10 +19,8 @@
 
 using namespace ColorCalibration;
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 /// Share of a cell's width and height that is measured, as in the wizard.
 constexpr int patchAreaPercent = 70;
@@ -59,16 +57,18 @@ PatchColors measure(const Ostria::COstriaImage& image, const TrapezoidPoints& gr
 
 void measureCommand(const QStringList& arguments, const Streams& streams)
 {
-    CommandLine line(QStringLiteral("measure IMAGE --grid \"x,y x,y x,y x,y\" [options]"),
-                     QStringLiteral("Measures the 24 patches of an image of the chart: 8- or 16-bit "
-                                    "PNG or TIFF, JPEG, BMP.\nPrints 24 lines \"R,G,B\" of 0 to "
-                                    "255, as \"colorcalibrate compute\" reads them."));
+    CommandLine line(
+        QStringLiteral("measure IMAGE --grid \"x,y x,y x,y x,y\" [options]"),
+        QStringLiteral("Measures the 24 patches of an image of the chart: 8- or 16-bit "
+                       "PNG or TIFF, JPEG, BMP.\nPrints 24 lines \"R,G,B\" of 0 to "
+                       "255, as \"colorcalibrate compute\" reads them."));
     line.addOption(QStringLiteral("grid"),
                    QStringLiteral("The chart's corners in image pixels: upper left, upper right, "
                                   "lower left, lower right."),
                    QStringLiteral("points"));
-    line.addFlag(QStringLiteral("linearize"),
-                 QStringLiteral("Take off the sRGB curve, which photographs and screenshots carry."));
+    line.addFlag(
+        QStringLiteral("linearize"),
+        QStringLiteral("Take off the sRGB curve, which photographs and screenshots carry."));
     line.addFlag(QStringLiteral("json"), QStringLiteral("Print {\"colors\": [[R, G, B], ...]}."));
     if (!line.parse(arguments, 1, streams.out))
         return;
@@ -78,9 +78,9 @@ void measureCommand(const QStringList& arguments, const Streams& streams)
     requireInside(grid, {image.width(), image.height()});
     const PatchColors colors = measure(image, grid, line.isSet(QStringLiteral("linearize")));
     if (line.isSet(QStringLiteral("json")))
-        streams.out << toJsonText(QJsonObject{{QStringLiteral("colors"), toJson(colors)}})
-                           .toStdString()
-                    << "\n";
+        streams.out
+            << toJsonText(QJsonObject{{QStringLiteral("colors"), toJson(colors)}}).toStdString()
+            << "\n";
     else
         writePatchColors(streams.out, colors);
 }

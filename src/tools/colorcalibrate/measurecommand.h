@@ -6,8 +6,7 @@
 
 #include <QStringList>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Measures the patches of an image of the chart and prints them as "compute" reads them.
 /// \throws CommandError

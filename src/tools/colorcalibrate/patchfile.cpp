@@ -17,10 +17,8 @@
 using ColorCalibration::PatchColors;
 using ColorCalibration::PatchCount;
 
-namespace ColorCalibrate
-{
-namespace
-{
+namespace ColorCalibrate {
+namespace {
 
 constexpr int longestPatchText = 1 << 20;
 constexpr std::array<const char*, 3> channelNames{"red", "green", "blue"};
@@ -33,8 +31,8 @@ QString quoted(const QByteArray& bytes)
     for (QChar& character : text)
         if (!character.isPrint())
             character = QLatin1Char('?');
-    return QStringLiteral("\"%1%2\"").arg(text, bytes.size() > longest ? QStringLiteral("...")
-                                                                       : QString());
+    return QStringLiteral("\"%1%2\"")
+        .arg(text, bytes.size() > longest ? QStringLiteral("...") : QString());
 }
 
 /// Where a value stands, for messages.
@@ -64,8 +62,7 @@ double parseChannel(const QByteArray& field, int channel, const Place& place)
     if (!std::isfinite(value))
         place.fail(QStringLiteral("the %1 value %2 is not finite").arg(name, quoted(text)));
     if (value < 0.0 || value > 255.0)
-        place.fail(
-            QStringLiteral("the %1 value %2 lies outside 0 to 255").arg(name, quoted(text)));
+        place.fail(QStringLiteral("the %1 value %2 lies outside 0 to 255").arg(name, quoted(text)));
     return value;
 }
 

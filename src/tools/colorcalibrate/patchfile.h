@@ -9,8 +9,7 @@
 
 #include <iosfwd>
 
-namespace ColorCalibrate
-{
+namespace ColorCalibrate {
 
 /// Reads 24 lines of three numbers, linear light on 0 to 255, separated by commas. Blanks around a
 /// number, a byte order mark, line ends of any system and empty lines at the end are accepted.

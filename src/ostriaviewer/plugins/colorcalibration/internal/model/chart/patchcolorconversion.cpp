@@ -6,8 +6,7 @@
 
 #include <algorithm>
 
-namespace ColorCalibration
-{
+namespace ColorCalibration {
 
 PatchColors toPatchColors(const QVector<QColor>& list, bool fromDisplay)
 {

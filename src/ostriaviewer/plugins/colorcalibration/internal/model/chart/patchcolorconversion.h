@@ -7,8 +7,7 @@
 #include <QColor>
 #include <QVector>
 
-namespace ColorCalibration
-{
+namespace ColorCalibration {
 
 /// \param list         colours in chart order, channels 0 to 1; more than 24 are not read
 /// \param fromDisplay  the colours carry the sRGB curve, which is taken off
