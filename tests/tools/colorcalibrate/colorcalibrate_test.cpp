@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// The tool as a whole: help, unknown words, exit codes, pipes.
 #include "commandtest.h"
 
 #include <QProcess>

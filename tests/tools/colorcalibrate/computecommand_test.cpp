@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// "compute" on good and bad patch colours.
 #include "charttargets.h"
 #include "commandtest.h"
 

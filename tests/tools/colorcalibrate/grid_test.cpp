@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// Which outlines are read and which are refused.
 #include "grid.h"
 
 #include "command.h"

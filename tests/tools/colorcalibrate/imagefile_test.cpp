@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// Which image files are read and which are refused.
 #include "imagefile.h"
 
 #include "command.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// JSON text that brings every number back.
 #include "jsontext.h"
 
 #include <QJsonArray>

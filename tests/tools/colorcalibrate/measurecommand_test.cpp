@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// "measure" on good and bad images and grids.
 #include "charttargets.h"
 #include "colormath.h"
 #include "commandtest.h"

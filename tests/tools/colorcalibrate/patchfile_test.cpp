@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// Which patch files are read and what is said of the others.
 #include "patchfile.h"
 
 #include "command.h"

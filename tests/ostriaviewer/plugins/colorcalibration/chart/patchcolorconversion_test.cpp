@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// Colour lists become matrices and come back.
 #include "patchcolorconversion.h"
 
 #include <gtest/gtest.h>
