@@ -45,3 +45,19 @@ void operator delete(void* block, std::size_t) noexcept
 {
     operator delete(block);
 }
+
+// A sanitizer's own forms for arrays would not call the ones above.
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void operator delete[](void* block) noexcept
+{
+    operator delete(block);
+}
+
+void operator delete[](void* block, std::size_t) noexcept
+{
+    operator delete(block);
+}
