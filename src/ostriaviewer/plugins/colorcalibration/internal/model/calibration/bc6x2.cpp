@@ -50,11 +50,8 @@ struct SortedColor
 };
 
 // Unlike HueSector it never fails: a gray colour gets a sector too, in which nothing changes it.
-SortedColor sorted(const Color& color)
+SortedColor sorted(double red, double green, double blue)
 {
-    const double red = color(0);
-    const double green = color(1);
-    const double blue = color(2);
     int group = 0;
     double first = red;
     double second = green;
@@ -79,7 +76,7 @@ SortedColor sorted(const Color& color)
 
 Color adjusted(const SectorTable& table, const Color& color, const ColorAdjustment& parameters)
 {
-    const SortedColor in = sorted(color);
+    const SortedColor in = sorted(color(0), color(1), color(2));
     const double sign = table.sign(in.sector);
     const double hueShift = sign * parameters(table.primaryHue(in.sector));
     const double saturation = parameters(table.primarySaturation(in.sector));
@@ -181,6 +178,11 @@ int Bc6x2::HueSector(double red, double green, double blue)
         return green > red ? 3 : 4;
     }
     return -1;
+}
+
+int Bc6x2::AdjustmentSector(double red, double green, double blue)
+{
+    return sorted(red, green, blue).sector;
 }
 
 Color Bc6x2::AdjustColor(const Color& color, const ColorAdjustment& parameters)

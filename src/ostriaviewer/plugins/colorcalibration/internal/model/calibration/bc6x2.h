@@ -38,6 +38,10 @@ public:
     ///          magenta, 5 magenta to red; -1 if the three are equal or one of them is a NaN
     static int HueSector(double red, double green, double blue);
 
+    /// Where AdjustColor places a colour. It never fails.
+    /// \return  HueSector where that is not -1; 1 for gray
+    static int AdjustmentSector(double red, double green, double blue);
+
     /// The correction of a single colour, on any scale; a gray one stays as it is.
     /// \param parameters  finite; in the order of ColorAdjustment
     /// \return  R, G, B, not clamped

@@ -25,7 +25,7 @@ inline StackedColors stackedTargets(const ChartTargets& chart)
 ///
 /// A design without full rank gives the shortest of the best p: a parameter that nothing depends on
 /// comes out as 0. What is not finite in the input makes p not finite; the call returns all the
-/// same. Reentrant, no heap.
+/// same. Reentrant.
 /// \param design    column j: how parameter j changes the stacked colours
 /// \param residual  what the change has to make up for
 template <long Parameters>
