@@ -10,6 +10,7 @@
 #include <opencv2/core.hpp>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <functional>
 #include <stdexcept>
@@ -18,39 +19,47 @@
 namespace Ostria {
 namespace {
 
-/// What a strip's scratch memory should not exceed, so that it stays in a core's cache.
-constexpr std::size_t stripBytes = 512 * 1024;
+/// What a strip's scratch memory should not exceed much, so that it stays close to its core.
+constexpr std::size_t stripBytes = 1536 * 1024;
+
+/// Lower strips would spend too much on the rows where they meet.
+constexpr int smallestStrip = 16;
 
 /// A conversion cut into strips of rows that can be worked on in any order.
 class StripConversion
 {
 public:
     StripConversion(const COstriaImage& source, PixelType outputType, std::uint8_t* target,
-                    std::size_t targetStride, ImageOrientation orientation)
+                    std::size_t targetStride, ImageOrientation orientation, int threads)
         : m_source(source)
         , m_info(*pixelTypeInfo(source.pixelType()))
         , m_toDisplay(outputType == PixelType::BGRa8)
         , m_target(target)
         , m_targetStride(targetStride)
-        , m_orientation(orientation)
+        , m_topDown(orientation == ImageOrientation::TopDown)
+        , m_direct(m_topDown && !m_toDisplay && targetStride % 2 == 0 &&
+                   reinterpret_cast<std::uintptr_t>(target) % 2 == 0)
     {
-        const std::size_t fixed = scratchValues(0);
-        const std::size_t perRow = scratchValues(1) - fixed + 1;
-        const std::size_t room = stripBytes / sizeof(std::uint16_t);
-        const std::size_t rows = room > fixed ? (room - fixed) / perRow / 2 * 2 : 0;
-        m_stripRows =
-            static_cast<int>(std::min<std::size_t>(std::max<std::size_t>(rows, 2), largestStrip));
+        const std::size_t rowBytes = sizeof(std::uint16_t) * (scratchValues(2) - scratchValues(1));
+        const auto perThread = static_cast<std::size_t>(source.height()) * rowBytes / stripBytes /
+                               static_cast<std::size_t>(threads);
+        const auto wanted = (static_cast<int>(perThread) + 1) * threads;
+        m_stripRows = std::max(source.height() / wanted / 2 * 2, smallestStrip);
     }
 
-    int strips() const { return (m_source.height() + m_stripRows - 1) / m_stripRows; }
+    /// The last strip takes what is left over, so that none is too low to be interpolated.
+    int strips() const { return std::max(m_source.height() / m_stripRows, 1); }
 
     /// Values of scratch memory that each thread needs for itself.
-    std::size_t scratchValues() const { return scratchValues(m_stripRows); }
+    std::size_t scratchValues() const
+    {
+        return scratchValues(m_source.height() - (strips() - 1) * m_stripRows);
+    }
 
     void convertStrip(int strip, std::uint16_t* scratch) const
     {
         const int begin = strip * m_stripRows;
-        const int end = std::min(begin + m_stripRows, m_source.height());
+        const int end = strip + 1 == strips() ? m_source.height() : begin + m_stripRows;
         if (m_info.layout == PixelLayout::Bayer)
             convertMosaic(begin, end, scratch);
         else
@@ -58,19 +67,26 @@ public:
     }
 
 private:
-    static constexpr std::size_t largestStrip = 64;
+    std::size_t rowValues() const { return 3 * static_cast<std::size_t>(m_source.width()); }
 
     std::size_t scratchValues(int rows) const
     {
-        if (m_info.layout == PixelLayout::Bayer)
-            return demosaicScratch(m_source.width(), rows);
-        return 3 * static_cast<std::size_t>(m_source.width());
+        if (m_info.layout != PixelLayout::Bayer)
+            return rowValues();
+        const std::size_t colors = m_direct ? 0 : static_cast<std::size_t>(rows) * rowValues();
+        return demosaicScratch(m_source.width(), rows) + colors;
     }
 
     void convertMosaic(int begin, int end, std::uint16_t* scratch) const
     {
-        const std::uint16_t* rgb = demosaicRows(m_source, begin, end, scratch);
-        for (int y = begin; y < end; ++y, rgb += 3 * static_cast<std::size_t>(m_source.width()))
+        if (m_direct) {
+            auto* first = reinterpret_cast<std::uint16_t*>(targetRow(begin));
+            demosaicRows(m_source, begin, end, scratch, first, m_targetStride);
+            return;
+        }
+        std::uint16_t* rgb = scratch + demosaicScratch(m_source.width(), end - begin);
+        demosaicRows(m_source, begin, end, scratch, rgb, sizeof(std::uint16_t) * rowValues());
+        for (int y = begin; y < end; ++y, rgb += rowValues())
             writeRow(y, reinterpret_cast<const std::uint8_t*>(rgb));
     }
 
@@ -90,12 +106,16 @@ private:
 
     void writeRow(int y, const std::uint8_t* rgb16) const
     {
-        const int line = m_orientation == ImageOrientation::TopDown ? y : m_source.height() - 1 - y;
-        std::uint8_t* target = m_target + m_targetStride * static_cast<std::size_t>(line);
         if (m_toDisplay)
-            packForDisplay(rgb16, m_source.width(), target);
+            packForDisplay(rgb16, m_source.width(), targetRow(y));
         else
-            std::memcpy(target, rgb16, 6 * static_cast<std::size_t>(m_source.width()));
+            std::memcpy(targetRow(y), rgb16, sizeof(std::uint16_t) * rowValues());
+    }
+
+    std::uint8_t* targetRow(int y) const
+    {
+        const int line = m_topDown ? y : m_source.height() - 1 - y;
+        return m_target + m_targetStride * static_cast<std::size_t>(line);
     }
 
     const COstriaImage& m_source;
@@ -103,27 +123,26 @@ private:
     const bool m_toDisplay;
     std::uint8_t* const m_target;
     const std::size_t m_targetStride;
-    const ImageOrientation m_orientation;
-    int m_stripRows = 2;
+    const bool m_topDown;
+    const bool m_direct; ///< rows of the target can be interpolated in place
+    int m_stripRows = smallestStrip;
 };
 
-/// Works off all strips, on as many threads as OpenCV may use.
-void run(const StripConversion& conversion, std::vector<std::uint16_t>& scratch)
+/// Works off all strips on some threads.
+void run(const StripConversion& conversion, int threads, std::vector<std::uint16_t>& scratch)
 {
     const int strips = conversion.strips();
-    const int tasks = std::clamp(cv::getNumThreads(), 1, strips);
+    const int tasks = std::min(threads, strips);
     const std::size_t share = conversion.scratchValues();
     if (scratch.size() < share * static_cast<std::size_t>(tasks))
         scratch.resize(share * static_cast<std::size_t>(tasks));
 
+    std::atomic<int> nextStrip(0);
     const auto work = [&](const cv::Range& range) {
         for (int task = range.start; task < range.end; ++task) {
             std::uint16_t* own = scratch.data() + share * static_cast<std::size_t>(task);
-            const auto firstStrip = [&](std::int64_t number) {
-                return number * strips / tasks;
-            };
-            for (auto strip = firstStrip(task); strip < firstStrip(task + 1); ++strip)
-                conversion.convertStrip(static_cast<int>(strip), own);
+            for (int strip = nextStrip++; strip < strips; strip = nextStrip++)
+                conversion.convertStrip(strip, own);
         }
     };
     if (tasks == 1)
@@ -179,7 +198,9 @@ void CImageFormatConverter::Convert(std::uint8_t* buffer, std::size_t size,
     if (overlap(buffer, needed, source))
         throw std::invalid_argument("The buffer overlaps the pixels of the source image.");
     const std::size_t stride = needed / static_cast<std::size_t>(source.height());
-    run(StripConversion(source, m_outputType, buffer, stride, m_orientation), m_scratch);
+    const int threads = std::max(cv::getNumThreads(), 1);
+    run(StripConversion(source, m_outputType, buffer, stride, m_orientation, threads), threads,
+        m_scratch);
 }
 
 void CImageFormatConverter::Convert(COstriaImage& target, const COstriaImage& source)
