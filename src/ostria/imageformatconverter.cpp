@@ -3,153 +3,15 @@
 #include "imageformatconverter.h"
 
 #include "demosaic.h"
-#include "displaypixels.h"
-#include "rowdecoder.h"
 #include "stride.h"
+#include "stripconversion.h"
 
-#include <opencv2/core.hpp>
-
-#include <algorithm>
-#include <atomic>
-#include <cstring>
 #include <functional>
 #include <stdexcept>
 #include <string>
 
 namespace Ostria {
 namespace {
-
-/// What a strip's scratch memory should not exceed much, so that it stays close to its core.
-constexpr std::size_t stripBytes = 1536 * 1024;
-
-/// Lower strips would spend too much on the rows where they meet.
-constexpr int smallestStrip = 16;
-
-/// A conversion cut into strips of rows that can be worked on in any order.
-class StripConversion
-{
-public:
-    StripConversion(const COstriaImage& source, PixelType outputType, std::uint8_t* target,
-                    std::size_t targetStride, ImageOrientation orientation, int threads)
-        : m_source(source)
-        , m_info(*pixelTypeInfo(source.pixelType()))
-        , m_toDisplay(outputType == PixelType::BGRa8)
-        , m_target(target)
-        , m_targetStride(targetStride)
-        , m_topDown(orientation == ImageOrientation::TopDown)
-        , m_direct(m_topDown && !m_toDisplay && targetStride % 2 == 0 &&
-                   reinterpret_cast<std::uintptr_t>(target) % 2 == 0)
-    {
-        const std::size_t rowBytes = sizeof(std::uint16_t) * (scratchValues(2) - scratchValues(1));
-        const auto perThread = static_cast<std::size_t>(source.height()) * rowBytes / stripBytes /
-                               static_cast<std::size_t>(threads);
-        const auto wanted = (static_cast<int>(perThread) + 1) * threads;
-        m_stripRows = std::max(source.height() / wanted / 2 * 2, smallestStrip);
-    }
-
-    /// The last strip takes what is left over, so that none is too low to be interpolated.
-    int strips() const { return std::max(m_source.height() / m_stripRows, 1); }
-
-    /// Values of scratch memory that each thread needs for itself.
-    std::size_t scratchValues() const
-    {
-        return scratchValues(m_source.height() - (strips() - 1) * m_stripRows);
-    }
-
-    void convertStrip(int strip, std::uint16_t* scratch) const
-    {
-        const int begin = strip * m_stripRows;
-        const int end = strip + 1 == strips() ? m_source.height() : begin + m_stripRows;
-        if (m_info.layout == PixelLayout::Bayer)
-            convertMosaic(begin, end, scratch);
-        else
-            convertColors(begin, end, scratch);
-    }
-
-private:
-    std::size_t rowValues() const { return 3 * static_cast<std::size_t>(m_source.width()); }
-
-    std::size_t scratchValues(int rows) const
-    {
-        if (m_info.layout != PixelLayout::Bayer)
-            return rowValues();
-        const std::size_t colors = m_direct ? 0 : static_cast<std::size_t>(rows) * rowValues();
-        return demosaicScratch(m_source.width(), rows) + colors;
-    }
-
-    void convertMosaic(int begin, int end, std::uint16_t* scratch) const
-    {
-        if (m_direct) {
-            auto* first = reinterpret_cast<std::uint16_t*>(targetRow(begin));
-            demosaicRows(m_source, begin, end, scratch, first, m_targetStride);
-            return;
-        }
-        std::uint16_t* rgb = scratch + demosaicScratch(m_source.width(), end - begin);
-        demosaicRows(m_source, begin, end, scratch, rgb, sizeof(std::uint16_t) * rowValues());
-        for (int y = begin; y < end; ++y, rgb += rowValues())
-            writeRow(y, reinterpret_cast<const std::uint8_t*>(rgb));
-    }
-
-    void convertColors(int begin, int end, std::uint16_t* scratch) const
-    {
-        for (int y = begin; y < end; ++y) {
-            const std::uint8_t* row =
-                m_source.data() + m_source.stride() * static_cast<std::size_t>(y);
-            if (m_source.pixelType() != PixelType::RGB16) {
-                decodeColors(m_source.pixelType(), m_info, row, 0, y, m_source.width(),
-                             16 - m_info.bitDepth, scratch);
-                row = reinterpret_cast<const std::uint8_t*>(scratch);
-            }
-            writeRow(y, row);
-        }
-    }
-
-    void writeRow(int y, const std::uint8_t* rgb16) const
-    {
-        if (m_toDisplay)
-            packForDisplay(rgb16, m_source.width(), targetRow(y));
-        else
-            std::memcpy(targetRow(y), rgb16, sizeof(std::uint16_t) * rowValues());
-    }
-
-    std::uint8_t* targetRow(int y) const
-    {
-        const int line = m_topDown ? y : m_source.height() - 1 - y;
-        return m_target + m_targetStride * static_cast<std::size_t>(line);
-    }
-
-    const COstriaImage& m_source;
-    const PixelTypeInfo& m_info;
-    const bool m_toDisplay;
-    std::uint8_t* const m_target;
-    const std::size_t m_targetStride;
-    const bool m_topDown;
-    const bool m_direct; ///< rows of the target can be interpolated in place
-    int m_stripRows = smallestStrip;
-};
-
-/// Works off all strips on some threads.
-void run(const StripConversion& conversion, int threads, std::vector<std::uint16_t>& scratch)
-{
-    const int strips = conversion.strips();
-    const int tasks = std::min(threads, strips);
-    const std::size_t share = conversion.scratchValues();
-    if (scratch.size() < share * static_cast<std::size_t>(tasks))
-        scratch.resize(share * static_cast<std::size_t>(tasks));
-
-    std::atomic<int> nextStrip(0);
-    const auto work = [&](const cv::Range& range) {
-        for (int task = range.start; task < range.end; ++task) {
-            std::uint16_t* own = scratch.data() + share * static_cast<std::size_t>(task);
-            for (int strip = nextStrip++; strip < strips; strip = nextStrip++)
-                conversion.convertStrip(strip, own);
-        }
-    };
-    if (tasks == 1)
-        work(cv::Range(0, 1));
-    else
-        cv::parallel_for_(cv::Range(0, tasks), work, tasks);
-}
 
 void checkSource(const COstriaImage& source)
 {
@@ -198,9 +60,7 @@ void CImageFormatConverter::Convert(std::uint8_t* buffer, std::size_t size,
     if (overlap(buffer, needed, source))
         throw std::invalid_argument("The buffer overlaps the pixels of the source image.");
     const std::size_t stride = needed / static_cast<std::size_t>(source.height());
-    const int threads = std::max(cv::getNumThreads(), 1);
-    run(StripConversion(source, m_outputType, buffer, stride, m_orientation, threads), threads,
-        m_scratch);
+    convertInStrips(source, {m_outputType, buffer, stride, m_orientation}, m_scratch);
 }
 
 void CImageFormatConverter::Convert(COstriaImage& target, const COstriaImage& source)
