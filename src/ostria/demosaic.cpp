@@ -38,7 +38,7 @@ void writeSeam(const cv::Mat& mosaic, int code, std::uint16_t* scratch, int row,
 std::size_t demosaicScratch(int width, int rows)
 {
     const auto mosaicRows = static_cast<std::size_t>(rows) + rowsAbove + rowsBelow;
-    return (mosaicRows + 3 * seamRows) * static_cast<std::size_t>(width);
+    return (mosaicRows + std::size_t(3) * seamRows) * static_cast<std::size_t>(width);
 }
 
 void demosaicRows(const COstriaImage& source, int begin, int end, std::uint16_t* scratch,

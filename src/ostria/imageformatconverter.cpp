@@ -9,6 +9,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace Ostria {
 namespace {
@@ -28,7 +29,7 @@ void checkSource(const COstriaImage& source)
 
 bool overlap(const std::uint8_t* buffer, std::size_t size, const COstriaImage& source)
 {
-    const std::less<const std::uint8_t*> before;
+    const std::less<> before;
     return before(buffer, source.data() + source.size()) && before(source.data(), buffer + size);
 }
 
@@ -66,15 +67,18 @@ void CImageFormatConverter::Convert(std::uint8_t* buffer, std::size_t size,
 void CImageFormatConverter::Convert(COstriaImage& target, const COstriaImage& source)
 {
     checkSource(source);
-    const COstriaImage heldSource = source; // target and source may be one image
-    const bool reuse = target.isValid() && target.pixelType() == m_outputType &&
-                       target.width() == heldSource.width() &&
-                       target.height() == heldSource.height() &&
+    const bool reuse = &target != &source && target.isValid() &&
+                       target.pixelType() == m_outputType && target.width() == source.width() &&
+                       target.height() == source.height() &&
                        target.paddingX() == m_outputPaddingX && target.ownsPixelsAlone();
-    if (!reuse)
-        target = COstriaImage::withUnsetPixels(m_outputType, heldSource.width(),
-                                               heldSource.height(), m_outputPaddingX);
-    Convert(target.writableData(), target.size(), heldSource);
+    if (reuse) {
+        Convert(target.writableData(), target.size(), source);
+        return;
+    }
+    COstriaImage result = COstriaImage::withUnsetPixels(m_outputType, source.width(),
+                                                        source.height(), m_outputPaddingX);
+    Convert(result.writableData(), result.size(), source);
+    target = std::move(result);
 }
 
 } // namespace Ostria

@@ -16,9 +16,9 @@ namespace Ostria {
 namespace {
 
 /// What a strip's scratch memory should not exceed much, so that it stays close to its core.
-constexpr std::size_t stripBytes = 1536 * 1024;
+constexpr std::size_t stripBytes = std::size_t(1536) * 1024;
 
-/// Lower strips would spend too much on the rows where they meet.
+/// Lower strips of a mosaic would spend too much on the rows where they meet.
 constexpr int smallestStrip = 16;
 
 /// A conversion cut into strips of rows that can be worked on in any order.
@@ -33,10 +33,12 @@ public:
         , m_direct(m_topDown && target.type == PixelType::RGB16 && target.stride % 2 == 0 &&
                    reinterpret_cast<std::uintptr_t>(target.data) % 2 == 0)
     {
+        if (m_info.layout != PixelLayout::Bayer)
+            return;
         const std::size_t rowBytes = sizeof(std::uint16_t) * (scratchValues(2) - scratchValues(1));
         const auto perThread = static_cast<std::size_t>(source.height()) * rowBytes / stripBytes /
                                static_cast<std::size_t>(threads);
-        const auto wanted = (static_cast<int>(perThread) + 1) * threads;
+        const int wanted = (static_cast<int>(perThread) + 1) * threads;
         m_stripRows = std::max(source.height() / wanted / 2 * 2, smallestStrip);
     }
 
