@@ -270,6 +270,15 @@ TEST(OstriaImage, WritingLeavesAttachedBufferAlone)
     EXPECT_EQ(image.writableData(), image.data()) << "copied once only";
 }
 
+TEST(OstriaImage, WritingLeavesAttachedBufferAloneThatOnlyTheImageHolds)
+{
+    static const std::uint8_t readOnly[] = {9, 9, 9, 9};
+    std::shared_ptr<const std::uint8_t> lent(readOnly, [](const std::uint8_t*) {});
+    COstriaImage image = COstriaImage::attach(std::move(lent), 4, PixelType::Mono8, 2, 2);
+    EXPECT_NE(image.writableData(), readOnly);
+    EXPECT_EQ(image.readPixel(1, 1).blue, 9);
+}
+
 TEST(OstriaImage, WritingLeavesCopiesAlone)
 {
     COstriaImage first = noiseImage(PixelType::Mono8, 3, 3);
