@@ -11,6 +11,8 @@
 #include "testcolors.h"
 #include "whitebalance.h"
 
+#include <gmock/gmock.h>
+
 #include <climits>
 #include <cmath>
 #include <memory>
@@ -259,12 +261,9 @@ TEST(ColorCalibrationV1, GrayColoredPatchEndsTheRunWithTheEarlierResultsInPlace)
     }
     setPatch(colors, 4, 0, 0, 0);
     calibration.SetStepColors(StepKey::Original, colors);
-    try {
-        calibration.ExecuteAll();
-        FAIL();
-    } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "Cannot determine hue sector on gray image");
-    }
+    EXPECT_THAT(
+        [&]() { calibration.ExecuteAll(); },
+        testing::ThrowsMessage<std::runtime_error>("Cannot determine hue sector on gray image"));
     EXPECT_EQ(whiteBalanceOf(calibration), makeColor(1, 1, 1));
     EXPECT_EQ(adjustmentOf(calibration), before);
     expectPatch(calibration.GetStepColors(StepKey::Matrix3x3), 4, makeColor(0, 0, 0));
