@@ -215,6 +215,9 @@ TEST(ColorCalibrationV1, UnknownKeysChangeNothing)
     ColorCalibrationV1 untouched;
     run(calibration, 1);
     run(untouched, 1);
+    // Not yet calculated, so that a calculation would show.
+    calibration.SetStepColors(StepKey::WhiteBalance, simulatedResponse(3));
+    untouched.SetStepColors(StepKey::WhiteBalance, simulatedResponse(3));
     for (const int unknown : UnknownKeys) {
         EXPECT_EQ(calibration.ExecuteStep(unknown, 0), -1.0);
         EXPECT_EQ(calibration.ExecuteStep(2, unknown), -1.0);
