@@ -7,6 +7,8 @@
 #include "simulatedcamera.h"
 #include "testcolors.h"
 
+#include <gmock/gmock.h>
+
 #include <cmath>
 #include <stdexcept>
 
@@ -279,12 +281,9 @@ TEST(Bc6x2, GrayOnAColoredPatchIsRefusedAndNothingChanges)
         for (const int patch : {0, 4, 17}) {
             step.Input = simulatedResponse(2);
             setPatch(step.Input, patch, level, level, level);
-            try {
-                step.Calculate();
-                FAIL() << "patch " << patch;
-            } catch (const std::runtime_error& error) {
-                EXPECT_STREQ(error.what(), "Cannot determine hue sector on gray image");
-            }
+            EXPECT_THAT([&]() { step.Calculate(); },
+                        testing::ThrowsMessage<std::runtime_error>(
+                            "Cannot determine hue sector on gray image"));
             expectParameters(parametersOf(step), parameters, 0.0);
             expectColors(step.Output, output);
         }

@@ -11,6 +11,8 @@
 #include "testcolors.h"
 #include "whitebalance.h"
 
+#include <gmock/gmock.h>
+
 #include <climits>
 #include <cmath>
 #include <memory>
@@ -213,6 +215,9 @@ TEST(ColorCalibrationV1, UnknownKeysChangeNothing)
     ColorCalibrationV1 untouched;
     run(calibration, 1);
     run(untouched, 1);
+    // Not yet calculated, so that a calculation would show.
+    calibration.SetStepColors(StepKey::WhiteBalance, simulatedResponse(3));
+    untouched.SetStepColors(StepKey::WhiteBalance, simulatedResponse(3));
     for (const int unknown : UnknownKeys) {
         EXPECT_EQ(calibration.ExecuteStep(unknown, 0), -1.0);
         EXPECT_EQ(calibration.ExecuteStep(2, unknown), -1.0);
@@ -259,12 +264,9 @@ TEST(ColorCalibrationV1, GrayColoredPatchEndsTheRunWithTheEarlierResultsInPlace)
     }
     setPatch(colors, 4, 0, 0, 0);
     calibration.SetStepColors(StepKey::Original, colors);
-    try {
-        calibration.ExecuteAll();
-        FAIL();
-    } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "Cannot determine hue sector on gray image");
-    }
+    EXPECT_THAT(
+        [&]() { calibration.ExecuteAll(); },
+        testing::ThrowsMessage<std::runtime_error>("Cannot determine hue sector on gray image"));
     EXPECT_EQ(whiteBalanceOf(calibration), makeColor(1, 1, 1));
     EXPECT_EQ(adjustmentOf(calibration), before);
     expectPatch(calibration.GetStepColors(StepKey::Matrix3x3), 4, makeColor(0, 0, 0));

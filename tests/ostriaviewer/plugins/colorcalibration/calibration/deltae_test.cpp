@@ -165,11 +165,23 @@ TEST(DeltaE, AgainstGrayTheChromaAloneCounts)
     EXPECT_NEAR(deltaE(lab(50, 0, 10), lab(50, 0, 0)), 10.0 / 1.225, 1e-13);
 }
 
-// Below 1e-12 rounding noise must not become a hue.
-TEST(DeltaE, NoiseAroundGrayHasNoHue)
+// With a* stretched by 1.5 the chromas are 1.5e-7 and 1.5e-6, their product is below 1e-12: the
+// hues, though opposite, do not count.
+TEST(DeltaE, ColorsNextToGrayDifferByChromaAlone)
 {
-    EXPECT_NEAR(deltaE(lab(50, 1e-13, 0), lab(50, -1e-13, 0)), 0.0, 1e-12);
-    EXPECT_NEAR(deltaE(lab(50, 1e-13, 1e-13), lab(50, 0, 10)), 10.0 / 1.225, 1e-10);
+    EXPECT_NEAR(deltaE(lab(50, 1e-7, 0), lab(50, -1e-6, 0)), 1.35e-6, 1e-11);
+    // A thousand times as far from gray they do.
+    EXPECT_NEAR(deltaE(lab(50, 1e-4, 0), lab(50, -1e-3, 0)), 1.65e-3, 1e-6);
+}
+
+// A hue below 1e-12 is taken for 0, that of pure red: not for the blue that the noise points to,
+// which would come out at 5e-7 less.
+TEST(DeltaE, NoiseAroundGrayHasNoHueOfItsOwn)
+{
+    const auto fromRed = static_cast<double>(Reference::ciede2000({50, 5e-13, 0}, {50, 0, -80}));
+    const auto fromBlue = static_cast<double>(Reference::ciede2000({50, 0, -5e-13}, {50, 0, -80}));
+    ASSERT_GT(fromRed - fromBlue, 1e-7);
+    EXPECT_NEAR(deltaE(lab(50, 0, -5e-13), lab(50, 0, -80)), fromRed, 1e-8);
 }
 
 TEST(DeltaE, NanInEitherColorPassesIntoTheResult)

@@ -180,9 +180,11 @@ std::array<Vector, 3> colorMatrix(const Colors& colors)
     const std::vector<Real> x = leastSquares(rows, right);
     std::array<Vector, 3> matrix;
     for (int r = 0; r < 3; ++r) {
-        matrix[r][Others[r][0]] = x[2 * r];
-        matrix[r][Others[r][1]] = x[2 * r + 1];
-        matrix[r][r] = 1 - x[2 * r] - x[2 * r + 1];
+        const Real first = x[2U * r];
+        const Real second = x[2U * r + 1];
+        matrix[r][Others[r][0]] = first;
+        matrix[r][Others[r][1]] = second;
+        matrix[r][r] = 1 - first - second;
     }
     return matrix;
 }
