@@ -22,7 +22,7 @@ else()
     # No fused multiply-add: every machine must give the same last digit.
     target_compile_options(ostria_compiler INTERFACE
         -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-        -Wcast-qual -Wconversion -Wno-sign-conversion -Wformat=2 -Wnull-dereference
+        -Wcast-qual -Wconversion -Wno-sign-conversion -Wformat=2
         -ffp-contract=off)
     if(OSTRIA_SANITIZE)
         target_compile_options(ostria_compiler INTERFACE

@@ -20,6 +20,9 @@ function(ostria_add_library name)
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
 endfunction()
 
+# All programs, without tests and benchmarks.
+add_custom_target(programs)
+
 # A program in the bin folder.
 function(ostria_add_executable name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS")
@@ -27,6 +30,7 @@ function(ostria_add_executable name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS})
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
+    add_dependencies(programs ${name})
 endfunction()
 
 # A GoogleTest program; each of its tests becomes one ctest entry.

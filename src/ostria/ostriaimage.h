@@ -42,8 +42,10 @@ public:
     virtual ~COstriaImage();
     COstriaImage(const COstriaImage&) = default;
     COstriaImage& operator=(const COstriaImage&) = default;
-    COstriaImage(COstriaImage&&) noexcept = default;
-    COstriaImage& operator=(COstriaImage&&) noexcept = default;
+
+    /// What was moved from is an image without pixels.
+    COstriaImage(COstriaImage&& other) noexcept;
+    COstriaImage& operator=(COstriaImage&& other) noexcept;
 
     /// An image over pixels that somebody else holds; nothing is copied.
     /// \param buffer  shared with the image and all its copies; not written to
@@ -53,19 +55,19 @@ public:
                                PixelType type, int width, int height, std::size_t paddingX = 0);
 
     /// Whether the image holds pixels.
-    bool isValid() const { return m_pixels != nullptr; }
+    bool isValid() const { return m_state.pixels != nullptr; }
 
-    PixelType pixelType() const { return m_type; }
-    int width() const { return m_width; }
-    int height() const { return m_height; }
-    std::size_t paddingX() const { return m_paddingX; }
-    std::size_t stride() const { return m_stride; }
+    PixelType pixelType() const { return m_state.type; }
+    int width() const { return m_state.width; }
+    int height() const { return m_state.height; }
+    std::size_t paddingX() const { return m_state.paddingX; }
+    std::size_t stride() const { return m_state.stride; }
 
     /// Bytes from the first row's beginning to the last row's end; 0 for an image without pixels.
-    std::size_t size() const { return m_stride * static_cast<std::size_t>(m_height); }
+    std::size_t size() const { return m_state.stride * static_cast<std::size_t>(m_state.height); }
 
     /// The first row, null for an image without pixels. Lent as long as the image lives.
-    const std::uint8_t* data() const { return m_pixels.get(); }
+    const std::uint8_t* data() const { return m_state.pixels.get(); }
 
     /// The first row for writing. Pixels that are attached or shared with another image are copied
     /// before, so that nobody else sees the change. Null for an image without pixels.
@@ -81,15 +83,33 @@ public:
     virtual void readRow(int x, int y, int count, std::uint16_t* rgb) const;
 
 private:
-    COstriaImage(PixelType type, int width, int height, std::size_t paddingX, std::size_t stride);
+    friend class CImageFormatConverter;
 
-    std::shared_ptr<const std::uint8_t> m_pixels;
-    bool m_attached = false;
-    PixelType m_type = PixelType::Undefined;
-    int m_width = 0;
-    int m_height = 0;
-    std::size_t m_paddingX = 0;
-    std::size_t m_stride = 0;
+    struct State
+    {
+        std::shared_ptr<const std::uint8_t> pixels;
+        const PixelTypeInfo* info = nullptr;
+        PixelType type = PixelType::Undefined;
+        int width = 0;
+        int height = 0;
+        std::size_t paddingX = 0;
+        std::size_t stride = 0;
+        bool attached = false;
+    };
+
+    /// The state of an image of this shape whose pixels are missing yet.
+    static State checkedShape(PixelType type, int width, int height, std::size_t paddingX);
+
+    /// An image whose pixels have any value; the padding is zeroed.
+    static COstriaImage withUnsetPixels(PixelType type, int width, int height,
+                                        std::size_t paddingX);
+
+    /// Whether nobody else can see the pixels.
+    bool ownsPixelsAlone() const;
+
+    void checkRun(int x, int y, int count) const;
+
+    State m_state;
 };
 
 } // namespace Ostria
