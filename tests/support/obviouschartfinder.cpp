@@ -20,24 +20,24 @@ struct RunningSum
 
     void add(const QColor& color)
     {
-        red += color.redF();
-        green += color.greenF();
-        blue += color.blueF();
+        red = static_cast<float>(red + color.redF());
+        green = static_cast<float>(green + color.greenF());
+        blue = static_cast<float>(blue + color.blueF());
     }
     void subtract(const QColor& color)
     {
-        red -= color.redF();
-        green -= color.greenF();
-        blue -= color.blueF();
+        red = static_cast<float>(red - color.redF());
+        green = static_cast<float>(green - color.greenF());
+        blue = static_cast<float>(blue - color.blueF());
     }
-    static void limit(float& sum, int window)
+    static void limit(float& sum, float window)
     {
         if (sum / window > 1.0)
             sum = window;
         if (sum / window < 0)
             sum = 0;
     }
-    QColor mean(int window)
+    QColor mean(float window)
     {
         limit(red, window);
         limit(green, window);
@@ -51,7 +51,7 @@ template <typename At>
 QImage blurPass(const QImage& image, int lines, int n, int radius, At at)
 {
     QImage result(image.size(), QImage::Format_ARGB32);
-    const int window = 2 * radius + 1;
+    const auto window = static_cast<float>(2 * radius + 1);
     for (int line = 0; line < lines; ++line) {
         const auto color = [&](int position) {
             return image.pixelColor(at(line, std::clamp(position, 0, n - 1)));
@@ -123,7 +123,9 @@ dlib::matrix<float> channelRatio(const QImage& numerator, const QImage& denomina
 
 QVector<QPoint> outerCorners(const QVector<QPoint>& c)
 {
-    const auto half = [](int a, int b) { return std::abs(double(a) - double(b)) / 2.0; };
+    const auto half = [](int a, int b) {
+        return std::abs(double(a) - double(b)) / 2.0;
+    };
     const auto point = [](double x, double y) {
         return QPoint(static_cast<int>(x), static_cast<int>(y));
     };
@@ -133,21 +135,17 @@ QVector<QPoint> outerCorners(const QVector<QPoint>& c)
             point(c[23].x() + half(c[23].x(), c[22].x()), c[23].y() + half(c[23].y(), c[17].y()))};
 }
 
-QVector<QPoint> locateCorners(const QImage& image)
+QVector<QPoint> scaleUp(const QImage& image, QVector<QPoint> corners)
 {
     const double factor = image.width() / 640.0;
-    const QImage smoothed = boxBlur(reduce(image), 5);
-    QVector<QPoint> corners =
-        outerCorners(fitPatchCenters(smoothed, findAnchorBlock(smoothed)));
     for (QPoint& corner : corners)
         corner =
             QPoint(static_cast<int>(corner.x() * factor), static_cast<int>(corner.y() * factor));
     return corners;
 }
 
-ColorCorrectionAutoChartFinderResult findChart(const QImage& image)
+ColorCorrectionAutoChartFinderResult judge(const QImage& image, const QVector<QPoint>& c)
 {
-    const QVector<QPoint> c = locateCorners(image);
     const int w = image.width();
     const int h = image.height();
     ColorCorrectionAutoChartFinderResult result{c[0], c[1], c[2], c[3], false};
@@ -155,9 +153,16 @@ ColorCorrectionAutoChartFinderResult findChart(const QImage& image)
         return result;
     if (c[2].x() < 0 || c[2].y() == 0 || c[2].x() > w || c[2].y() > h)
         return result;
-    result.valid = c[0].x() < c[1].x() && c[0].y() < c[2].y() && c[1].y() < c[3].y() &&
-                   c[2].x() < c[3].x();
+    result.valid =
+        c[0].x() < c[1].x() && c[0].y() < c[2].y() && c[1].y() < c[3].y() && c[2].x() < c[3].x();
     return result;
+}
+
+ColorCorrectionAutoChartFinderResult findChart(const QImage& image)
+{
+    const QImage smoothed = boxBlur(reduce(image), 5);
+    const QVector<QPoint> centers = fitPatchCenters(smoothed, findAnchorBlock(smoothed));
+    return judge(image, scaleUp(image, outerCorners(centers)));
 }
 
 } // namespace ColorCalibration::Obvious

@@ -26,7 +26,13 @@ QVector<QPoint> fitPatchCenters(const QImage& image, const QVector<QPoint>& bloc
 QVector<QPoint> outerCorners(const QVector<QPoint>& centers);
 QPoint seekPatchCenter(const QImage& image, QPoint start, double radius, int sign, int firstStep);
 float weightedRaySum(const QImage& image, QPoint start, int stepY, int stepX, int length);
-QVector<QPoint> locateCorners(const QImage& image);
+
+/// From pixels of the reduced image to those of the image.
+QVector<QPoint> scaleUp(const QImage& image, QVector<QPoint> corners);
+
+/// The four corners with the answer whether they are plausible.
+ColorCorrectionAutoChartFinderResult judge(const QImage& image, const QVector<QPoint>& corners);
+
 ColorCorrectionAutoChartFinderResult findChart(const QImage& image);
 
 } // namespace ColorCalibration::Obvious

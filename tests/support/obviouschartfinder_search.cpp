@@ -41,7 +41,10 @@ float similarity(const std::vector<float>& sample, const std::vector<float>& rat
     return sum / std::sqrt(sumOfSquares(sample) * sumOfSquares(ratios));
 }
 
-QPoint truncated(float x, float y) { return {static_cast<int>(x), static_cast<int>(y)}; }
+QPoint truncated(float x, float y)
+{
+    return {static_cast<int>(x), static_cast<int>(y)};
+}
 
 float distance(const QPoint& a, const QPoint& b)
 {
@@ -99,7 +102,7 @@ float weightedRaySum(const QImage& image, QPoint start, int stepY, int stepX, in
     for (int i = 0; i < length; ++i) {
         const QPoint point = start + i * QPoint(stepX, stepY);
         if (image.valid(point))
-            sum += image.pixelColor(point).greenF() * (length - i);
+            sum = static_cast<float>(sum + image.pixelColor(point).greenF() * (length - i));
     }
     return sum;
 }
@@ -111,11 +114,11 @@ QPoint seekPatchCenter(const QImage& image, QPoint start, double radius, int sig
         const float l = weightedRaySum(image, point, 0, -1, k);
         const float r = weightedRaySum(image, point, 0, 1, k);
         if (l != r)
-            point.rx() += sign * l > sign * r ? -1 : 1;
+            point.rx() += float(sign) * l > float(sign) * r ? -1 : 1;
         const float u = weightedRaySum(image, point, -1, 0, k);
         const float d = weightedRaySum(image, point, 1, 0, k);
         if (u != d)
-            point.ry() += sign * u > sign * d ? -1 : 1;
+            point.ry() += float(sign) * u > float(sign) * d ? -1 : 1;
     }
     return point;
 }
@@ -131,7 +134,9 @@ QVector<QPoint> fitPatchCenters(const QImage& image, const QVector<QPoint>& bloc
         X[slot] = float(point.x());
         Y[slot] = float(point.y());
     };
-    const auto slot = [&](int k) { return truncated(X[k], Y[k]); };
+    const auto slot = [&](int k) {
+        return truncated(X[k], Y[k]);
+    };
     for (int k = 0; k < 9; ++k)
         store(k, block[k]);
     const float twoDiagonals = std::sqrt(2.0F) + std::sqrt(2.0F);
@@ -171,8 +176,8 @@ QVector<QPoint> fitPatchCenters(const QImage& image, const QVector<QPoint>& bloc
         q(2) = float(column[i]);
         if (i >= 5)
             q(3) = float(row[i] * column[i]);
-        const QPoint predicted = truncated(dlib::matrix<float>(q * cx)(0),
-                                           dlib::matrix<float>(q * cy)(0));
+        const QPoint predicted =
+            truncated(dlib::matrix<float>(q * cx)(0), dlib::matrix<float>(q * cy)(0));
         store(i, seekPatchCenter(G, predicted, R, 1, 1));
     }
 
@@ -182,8 +187,7 @@ QVector<QPoint> fitPatchCenters(const QImage& image, const QVector<QPoint>& bloc
         const int c = index % 6;
         dlib::matrix<float> q(1, 4);
         q = 1, float(r), float(c), float(r * c);
-        centers.append(
-            truncated(dlib::matrix<float>(q * cx)(0), dlib::matrix<float>(q * cy)(0)));
+        centers.append(truncated(dlib::matrix<float>(q * cx)(0), dlib::matrix<float>(q * cy)(0)));
     }
     return centers;
 }

@@ -66,7 +66,7 @@ public:
     /// Moves a point towards the side with more green, by at most a pixel per axis for each ray
     /// length from firstStep + 1 to round(radius).
     /// \param image   the green channel
-    /// \param radius  no more steps are made than width and height of the image together
+    /// \param radius  taken as 32767 where it is larger
     /// \param sign    1; with -1 the point moves towards less green
     QPoint seekPatchCenter(const QImage& image, const QPoint& start, double radius, int sign,
                            int firstStep) const;

@@ -10,6 +10,9 @@
 
 namespace ColorCalibration {
 
+/// No seek makes more steps than this.
+inline constexpr int MaxSeekRadius = 32767;
+
 /// Green of an image of bytes, 0 to 1. The image is lent.
 class GreenOfBytes
 {
@@ -67,14 +70,13 @@ float weightedRaySum(const Green& green, QPoint start, int stepY, int stepX, int
 }
 
 /// Moves start by at most a pixel per axis for each ray length from firstStep + 1 to
-/// round(radius). No more steps are made than the image's width and height together, whatever the
-/// radius.
+/// round(radius).
+/// \param radius  taken as MaxSeekRadius where it is larger
 /// \param sign  1 climbs towards more green, -1 away from it
 template <typename Green>
 QPoint seekPatchCenter(const Green& green, QPoint start, double radius, int sign, int firstStep)
 {
-    const qint64 most = qint64(green.width()) + green.height();
-    const qint64 last = qMin<qint64>(saturatedInt(std::round(radius)), most);
+    const qint64 last = qMin(saturatedInt(std::round(radius)), MaxSeekRadius);
     QPoint point = start;
     const auto climb = [sign](float before, float after, int position) {
         if (before == after)
