@@ -3,6 +3,7 @@
 #include "colorcalibrate.h"
 
 #include "computecommand.h"
+#include "findcommand.h"
 #include "measurecommand.h"
 
 #include <algorithm>
@@ -21,8 +22,9 @@ struct Subcommand
     void (*run)(const QStringList& arguments, const Streams& streams);
 };
 
-constexpr std::array<Subcommand, 2> subcommands{{
+constexpr std::array<Subcommand, 3> subcommands{{
     {"compute", "camera settings from 24 measured patch colors", computeCommand},
+    {"find", "the corners of the chart in an image", findCommand},
     {"measure", "the 24 patch colors of an image of the chart", measureCommand},
 }};
 
@@ -32,7 +34,10 @@ void writeHelp(std::ostream& out)
            "Calibrates the colors of machine-vision cameras with a chart of 24 patches.\n\n"
            "Subcommands:\n";
     for (const Subcommand& subcommand : subcommands)
-        out << "  " << subcommand.name << "   " << subcommand.summary << "\n";
+        out << QStringLiteral("  %1%2\n")
+                   .arg(QLatin1String(subcommand.name), -10)
+                   .arg(QLatin1String(subcommand.summary))
+                   .toStdString();
     out << "\nEach subcommand tells its options with --help. Results go to standard output,\n"
            "messages to standard error. Exit codes: 0 success, 1 the work failed, 2 wrong usage.\n";
 }

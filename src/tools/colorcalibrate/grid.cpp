@@ -2,6 +2,7 @@
 // The grid's outline as the user writes it.
 #include "grid.h"
 
+#include "colorcorrectionautochartfinder.h"
 #include "command.h"
 
 #include <QRegularExpression>
@@ -108,6 +109,16 @@ void requireInside(const TrapezoidPoints& grid, const QSize& image)
                     .arg(image.width())
                     .arg(image.height()));
     }
+}
+
+TrapezoidPoints findGrid(const QImage& image)
+{
+    const auto found = ColorCalibration::ColorCorrectionAutoChartFinder().findChart(
+        image.convertToFormat(QImage::Format_RGB32));
+    if (!found.valid)
+        throw CommandError(QStringLiteral("no chart was found in the image; it must stand upright "
+                                          "and fill a good part of it, or give its corners"));
+    return {found.upperLeft, found.upperRight, found.lowerLeft, found.lowerRight};
 }
 
 } // namespace ColorCalibrate

@@ -4,6 +4,7 @@
 
 #include "trapezoidpoints.h"
 
+#include <QImage>
 #include <QSize>
 #include <QString>
 
@@ -17,5 +18,9 @@ ColorCalibration::TrapezoidPoints parseGrid(const QString& text);
 
 /// \throws CommandError  a corner lies outside an image of this size
 void requireInside(const ColorCalibration::TrapezoidPoints& grid, const QSize& image);
+
+/// Looks for the chart in the image, as the wizard does.
+/// \throws CommandError  no chart was found
+ColorCalibration::TrapezoidPoints findGrid(const QImage& image);
 
 } // namespace ColorCalibrate

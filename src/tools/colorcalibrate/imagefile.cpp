@@ -135,11 +135,15 @@ bool hasSixteenBits(const QImage& image)
 
 } // namespace
 
-COstriaImage readCameraImage(const QString& fileName)
+QImage readImage(const QString& fileName)
 {
     QFile file(fileName);
     requireImageFile(file);
-    const QImage image = decode(file);
+    return decode(file);
+}
+
+COstriaImage toCameraImage(const QImage& image, const QString& fileName)
+{
     requireColor(image, fileName);
     return hasSixteenBits(image) ? toRgb16(image) : toRgb8(image);
 }

@@ -4,15 +4,20 @@
 
 #include "ostriaimage.h"
 
+#include <QImage>
 #include <QString>
 
 namespace ColorCalibrate {
 
-/// Reads a colour image of 8 or 16 bits a channel, PNG, TIFF, JPEG or BMP, at its own bit depth:
-/// RGB8 or RGB16. The turn that a photograph's data asks for is carried out. What the decoders
-/// print is not let through, so that an error stays one line.
+/// Reads an image file, PNG, TIFF, JPEG or BMP. The turn that a photograph's data asks for is
+/// carried out. What the decoders print is not let through, so that an error stays one line.
 /// \throws CommandError  naming the file and what is wrong: it cannot be opened, is no image, is
-///         truncated, has more than 2^28 pixels, is gray, has a palette, or is transparent anywhere
-Ostria::COstriaImage readCameraImage(const QString& fileName);
+///         truncated, or has more than 2^28 pixels
+QImage readImage(const QString& fileName);
+
+/// The image at its own bit depth, RGB8 or RGB16, for measuring.
+/// \param fileName  for messages
+/// \throws CommandError  the image is gray, has a palette, or is transparent anywhere
+Ostria::COstriaImage toCameraImage(const QImage& image, const QString& fileName);
 
 } // namespace ColorCalibrate

@@ -5,6 +5,7 @@
 #include "chartdiscriminator.h"
 #include "commandline.h"
 #include "grid.h"
+#include "gridpicture.h"
 #include "imagefile.h"
 #include "jsonvalues.h"
 #include "patchcolorconversion.h"
@@ -21,9 +22,6 @@ using namespace ColorCalibration;
 
 namespace ColorCalibrate {
 namespace {
-
-/// Share of a cell's width and height that is measured, as in the wizard.
-constexpr int patchAreaPercent = 70;
 
 /// Which patches were too small, as the colours that were measured have moved up.
 [[noreturn]] void failOnSmallPatches(ChartDiscriminator& discriminator,
@@ -64,8 +62,11 @@ void measureCommand(const QStringList& arguments, const Streams& streams)
                        "255, as \"colorcalibrate compute\" reads them."));
     line.addOption(QStringLiteral("grid"),
                    QStringLiteral("The chart's corners in image pixels: upper left, upper right, "
-                                  "lower left, lower right."),
+                                  "lower left, lower right; or \"auto\" to look for it."),
                    QStringLiteral("points"));
+    line.addOption(QStringLiteral("draw"),
+                   QStringLiteral("Save the image as PNG with the grid painted over it."),
+                   QStringLiteral("file"));
     line.addFlag(
         QStringLiteral("linearize"),
         QStringLiteral("Take off the sRGB curve, which photographs and screenshots carry."));
@@ -73,10 +74,19 @@ void measureCommand(const QStringList& arguments, const Streams& streams)
     if (!line.parse(arguments, 1, streams.out))
         return;
 
-    const TrapezoidPoints grid = parseGrid(line.requiredValue(QStringLiteral("grid")));
-    const Ostria::COstriaImage image = readCameraImage(line.positional(0));
-    requireInside(grid, {image.width(), image.height()});
+    const QString gridText = line.requiredValue(QStringLiteral("grid"));
+    const bool isAuto = gridText == QLatin1String("auto");
+    TrapezoidPoints grid;
+    if (!isAuto)
+        grid = parseGrid(gridText);
+    const QImage picture = readImage(line.positional(0));
+    const Ostria::COstriaImage image = toCameraImage(picture, line.positional(0));
+    if (isAuto)
+        grid = findGrid(picture);
+    requireInside(grid, picture.size());
     const PatchColors colors = measure(image, grid, line.isSet(QStringLiteral("linearize")));
+    if (line.isSet(QStringLiteral("draw")))
+        saveGridPicture(picture, grid, line.value(QStringLiteral("draw")));
     if (line.isSet(QStringLiteral("json")))
         streams.out
             << toJsonText(QJsonObject{{QStringLiteral("colors"), toJson(colors)}}).toStdString()

@@ -9,7 +9,7 @@ TEST(ColorCalibrateTool, ExplainsItself)
     const Outcome help = runTool({QStringLiteral("--help")});
     EXPECT_EQ(help.code, 0);
     EXPECT_EQ(help.err, "");
-    const std::string names[] = {"compute", "measure"};
+    const std::string names[] = {"compute", "find", "measure"};
     for (const std::string& name : names) {
         EXPECT_NE(help.out.find(name), std::string::npos);
         const Outcome own = runTool({QString::fromStdString(name), QStringLiteral("--help")});

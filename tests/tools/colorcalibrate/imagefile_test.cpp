@@ -14,13 +14,18 @@ using Ostria::COstriaImage;
 
 namespace {
 
+COstriaImage cameraImage(const QString& file)
+{
+    return toCameraImage(readImage(file), file);
+}
+
 class ImageFile : public CommandTest
 {
 protected:
     static void expectRefused(const QString& file, const char* word)
     {
         try {
-            readCameraImage(file);
+            cameraImage(file);
             ADD_FAILURE() << "accepted: " << file.toStdString();
         } catch (const CommandError& error) {
             const QString message = QString::fromUtf8(error.what());
@@ -66,7 +71,7 @@ TEST_F(ImageFile, ReadsSixteenBitsFromPngAndTiff)
     for (const char* name : {"a.png", "a.tif"}) {
         SCOPED_TRACE(name);
         ASSERT_TRUE(image.save(path(QLatin1String(name))));
-        const COstriaImage read = readCameraImage(path(QLatin1String(name)));
+        const COstriaImage read = cameraImage(path(QLatin1String(name)));
         EXPECT_EQ(read.width(), 31);
         EXPECT_EQ(read.height(), 17);
         expectPixel(read, 0, 0, 16, 1, 2, 3);
@@ -81,12 +86,12 @@ TEST_F(ImageFile, ReadsEightBitsFromPngTiffBmpAndJpeg)
     for (const char* name : {"a.png", "a.tif", "a.bmp"}) {
         SCOPED_TRACE(name);
         ASSERT_TRUE(image.save(path(QLatin1String(name))));
-        const COstriaImage read = readCameraImage(path(QLatin1String(name)));
+        const COstriaImage read = cameraImage(path(QLatin1String(name)));
         EXPECT_EQ(read.width(), 31);
         expectPixel(read, 30, 16, 8, 200, 100, 50);
     }
     ASSERT_TRUE(image.save(path(QStringLiteral("a.jpg")), nullptr, 100));
-    expectPixel(readCameraImage(path(QStringLiteral("a.jpg"))), 30, 16, 8, 200, 100, 50, 2);
+    expectPixel(cameraImage(path(QStringLiteral("a.jpg"))), 30, 16, 8, 200, 100, 50, 2);
 }
 
 TEST_F(ImageFile, GoesByContentNotByName)
@@ -94,7 +99,7 @@ TEST_F(ImageFile, GoesByContentNotByName)
     QImage image(8, 8, QImage::Format_RGB32);
     image.fill(Qt::red);
     ASSERT_TRUE(image.save(path(QStringLiteral("a.jpg")), "PNG"));
-    expectPixel(readCameraImage(path(QStringLiteral("a.jpg"))), 0, 0, 8, 255, 0, 0);
+    expectPixel(cameraImage(path(QStringLiteral("a.jpg"))), 0, 0, 8, 255, 0, 0);
 }
 
 TEST_F(ImageFile, TakesAnAlphaChannelThatHidesNothing)
@@ -102,7 +107,7 @@ TEST_F(ImageFile, TakesAnAlphaChannelThatHidesNothing)
     QImage image(8, 8, QImage::Format_ARGB32);
     image.fill(QColor(1, 2, 3, 255));
     ASSERT_TRUE(image.save(path(QStringLiteral("a.png"))));
-    expectPixel(readCameraImage(path(QStringLiteral("a.png"))), 7, 7, 8, 1, 2, 3);
+    expectPixel(cameraImage(path(QStringLiteral("a.png"))), 7, 7, 8, 1, 2, 3);
 }
 
 TEST_F(ImageFile, RefusesTransparency)
@@ -144,7 +149,7 @@ TEST_F(ImageFile, RefusesTruncatedFiles)
 {
     for (const char* name : {"a.png", "a.tif", "a.bmp", "a.jpg"}) {
         const QString whole = writeChart(QLatin1String(name), QImage::Format_RGB32, 256);
-        EXPECT_NO_THROW(readCameraImage(whole));
+        EXPECT_NO_THROW(cameraImage(whole));
         for (const double share : {0.5, 0.9, 0.999}) {
             SCOPED_TRACE(share);
             expectRefused(cutOff(whole, share), "truncated");
@@ -161,7 +166,7 @@ TEST_F(ImageFile, IsNotFooledByTheEndOfAThumbnail)
                              10);
     QByteArray content = contentOf(whole);
     content.insert(2, segment);
-    EXPECT_NO_THROW(readCameraImage(writeFile(QStringLiteral("thumbnail.jpg"), content)));
+    EXPECT_NO_THROW(cameraImage(writeFile(QStringLiteral("thumbnail.jpg"), content)));
     content.truncate(content.size() * 2 / 3);
     expectRefused(writeFile(QStringLiteral("cut.jpg"), content), "truncated");
 }
@@ -173,7 +178,7 @@ TEST_F(ImageFile, TurnsAPhotographAsItsDataAsks)
     QImageWriter writer(path(QStringLiteral("turned.jpg")), "jpg");
     writer.setTransformation(QImageIOHandler::TransformationRotate90);
     ASSERT_TRUE(writer.write(image));
-    const COstriaImage read = readCameraImage(path(QStringLiteral("turned.jpg")));
+    const COstriaImage read = cameraImage(path(QStringLiteral("turned.jpg")));
     EXPECT_EQ(read.width(), 10);
     EXPECT_EQ(read.height(), 20);
 }
@@ -183,11 +188,11 @@ TEST_F(ImageFile, ReadsImagesOfOnePixelAndOfExtremeWidth)
     QImage pixel(1, 1, QImage::Format_RGB32);
     pixel.fill(Qt::red);
     ASSERT_TRUE(pixel.save(path(QStringLiteral("one.png"))));
-    EXPECT_EQ(readCameraImage(path(QStringLiteral("one.png"))).width(), 1);
+    EXPECT_EQ(cameraImage(path(QStringLiteral("one.png"))).width(), 1);
     QImage strip(30000, 3, QImage::Format_RGB32);
     strip.fill(Qt::red);
     ASSERT_TRUE(strip.save(path(QStringLiteral("strip.png"))));
-    expectPixel(readCameraImage(path(QStringLiteral("strip.png"))), 29999, 2, 8, 255, 0, 0);
+    expectPixel(cameraImage(path(QStringLiteral("strip.png"))), 29999, 2, 8, 255, 0, 0);
 }
 
 TEST_F(ImageFile, RefusesSizesThatNoCameraHas)
@@ -205,6 +210,6 @@ TEST_F(ImageFile, KeepsTheDecodersQuiet)
 {
     const QString cut = cutOff(writeChart(QStringLiteral("a.png"), QImage::Format_RGB32, 256), 0.7);
     testing::internal::CaptureStderr();
-    EXPECT_THROW(readCameraImage(cut), CommandError);
+    EXPECT_THROW(cameraImage(cut), CommandError);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
