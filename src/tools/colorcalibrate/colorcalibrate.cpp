@@ -67,9 +67,14 @@ void dispatch(const QStringList& arguments, const Streams& streams)
     found->run(arguments.mid(1), streams);
 }
 
+/// One line whatever file names and arguments hold.
 int report(std::ostream& err, const char* message, ExitCode code)
 {
-    err << "colorcalibrate: " << message << "\n";
+    QString line = QString::fromUtf8(message);
+    for (QChar& character : line)
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QLatin1Char('?');
+    err << "colorcalibrate: " << line.toStdString() << "\n";
     return code;
 }
 

@@ -2,20 +2,11 @@
 // One run of the engine with all that is to be shown of it.
 #pragma once
 
-#include "patchcolors.h"
+#include "patchdeltas.h"
 
 #include <array>
 
 namespace ColorCalibrate {
-
-/// How far the patches are from their targets.
-struct Deltas
-{
-    std::array<double, ColorCalibration::PatchCount> deltaE;
-    std::array<double, ColorCalibration::PatchCount> deltaC;
-    double meanDeltaE;
-    double meanDeltaC;
-};
 
 /// The colours behind one step of the chain.
 struct StepResult

@@ -4,12 +4,10 @@
 
 #include "jsonvalues.h"
 #include "patchcolorconversion.h"
+#include "patchtable.h"
 
-#include <QColor>
 #include <QString>
-#include <QVector>
 
-#include <algorithm>
 #include <ostream>
 
 using namespace ColorCalibration;
@@ -24,48 +22,6 @@ constexpr std::array<const char*, sectors> sectorNames{"red",  "yellow", "green"
 QString number(double value)
 {
     return QString::asprintf("%9.4f", value);
-}
-
-QString deltaRow(double beforeE, double afterE, double beforeC, double afterC)
-{
-    return QString::asprintf("%8.2f%8.2f  %8.2f%8.2f", beforeE, afterE, beforeC, afterC);
-}
-
-void writePatches(std::ostream& out, const Computation& computation)
-{
-    const QVector<QColor> measured = toQColors(computation.steps.front().colors, true);
-    const QVector<QColor> corrected = toQColors(computation.steps.back().colors, true);
-    const QVector<QColor> targets = toQColors(computation.targets, true);
-    out << "Patch  Measured  Corrected  Target       Delta E           Delta C\n"
-           "                                      before   after    before   after\n";
-    for (int i = 0; i < PatchCount; ++i) {
-        const auto patch = static_cast<std::size_t>(i);
-        out << QStringLiteral("%1  %2   %3    %4  %5\n")
-                   .arg(i + 1, 5)
-                   .arg(measured.at(i).name(), corrected.at(i).name(), targets.at(i).name(),
-                        deltaRow(computation.before.deltaE[patch], computation.after.deltaE[patch],
-                                 computation.before.deltaC[patch], computation.after.deltaC[patch]))
-                   .toStdString();
-    }
-}
-
-template <typename Values>
-double largest(const Values& values)
-{
-    return *std::max_element(values.begin(), values.end());
-}
-
-void writeSummary(std::ostream& out, const Deltas& before, const Deltas& after)
-{
-    const QString indent = QStringLiteral("%1").arg(QString(), 29);
-    out << "Mean" << indent.toStdString() << "  "
-        << deltaRow(before.meanDeltaE, after.meanDeltaE, before.meanDeltaC, after.meanDeltaC)
-               .toStdString()
-        << "\nMax " << indent.toStdString() << "  "
-        << deltaRow(largest(before.deltaE), largest(after.deltaE), largest(before.deltaC),
-                    largest(after.deltaC))
-               .toStdString()
-        << "\n";
 }
 
 void writeSectors(std::ostream& out, const char* title, const ColorAdjustment& adjustment, int from)
@@ -119,9 +75,11 @@ QJsonObject stepsJson(const Computation& computation)
 
 void writeText(std::ostream& out, const Computation& computation)
 {
-    writePatches(out, computation);
-    out << "\n";
-    writeSummary(out, computation.before, computation.after);
+    writePatchTable(out,
+                    {"Measured", "Corrected", toQColors(computation.steps.front().colors, true),
+                     toQColors(computation.steps.back().colors, true),
+                     toQColors(computation.targets, true)},
+                    computation.before, computation.after);
     out << "\n";
     writeSettings(out, computation);
 }
