@@ -27,6 +27,6 @@ constexpr int chartFrame = 24;
 constexpr int besideChart = 25;
 
 /// Width of the frame around the cells, in cells.
-constexpr double chartFrameWidth = 0.3;
+constexpr double chartFrameWidth = 0.15;
 
 } // namespace Cameras::Emulation
