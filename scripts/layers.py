@@ -16,7 +16,9 @@ LAYERS = {
         "src/ostria",
         "src/ostriaviewer/core",
         "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/emulation/renderer",
     ],
+    "src/ostriaviewer/cameras/emulation/renderer": ["src/ostria"],
     "src/ostriaviewer/app": [
         "src/ostria",
         "src/ostriaviewer/core",
@@ -46,7 +48,7 @@ DLIB = re.compile(r"dlib/.*")
 OPENCV = re.compile(r"opencv2/.*")
 ARAVIS = re.compile(r"arv.*\.h|glib.*|gio/.*|gobject/.*")
 ENGINE = f"{PLUGIN}/internal/model/calibration"
-WITHOUT_QT = ["src/ostria", ENGINE]
+WITHOUT_QT = ["src/ostria", "src/ostriaviewer/cameras/emulation/renderer", ENGINE]
 LIBRARIES = [
     ("Qt", QT, [layer for layer in LAYERS if layer not in WITHOUT_QT], (".h", ".cpp")),
     ("dlib", DLIB, [f"{ENGINE}/dlibmatrix.h"], (".h",)),
