@@ -142,10 +142,14 @@ void setGamma(const FeatureValues& values, PipelineSettings& settings)
 
 } // namespace
 
+PixelType wantedPixelType(const FeatureValues& values)
+{
+    return static_cast<PixelType>(static_cast<int>(values.value(QStringLiteral("PixelFormat"))));
+}
+
 bool isProcessedRaw(const FeatureValues& values)
 {
-    const auto type =
-        static_cast<PixelType>(static_cast<int>(values.value(QStringLiteral("PixelFormat"))));
+    const PixelType type = wantedPixelType(values);
     return isOn(values, QStringLiteral("ProcessedRawEnable")) &&
            (type == PixelType::BayerRG8 || type == PixelType::BayerRG12);
 }
@@ -165,11 +169,7 @@ PipelineSettings pipelineSettings(const FeatureValues& values)
     settings.testImage =
         static_cast<TestImage>(static_cast<int>(first(values, {"TestPattern", "TestImageSelector"},
                                                       0.0)));
-    settings.pixelFormat =
-        isProcessedRaw(values)
-            ? PixelType::RGB8
-            : static_cast<PixelType>(
-                  static_cast<int>(values.value(QStringLiteral("PixelFormat"))));
+    settings.pixelFormat = isProcessedRaw(values) ? PixelType::RGB8 : wantedPixelType(values);
     return settings;
 }
 

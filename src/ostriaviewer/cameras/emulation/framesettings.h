@@ -15,6 +15,9 @@ namespace Cameras::Emulation {
 /// is to be sampled by toMosaic. Reentrant.
 PipelineSettings pipelineSettings(const FeatureValues& values);
 
+/// The pixel type that is to be delivered. Reentrant.
+Ostria::PixelType wantedPixelType(const FeatureValues& values);
+
 /// Whether the mosaic is to be sampled from finished colors.
 bool isProcessedRaw(const FeatureValues& values);
 

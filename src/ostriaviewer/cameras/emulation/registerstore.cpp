@@ -43,12 +43,16 @@ double decode(const FeatureDefinition& feature, const void* data)
 
 } // namespace
 
-RegisterStore::RegisterStore(std::shared_ptr<const FeatureTable> table, WriteHook hook)
+RegisterStore::RegisterStore(std::shared_ptr<const FeatureTable> table)
     : m_table(std::move(table))
     , m_layout(*m_table)
-    , m_hook(std::move(hook))
     , m_values(m_table)
 {}
+
+void RegisterStore::setWriteHook(WriteHook hook)
+{
+    m_hook = std::move(hook);
+}
 
 RegisterLayout::Place RegisterStore::checkedPlace(std::uint64_t address, std::size_t size) const
 {

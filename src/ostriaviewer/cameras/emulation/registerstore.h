@@ -26,8 +26,12 @@ public:
     /// write is undone and refused.
     using WriteHook = std::function<void(const FeatureDefinition& feature, int cell)>;
 
-    explicit RegisterStore(std::shared_ptr<const FeatureTable> table, WriteHook hook = {});
+    explicit RegisterStore(std::shared_ptr<const FeatureTable> table);
 
+    /// To be set while no client uses the store.
+    void setWriteHook(WriteHook hook);
+
+    const std::shared_ptr<const FeatureTable>& table() const { return m_table; }
     const RegisterLayout& layout() const { return m_layout; }
 
     void read(std::uint64_t address, void* data, std::size_t size) override;
@@ -57,7 +61,7 @@ private:
 
     const std::shared_ptr<const FeatureTable> m_table;
     const RegisterLayout m_layout;
-    const WriteHook m_hook;
+    WriteHook m_hook;
 
     mutable std::mutex m_mutex; // guards all below
     FeatureValues m_values;

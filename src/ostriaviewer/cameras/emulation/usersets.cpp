@@ -82,21 +82,21 @@ void UserSets::read()
             m_startUpSet = startUp;
 }
 
-FeatureValues UserSets::load(const QString& set) const
+void UserSets::load(const QString& set, FeatureValues& values) const
 {
-    FeatureValues values(m_table);
-    if (set == factorySet)
-        return values;
     const QJsonObject stored = m_sets.value(set).toObject();
     for (int i = 0; i < m_table->size(); ++i) {
         const FeatureDefinition& feature = m_table->at(i);
-        if (isSaved(feature) && stored.contains(feature.name))
+        if (!isSaved(feature))
+            continue;
+        for (int cell = 0; cell < m_table->cellCount(feature); ++cell)
+            values.set(feature.name, FeatureTable::initialValue(feature, cell), cell);
+        if (set != factorySet)
             apply(feature, stored.value(feature.name).toArray(), values);
     }
     for (int i = 0; i < m_table->size(); ++i)
         if (isSaved(m_table->at(i)))
             repair(m_table->at(i), values);
-    return values;
 }
 
 void UserSets::save(const QString& set, const FeatureValues& values)

@@ -21,8 +21,9 @@ public:
     /// \param file  path; its folder is made when it is needed
     UserSets(std::shared_ptr<const FeatureTable> table, const QString& file);
 
-    /// The values of a set: the factory's for "Default" and for a set that was never saved.
-    FeatureValues load(const QString& set) const;
+    /// Lays the values of a set over others; those that sets do not hold stay. "Default" and a set
+    /// that was never saved have the factory's.
+    void load(const QString& set, FeatureValues& values) const;
 
     /// Puts all values that can be saved into a set.
     /// \throws ::GenICam::RuntimeException  the file cannot be written; nothing has changed then

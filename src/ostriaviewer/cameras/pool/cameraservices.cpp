@@ -87,14 +87,23 @@ CameraControlService::CameraControlService(const QSharedPointer<CameraStatusServ
 CameraPtr CameraControlService::getExclusiveAccess(const CameraPtr& camera)
 {
     const HostCameraPtr known = hostCamera(camera);
-    return known && known->isOpen() ? known->takeExclusiveAccess() : CameraPtr();
+    if (!known)
+        return {};
+    if (known->isOpen())
+        return known->takeExclusiveAccess();
+    known->setLastError(tr("The camera is not open."));
+    return {};
 }
 
 CameraPtr CameraControlService::openWithExclusiveAccess(const CameraPtr& camera)
 {
     const HostCameraPtr known = hostCamera(camera);
-    if (!known || known->isOpen())
+    if (!known)
         return {};
+    if (known->isOpen()) {
+        known->setLastError(tr("The camera is open already."));
+        return {};
+    }
     const CameraPtr handle = known->takeExclusiveAccess();
     if (!handle || !known->open())
         return {};

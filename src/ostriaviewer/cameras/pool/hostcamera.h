@@ -53,6 +53,7 @@ public:
 
     QString lastErrorText() const final;
     void clearLastError() final;
+    void setLastError(const QString& text);
 
 protected:
     HostCamera() = default;
@@ -62,8 +63,6 @@ protected:
 
     /// The time-out of a single image that nobody gave one for.
     virtual int defaultTimeoutMs() const = 0;
-
-    void setLastError(const QString& text);
 
     /// Announces an image, to be called on the camera's thread.
     void deliver(const Ostria::CGrabResultPtr& result);
