@@ -4,6 +4,7 @@
 
 #include "registerport.h"
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -38,6 +39,9 @@ public:
     /// that those that changed with them say so. Costs a few register reads for each parameter
     /// that somebody is connected to. Does nothing after disconnect.
     void refresh();
+
+    /// How long a command may take before its execution counts as failed. 5 s if never set.
+    void setCommandTimeout(std::chrono::milliseconds timeout);
 
     /// For the other files of this folder.
     NodeMapPrivate& d() const { return *m_private; }

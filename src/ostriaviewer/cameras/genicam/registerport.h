@@ -27,7 +27,8 @@ public:
     virtual void read(std::uint64_t address, void* data, std::size_t size) = 0;
 
     /// Writes registers. Whatever the write sets off has happened when it returns, or can be seen
-    /// in the registers while it goes on.
+    /// in the registers while it goes on: a command's register reads back as the command's value
+    /// until the command is done, then as anything else (0 by custom).
     /// \param data  size bytes; lent for the call
     /// \throws ::GenICam::RuntimeException  the device refuses, with its reason
     virtual void write(std::uint64_t address, const void* data, std::size_t size) = 0;
