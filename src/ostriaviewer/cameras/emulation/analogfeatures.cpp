@@ -70,8 +70,7 @@ void addGain(FeatureTable& table, bool first)
         .selectedBy(gainSelector)
         .lockedBy(unlessOff(gainAuto))
         .inUnit(QStringLiteral("dB"));
-    addAutoLimits(table, QStringLiteral("AutoGain"), false, {0.0}, 0.0, {highestGain},
-                  highestGain);
+    addAutoLimits(table, QStringLiteral("AutoGain"), false, {0.0}, 0.0, {highestGain}, highestGain);
 }
 
 void addBlackLevel(FeatureTable& table, bool first)

@@ -38,8 +38,7 @@ double clampedTo(const FeatureValues& values, const QString& limits, double valu
 double adjustExposure(const FeatureValues& values, double ratio, RegisterStore& store)
 {
     const QString old = QStringLiteral("ExposureTimeAbs");
-    const QString name =
-        values.table().find(old) ? old : QStringLiteral("ExposureTime");
+    const QString name = values.table().find(old) ? old : QStringLiteral("ExposureTime");
     const double before = values.value(name);
     const double after = clampedTo(values, QStringLiteral("Auto") + name, before * ratio);
     store.set(name, after);
@@ -105,8 +104,8 @@ FrameLevels measureLevels(const Ostria::COstriaImage& image)
         pixels += width;
     }
     const bool isMosaic = info.layout == Ostria::PixelLayout::Bayer;
-    const std::array<double, 3> share = isMosaic ? std::array<double, 3>{0.25, 0.5, 0.25}
-                                                 : std::array<double, 3>{1.0, 1.0, 1.0};
+    const std::array<double, 3> share =
+        isMosaic ? std::array<double, 3>{0.25, 0.5, 0.25} : std::array<double, 3>{1.0, 1.0, 1.0};
     const double fullScale = std::exp2(info.bitDepth) - 1.0;
     for (std::size_t channel = 0; channel < 3; ++channel)
         sums[channel] /= pixels * share[channel] * fullScale;

@@ -28,7 +28,8 @@ Condition whileRaw()
 void addWhiteBalance(FeatureTable& table, bool first)
 {
     const QString selector = QStringLiteral("BalanceRatioSelector");
-    const QString ratio = first ? QStringLiteral("BalanceRatioAbs") : QStringLiteral("BalanceRatio");
+    const QString ratio =
+        first ? QStringLiteral("BalanceRatioAbs") : QStringLiteral("BalanceRatio");
     const QString raw = QStringLiteral("BalanceRatioRaw");
     table.enumeration(
         QStringLiteral("BalanceWhiteAuto"),
@@ -55,11 +56,10 @@ void addLightSource(FeatureTable& table, FeatureNames names)
                            QStringLiteral("Daylight"), QStringLiteral("Tungsten")});
         return;
     }
-    table.enumeration(names == FeatureNames::SecondGeneration
-                          ? QStringLiteral("LightSourcePreset")
-                          : QStringLiteral("TvrLightSourcePreset"),
-                      {QStringLiteral("Off"), QStringLiteral("Daylight5000K"),
-                       QStringLiteral("Tungsten2800K")});
+    table.enumeration(
+        names == FeatureNames::SecondGeneration ? QStringLiteral("LightSourcePreset")
+                                                : QStringLiteral("TvrLightSourcePreset"),
+        {QStringLiteral("Off"), QStringLiteral("Daylight5000K"), QStringLiteral("Tungsten2800K")});
 }
 
 void addMatrix(FeatureTable& table)

@@ -312,8 +312,8 @@ void Writer::writeBound(const QString& name, const Bound& bound, FeatureKind kin
 {
     if (bound.feature.isEmpty())
         return;
-    const QString text = QStringLiteral("%1+(%2)*%3")
-                             .arg(number(bound.constant), number(bound.factor), variable(0));
+    const QString text =
+        QStringLiteral("%1+(%2)*%3").arg(number(bound.constant), number(bound.factor), variable(0));
     writeFormula(kind == FeatureKind::Float ? QStringLiteral("SwissKnife")
                                             : QStringLiteral("IntSwissKnife"),
                  name, {valueNode(bound.feature)}, text);

@@ -30,11 +30,10 @@ std::shared_ptr<const FeatureTable> tableOf(const CameraModel& model, const QStr
 
 QString settingsFile(const CameraModel& model, const EmulationOptions& options)
 {
-    const QString folder =
-        options.settingsFolder.isEmpty()
-            ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                  QStringLiteral("/cameras")
-            : options.settingsFolder;
+    const QString folder = options.settingsFolder.isEmpty()
+                               ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                                     QStringLiteral("/cameras")
+                               : options.settingsFolder;
     return folder + QLatin1Char('/') + model.serialNumber + QStringLiteral(".json");
 }
 
@@ -133,7 +132,9 @@ void EmulatedCamera::makeLoop()
     if (m_loop)
         return;
     const QWeakPointer<HostCamera> weak = sharedFromThis();
-    const auto camera = [weak] { return weak.toStrongRef().staticCast<EmulatedCamera>(); };
+    const auto camera = [weak] {
+        return weak.toStrongRef().staticCast<EmulatedCamera>();
+    };
     m_loop = std::make_unique<FrameLoop>(
         [camera](std::uint64_t number) {
             const auto self = camera();
@@ -282,8 +283,8 @@ FrameLoop::Frame EmulatedCamera::takeFrame(std::uint64_t number)
     frame.period = std::max(framePeriod(values, m_model.readoutTime), frame.exposure);
     if (fate.lost)
         return frame;
-    frame.result = fate.failed ? failure("The frame is incomplete.", number)
-                               : render(*opened, values, number);
+    frame.result =
+        fate.failed ? failure("The frame is incomplete.", number) : render(*opened, values, number);
     if (frame.result->GrabSucceeded() && isAnyAutoFunctionOn(values)) {
         runAutoFunctions(measureLevels(frame.result->image()), *m_store);
         opened->nodeMap->refresh();

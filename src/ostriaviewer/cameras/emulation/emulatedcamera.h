@@ -24,7 +24,7 @@ struct EmulationOptions
 {
     QString settingsFolder;      ///< for the user sets; empty: the application's data folder
     QStringList missingFeatures; ///< features that this camera is to be without
-    Scene scene;                 ///< what stands before the camera
+    Scene scene = Scene();       ///< what stands before the camera
 };
 
 /// An emulated camera: a GenICam description over registers, and a renderer that turns the values

@@ -23,7 +23,7 @@ struct Condition
 struct Bound
 {
     double constant = 0.0;
-    QString feature; ///< none: the constant alone
+    QString feature = {}; ///< none: the constant alone
     double factor = 1.0;
 };
 
@@ -31,8 +31,8 @@ struct EntryDefinition
 {
     QString name;
     qint64 value = 0;
-    QString displayName;                    ///< empty: the name
-    std::optional<Condition> availableWhile; ///< none: always
+    QString displayName = {};                     ///< empty: the name
+    std::optional<Condition> availableWhile = {}; ///< none: always
 };
 
 /// Two features that show one value: the other one is this one times factor.
@@ -62,9 +62,9 @@ struct FeatureDefinition
     QString text;                    ///< String only
     Bound minimum;
     Bound maximum;
-    qint64 increment = 1;  ///< Integer only
-    int stepsPerUnit = 0;  ///< Float only: the resolution is 1/stepsPerUnit
-    QString unit;          ///< Float only
+    qint64 increment = 1; ///< Integer only
+    int stepsPerUnit = 0; ///< Float only: the resolution is 1/stepsPerUnit
+    QString unit;         ///< Float only
     QVector<EntryDefinition> entries;
 
     QString selector; ///< the feature that chooses the cell, empty if there is one cell

@@ -45,8 +45,8 @@ public:
     /// A register that no client sees.
     FeatureDefinition& hidden(const QString& name);
 
-    /// Takes features out, and the conditions and limits that depend on them. Where a selector goes,
-    /// the first cell stays.
+    /// Takes features out, and the conditions and limits that depend on them. Where a selector
+    /// goes, the first cell stays.
     void remove(const QStringList& names);
 
     /// \return  null if there is none

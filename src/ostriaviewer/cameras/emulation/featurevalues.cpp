@@ -11,9 +11,10 @@ namespace {
 
 const EntryDefinition* findEntry(const FeatureDefinition& feature, double value)
 {
-    const auto match = std::find_if(
-        feature.entries.begin(), feature.entries.end(),
-        [value](const EntryDefinition& entry) { return static_cast<double>(entry.value) == value; });
+    const auto match = std::find_if(feature.entries.begin(), feature.entries.end(),
+                                    [value](const EntryDefinition& entry) {
+                                        return static_cast<double>(entry.value) == value;
+                                    });
     return match == feature.entries.end() ? nullptr : &*match;
 }
 

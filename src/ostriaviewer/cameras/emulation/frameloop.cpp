@@ -41,8 +41,7 @@ struct FrameLoop::State
     }
 
     // Waits until a time; false as soon as something else is asked for.
-    bool waitUntil(std::unique_lock<std::mutex>& lock, Clock::time_point time,
-                   std::uint64_t wanted)
+    bool waitUntil(std::unique_lock<std::mutex>& lock, Clock::time_point time, std::uint64_t wanted)
     {
         return !changed.wait_until(lock, time, [&] { return request != wanted; });
     }

@@ -166,9 +166,8 @@ PipelineSettings pipelineSettings(const FeatureValues& values)
     setGamma(values, settings);
     if (isOn(values, QStringLiteral("DemosaicingMode")))
         settings.demosaicing = Demosaicing::HighQuality;
-    settings.testImage =
-        static_cast<TestImage>(static_cast<int>(first(values, {"TestPattern", "TestImageSelector"},
-                                                      0.0)));
+    settings.testImage = static_cast<TestImage>(
+        static_cast<int>(first(values, {"TestPattern", "TestImageSelector"}, 0.0)));
     settings.pixelFormat = isProcessedRaw(values) ? PixelType::RGB8 : wantedPixelType(values);
     return settings;
 }
@@ -208,9 +207,8 @@ std::chrono::microseconds framePeriod(const FeatureValues& values, double readou
 {
     double period = readoutTime;
     if (isOn(values, QStringLiteral("AcquisitionFrameRateEnable")))
-        period = std::max(period, 1e6 / first(values, {"AcquisitionFrameRate",
-                                                       "AcquisitionFrameRateAbs"},
-                                              1.0));
+        period = std::max(
+            period, 1e6 / first(values, {"AcquisitionFrameRate", "AcquisitionFrameRateAbs"}, 1.0));
     return std::max(std::chrono::microseconds(std::llround(period)), exposureTime(values));
 }
 

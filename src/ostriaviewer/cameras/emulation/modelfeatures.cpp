@@ -116,8 +116,7 @@ void addUserSetFeatures(FeatureTable& table)
     table.beginCategory(QStringLiteral("UserSetControl"));
     table.enumeration(QStringLiteral("UserSetSelector"), sets).notSaved();
     table.command(QStringLiteral("UserSetLoad")).lockedBy(whileAcquiring());
-    table.command(QStringLiteral("UserSetSave"))
-        .lockedBy({QStringLiteral("UserSetSelector"), {0}});
+    table.command(QStringLiteral("UserSetSave")).lockedBy({QStringLiteral("UserSetSelector"), {0}});
     table.enumeration(QStringLiteral("UserSetDefault"), sets).notSaved();
 }
 

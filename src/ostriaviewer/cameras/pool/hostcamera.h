@@ -32,6 +32,8 @@ public:
 
     ~HostCamera() override;
 
+    QString modelName() const override = 0; // both faces have it
+
     /// The cameras of one group stand together in lists.
     virtual QString groupName() const = 0;
 
