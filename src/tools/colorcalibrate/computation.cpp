@@ -61,16 +61,16 @@ Computation compute(const PatchColors& measured)
     ColorCalibrationV1 engine;
     engine.SetStepColors(StepKey::Original, measured);
     Computation computation{};
-    auto& [red, green, blue] = computation.whiteBalance;
+    auto& [red, green, blue] = computation.settings.whiteBalance;
     engine.ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
     engine.GetWhiteBalance(red, green, blue);
-    requireFinite(computation.whiteBalance);
+    requireFinite(computation.settings.whiteBalance);
 
     executeAll(engine);
     engine.GetWhiteBalance(red, green, blue);
-    engine.GetColorMatrix(computation.colorMatrix);
-    engine.GetColorAdjustment(computation.colorAdjustment);
-    engine.GetGamma(computation.gamma);
+    engine.GetColorMatrix(computation.settings.colorMatrix);
+    engine.GetColorAdjustment(computation.settings.colorAdjustment);
+    engine.GetGamma(computation.settings.gamma);
     for (std::size_t i = 0; i < stepNames.size(); ++i) {
         const int step = static_cast<int>(i);
         computation.steps[i] = {stepNames[i], engine.GetStepColors(step),

@@ -2,6 +2,7 @@
 // One run of the engine with all that is to be shown of it.
 #pragma once
 
+#include "calibrationsettings.h"
 #include "patchdeltas.h"
 
 #include <array>
@@ -18,10 +19,7 @@ struct StepResult
 
 struct Computation
 {
-    std::array<double, 3> whiteBalance; ///< gains red, green, blue
-    ColorCalibration::ColorMatrix colorMatrix;
-    ColorCalibration::ColorAdjustment colorAdjustment;
-    double gamma;
+    ColorCalibration::CalibrationSettings settings;
     double meanDeltaE; ///< behind the last step
     std::array<StepResult, 5> steps;
     ColorCalibration::PatchColors targets;

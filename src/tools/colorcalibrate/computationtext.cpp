@@ -5,8 +5,7 @@
 #include "jsonvalues.h"
 #include "patchcolorconversion.h"
 #include "patchtable.h"
-
-#include <QString>
+#include "settingstext.h"
 
 #include <ostream>
 
@@ -14,52 +13,6 @@ using namespace ColorCalibration;
 
 namespace ColorCalibrate {
 namespace {
-
-constexpr int sectors = 6;
-constexpr std::array<const char*, sectors> sectorNames{"red",  "yellow", "green",
-                                                       "cyan", "blue",   "magenta"};
-
-QString number(double value)
-{
-    return QString::asprintf("%9.4f", value);
-}
-
-void writeSectors(std::ostream& out, const char* title, const ColorAdjustment& adjustment, int from)
-{
-    out << title;
-    for (int i = 0; i < sectors; ++i)
-        out << number(adjustment(from + i)).toStdString();
-    out << "\n";
-}
-
-void writeSettings(std::ostream& out, const Computation& computation)
-{
-    out << "White balance  ";
-    for (const double gain : computation.whiteBalance)
-        out << number(gain).toStdString();
-    out << "   (red, green, blue)\n";
-    for (long row = 0; row < 3; ++row) {
-        out << (row == 0 ? "Color matrix   " : "               ");
-        for (long column = 0; column < 3; ++column)
-            out << number(computation.colorMatrix(row, column)).toStdString();
-        out << "\n";
-    }
-    out << "Sector         ";
-    for (const char* name : sectorNames)
-        out << QStringLiteral("%1").arg(QLatin1String(name), 9).toStdString();
-    out << "\n";
-    writeSectors(out, "Hue            ", computation.colorAdjustment, 0);
-    writeSectors(out, "Saturation     ", computation.colorAdjustment, sectors);
-    out << "Gamma          " << number(computation.gamma).toStdString() << "\n";
-}
-
-QJsonArray sectorsJson(const ColorAdjustment& adjustment, int from)
-{
-    QJsonArray values;
-    for (int i = 0; i < sectors; ++i)
-        values.append(adjustment(from + i));
-    return values;
-}
 
 QJsonObject stepsJson(const Computation& computation)
 {
@@ -81,23 +34,15 @@ void writeText(std::ostream& out, const Computation& computation)
                      toQColors(computation.targets, true)},
                     computation.before, computation.after);
     out << "\n";
-    writeSettings(out, computation);
+    writeSettings(out, computation.settings);
 }
 
 QJsonObject toJson(const Computation& computation)
 {
-    const auto& [red, green, blue] = computation.whiteBalance;
-    return {
-        {QStringLiteral("whiteBalance"), QJsonArray{red, green, blue}},
-        {QStringLiteral("colorMatrix"), toJson(computation.colorMatrix)},
-        {QStringLiteral("colorAdjustment"),
-         QJsonObject{
-             {QStringLiteral("hue"), sectorsJson(computation.colorAdjustment, 0)},
-             {QStringLiteral("saturation"), sectorsJson(computation.colorAdjustment, sectors)}}},
-        {QStringLiteral("gamma"), computation.gamma},
-        {QStringLiteral("meanDeltaE"), computation.meanDeltaE},
-        {QStringLiteral("steps"), stepsJson(computation)},
-    };
+    QJsonObject json = settingsJson(computation.settings);
+    json.insert(QStringLiteral("meanDeltaE"), computation.meanDeltaE);
+    json.insert(QStringLiteral("steps"), stepsJson(computation));
+    return json;
 }
 
 } // namespace ColorCalibrate

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calibrationinterface.h"
+#include "calibrationsettings.h"
 #include "camerainterface.h"
 #include "colorcalibrationv1.h"
 #include "convertingimagecamera.h"
@@ -14,7 +15,6 @@
 #include <QRecursiveMutex>
 #include <QThread>
 
-#include <array>
 #include <memory>
 
 namespace ColorCalibration {
@@ -41,6 +41,9 @@ public:
 
     /// Switches all automatic functions of the open camera off.
     void DisableAutoFunctions();
+
+    /// What the last calibration computed; neutral before the first.
+    CalibrationSettings LastCalibration() const;
 
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;
@@ -121,10 +124,7 @@ private:
     QVector<QColor> m_neutralColors;
     QVector<QColor> m_currentColors;
     QVector<QColor> m_initialColors;
-    std::array<double, 3> m_whiteBalance{1.0, 1.0, 1.0};
-    ColorMatrix m_colorMatrix = dlib::identity_matrix<double>(3);
-    ColorAdjustment m_colorAdjustment = dlib::zeros_matrix<double>(12, 1);
-    double m_gamma = 1.0;
+    CalibrationSettings m_settings;
     bool m_srgbGammaApplied = false;
     Image m_initialImage;
     Image m_latestImage;

@@ -168,7 +168,7 @@ bool ColorCorrectionModelImpl::ExecuteWhitebalance()
             GetColorPatchValues(colors, true);
             m_calibration->SetStepColors(StepKey::Original, toPatchColors(colors, false));
             m_calibration->ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
-            auto& [red, green, blue] = m_whiteBalance;
+            auto& [red, green, blue] = m_settings.whiteBalance;
             m_calibration->GetWhiteBalance(red, green, blue);
             m_justify->WriteWhiteBalance(red, green, blue);
             return true;
@@ -193,17 +193,23 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                    });
 }
 
+CalibrationSettings ColorCorrectionModelImpl::LastCalibration() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_settings;
+}
+
 void ColorCorrectionModelImpl::writeCalibration()
 {
-    auto& [red, green, blue] = m_whiteBalance;
+    auto& [red, green, blue] = m_settings.whiteBalance;
     m_calibration->GetWhiteBalance(red, green, blue);
     m_justify->WriteWhiteBalance(red, green, blue);
-    m_calibration->GetColorMatrix(m_colorMatrix);
-    m_justify->WriteColorMatrix(m_colorMatrix);
-    m_calibration->GetColorAdjustment(m_colorAdjustment);
-    m_justify->WriteColorAdjustment(m_colorAdjustment);
-    m_calibration->GetGamma(m_gamma);
-    m_justify->WriteGamma(m_gamma, true);
+    m_calibration->GetColorMatrix(m_settings.colorMatrix);
+    m_justify->WriteColorMatrix(m_settings.colorMatrix);
+    m_calibration->GetColorAdjustment(m_settings.colorAdjustment);
+    m_justify->WriteColorAdjustment(m_settings.colorAdjustment);
+    m_calibration->GetGamma(m_settings.gamma);
+    m_justify->WriteGamma(m_settings.gamma, true);
     const auto parameters = m_imageCamera->ParameterCollection();
     m_srgbGammaApplied = parameters && isOldGeneration(*parameters);
     if (m_srgbGammaApplied)
