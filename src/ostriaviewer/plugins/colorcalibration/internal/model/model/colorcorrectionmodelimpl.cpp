@@ -21,6 +21,17 @@ namespace {
 
 constexpr int patchAreaPercent = 70;
 
+/// Afterwards no image is on its way to a receiver any more. A camera that refuses is let go of
+/// all the same.
+void endDelivery(ICamera& camera)
+{
+    try {
+        camera.stopGrabbing();
+    } catch (...) {
+        return;
+    }
+}
+
 } // namespace
 
 ColorCorrectionModelImpl::ColorCorrectionModelImpl(QObject* parent)
@@ -50,6 +61,13 @@ bool ColorCorrectionModelImpl::isCameraOpen() const
     return m_imageCamera && m_imageCamera->IsOpen();
 }
 
+CameraJustify& ColorCorrectionModelImpl::justify() const
+{
+    if (!m_justify)
+        throw Core::Exception::BaseException(QStringLiteral("The camera is closed."));
+    return *m_justify;
+}
+
 bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
 {
     const QMutexLocker lock(&m_mutex);
@@ -67,6 +85,10 @@ bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
 void ColorCorrectionModelImpl::openHandle(const CameraPtr& camera)
 {
     m_connectionLost = false;
+    // What belongs to the camera before.
+    m_latestImage = Image();
+    m_detectedGain = -1.0;
+    m_detectedExposure = -1.0;
     CameraPtr handle;
     if (m_statusService && m_statusService->isCameraOpen(camera)) {
         if (m_controlService)
@@ -131,6 +153,8 @@ void ColorCorrectionModelImpl::releaseCamera()
     CameraPtr handle;
     if (m_imageCamera)
         handle = m_imageCamera->DetachCamera();
+    if (handle)
+        endDelivery(*handle);
     delete m_imageCamera.data();
     CameraPtr camera;
     camera.swap(m_camera);
@@ -147,7 +171,8 @@ void ColorCorrectionModelImpl::onConnectionLost()
 {
     {
         const QMutexLocker lock(&m_mutex);
-        if (m_connectionLost)
+        // Also a word that was on its way when the camera was closed.
+        if (m_connectionLost || !m_imageCamera)
             return;
         m_connectionLost = true;
     }

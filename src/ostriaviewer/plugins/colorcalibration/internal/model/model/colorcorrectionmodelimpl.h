@@ -91,6 +91,11 @@ private:
     using CameraPtr = Core::CameraPoolComponents::CameraPtr;
 
     bool isCameraOpen() const;
+
+    /// The adapter. An event loop inside of an operation may have let a Close through.
+    /// \throws Core::Exception::BaseException  the camera is closed
+    CameraJustify& justify() const;
+
     void openHandle(const CameraPtr& camera);
     void attachHandle(const CameraPtr& camera, const CameraPtr& handle);
     void abandonOpening();
@@ -109,7 +114,7 @@ private:
     bool readImageSize(double& width, double& height) const;
 
     bool grabAndMeasure(Image& target, bool triggered);
-    void measureNeutral(QVector<QColor>& colors);
+    int collectColors(QVector<QColor>& out, bool grabImage);
     void writeCalibration();
 
     QPointer<ConvertingImageCamera> m_imageCamera;
