@@ -40,7 +40,7 @@ FRAME_WIDTH = 0.06   # around the cells, as a share of the chart
 # Rows: what the red, green and blue pixels see of red, green and blue light.
 CROSSTALK = ((0.78, 0.17, 0.05), (0.20, 0.66, 0.14), (0.04, 0.24, 0.72))
 LIGHT = (0.80, 1.0, 0.62)
-EXPOSURE = 0.98
+EXPOSURE = 1.10
 FULL_WELL = 30000.0  # electrons at 4096 counts
 READ_NOISE = 9.0     # electrons
 

@@ -29,6 +29,12 @@ LAYERS = {
         "src/ostriaviewer/core",
         f"{PLUGIN}/internal/model/calibration",
     ],
+    f"{PLUGIN}/internal/model/model": [
+        "src/ostria",
+        "src/ostriaviewer/core",
+        f"{PLUGIN}/internal/model/calibration",
+        f"{PLUGIN}/internal/model/chart",
+    ],
     "src/tools/colorcalibrate": [
         "src/ostria",
         "src/ostriaviewer/core",
@@ -36,6 +42,7 @@ LAYERS = {
         "src/ostriaviewer/cameras/emulation",
         f"{PLUGIN}/internal/model/calibration",
         f"{PLUGIN}/internal/model/chart",
+        f"{PLUGIN}/internal/model/model",
     ],
 }
 

@@ -16,15 +16,17 @@ constexpr int smallestMosaicHeight = 3;
 /// How many values of scratch memory demosaicRows needs for this many rows. Reentrant.
 std::size_t demosaicScratch(int width, int rows);
 
-/// Interpolates some rows of a mosaic to red, green and blue of 16 bits, aligned to the most
+/// Interpolates a strip of a mosaic to red, green and blue of 16 bits, aligned to the most
 /// significant bit. The values are those of interpolating the whole image at once: the outermost
 /// rows and columns are copies of their neighbours. Reentrant.
-/// \param source  of a Bayer type, not smaller than the smallest mosaic
-/// \param begin   first row, even
-/// \param end     the row after the last one, at most the image's height
-/// \param scratch demosaicScratch(width, end - begin) values
-/// \return the pixels, 3 * width values a row, inside the scratch memory
-const std::uint16_t* demosaicRows(const COstriaImage& source, int begin, int end,
-                                  std::uint16_t* scratch);
+/// \param source   of a Bayer type, not smaller than the smallest mosaic
+/// \param begin    first row, even
+/// \param end      the row after the last one, at least begin + smallestMosaicHeight; even, or the
+///                 image's height
+/// \param scratch  demosaicScratch(width, end - begin) values
+/// \param out      3 * width values for each row of the strip; no byte outside is written
+/// \param stride   bytes from row to row of out, even
+void demosaicRows(const COstriaImage& source, int begin, int end, std::uint16_t* scratch,
+                  std::uint16_t* out, std::size_t stride);
 
 } // namespace Ostria

@@ -20,7 +20,8 @@ enum class ImageOrientation : std::uint8_t { TopDown, BottomUp };
 /// channel the high byte of the 16-bit value is taken; alpha is 255, also where the source has an
 /// alpha of its own. Mosaics are interpolated bilinearly, at 16 bits.
 ///
-/// Reentrant; one converter serves one thread at a time and keeps its scratch memory.
+/// Reentrant; one converter serves one thread at a time and keeps its scratch memory. It works on
+/// as many threads as OpenCV is allowed to use.
 class CImageFormatConverter
 {
 public:
@@ -46,14 +47,17 @@ public:
     std::size_t bufferSizeForConversion(int width, int height) const;
 
     /// Converts into a buffer of the caller's.
-    /// \param size  bytes in the buffer, at least bufferSizeForConversion
+    /// \param buffer  of any alignment; does not overlap the pixels of the source
+    /// \param size    bytes in the buffer, at least bufferSizeForConversion
     /// \throws std::invalid_argument  the source has no pixels, is a mosaic of fewer than 3 rows or
-    ///         4 columns, or the buffer is null or too short
+    ///         4 columns, or the buffer is null, too short or overlaps the source's pixels
     /// \throws std::length_error      the result has more bytes than an int can count
     void Convert(std::uint8_t* buffer, std::size_t size, const COstriaImage& source);
 
-    /// Converts into a new image with pixels of its own.
-    /// \throws as above
+    /// Converts into an image with pixels of its own. Where the target already is an image of the
+    /// right type, size and padding whose pixels nobody else sees, they are written over, which
+    /// spares the time that fresh memory costs. A target that is the source itself is allowed.
+    /// \throws as above; the target is unchanged then
     void Convert(COstriaImage& target, const COstriaImage& source);
 
 private:

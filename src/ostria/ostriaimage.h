@@ -27,7 +27,7 @@ struct PixelReading
 ///
 /// Colours that are read from a pixel: a mono pixel answers its value three times; a pixel behind
 /// a Bayer mosaic answers its one value in the channel of its filter and 0 in the others; YUV is
-/// converted to RGB.
+/// converted to RGB by ITU-R BT.601 with luma from 16 to 235 and chroma from 16 to 240.
 class COstriaImage
 {
 public:

@@ -17,8 +17,8 @@ const PixelTypeInfo& knownInfo(PixelType type)
     if (const PixelTypeInfo* info = pixelTypeInfo(type))
         return *info;
     char text[64];
-    std::snprintf(text, sizeof text, "The pixel type 0x%08X is not supported.",
-                  static_cast<unsigned>(type));
+    static_cast<void>(std::snprintf(text, sizeof text, "The pixel type 0x%08X is not supported.",
+                                    static_cast<unsigned>(type)));
     throw std::invalid_argument(text);
 }
 

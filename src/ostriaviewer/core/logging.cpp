@@ -4,10 +4,9 @@
 
 #include <QHash>
 #include <QLoggingCategory>
-#include <QMutex>
-#include <QMutexLocker>
 
 #include <deque>
+#include <mutex>
 #include <utility>
 
 namespace Core::Logging {
@@ -31,7 +30,7 @@ class Registry
 public:
     CatId idOf(const QString& name)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         const auto known = m_ids.constFind(name);
         if (known != m_ids.constEnd())
             return *known;
@@ -44,7 +43,7 @@ public:
     /// Categories never move and are never removed, so that the pointer outlives the lock.
     const Category* find(CatId id)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         if (id < 0 || id >= static_cast<CatId>(m_categories.size()))
             return nullptr;
         return &m_categories[static_cast<std::size_t>(id)];
@@ -52,19 +51,19 @@ public:
 
     LogSink exchangeSink(LogSink sink)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         std::swap(m_sink, sink);
         return sink;
     }
 
     LogSink sink()
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         return m_sink;
     }
 
 private:
-    QMutex m_mutex;
+    std::mutex m_mutex;
     std::deque<Category> m_categories;
     QHash<QString, CatId> m_ids;
     LogSink m_sink;

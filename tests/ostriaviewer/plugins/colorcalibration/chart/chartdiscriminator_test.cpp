@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// When colours are fresh, stale, missing or moved up.
 #include "chartdiscriminator.h"
 
 #include "patchtrapezoids.h"

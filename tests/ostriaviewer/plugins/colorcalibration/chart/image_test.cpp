@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// Sharing, sizes and buffers of the image value.
 #include "image.h"
 
 #include "logrecorder.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// The median pixel of a patch, against the obvious way to find it.
 #include "patchmeasurement.h"
 
 #include "obviousmeasurement.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// Where the patches lie in straight, tapered, crossed and flat outlines.
 #include "patchtrapezoids.h"
 
 #include <gtest/gtest.h>

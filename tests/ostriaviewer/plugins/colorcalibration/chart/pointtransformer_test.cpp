@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// Image and canvas coordinates, and who is told of a change.
 #include "pointtransformer.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// The pixels inside a quadrilateral, against asking each of them.
 #include "polygonrows.h"
 
 #include "obviousmeasurement.h"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// The order of the four corners.
 #include "trapezoidpoints.h"
 
 #include <gtest/gtest.h>

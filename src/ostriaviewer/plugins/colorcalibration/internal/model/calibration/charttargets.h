@@ -7,7 +7,7 @@
 namespace ColorCalibration {
 
 /// One block of 3 by 3 a patch on the diagonal, zero elsewhere.
-using LabSensitivityMatrix = dlib::matrix<double, 3 * PatchCount, 3 * PatchCount>;
+using LabSensitivityMatrix = dlib::matrix<double, 3L * PatchCount, 3L * PatchCount>;
 
 /// The chart's fixed data. Stateless and reentrant; no operation throws.
 class ChartTargets

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which device the user has selected.
+#pragma once
+
+#include "icamerainfo.h"
+#include "iservice.h"
+
+namespace Plugin::CameraSelector {
+
+/// Thread-bound: GUI thread.
+class IDeviceSelectorService : public Core::Service::IService
+{
+    Q_OBJECT
+
+signals:
+    /// \param device  null if nothing is selected
+    void selectionChanged(Core::CameraPoolComponents::DeviceBaseInfoPtr device);
+
+protected:
+    using IService::IService;
+};
+
+} // namespace Plugin::CameraSelector

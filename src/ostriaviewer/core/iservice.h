@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+// Anything that the host offers to its plugins.
+#pragma once
+
+#include <QObject>
+#include <QSharedPointer>
+
+namespace Core::Service {
+
+/// The base of all services. Lives in the GUI thread unless its interface says otherwise.
+class IService : public QObject
+{
+    Q_OBJECT
+
+public:
+    ~IService() override;
+
+protected:
+    using QObject::QObject;
+};
+
+using ServicePtr = QSharedPointer<IService>;
+
+} // namespace Core::Service

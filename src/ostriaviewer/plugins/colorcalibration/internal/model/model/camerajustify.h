@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+// The one place that knows the names of camera parameters.
+#pragma once
+
+#include "icamera.h"
+#include "patchcolors.h"
+
+#include <QObject>
+#include <QString>
+
+namespace ColorCalibration {
+
+class CalibrationInterface;
+class BrightnessRun;
+
+/// Writes groups of parameters under the names of the camera's generation.
+///
+/// The groups throw what the parameters throw; a group that throws leaves what it has written
+/// before in the camera. A guarded write is skipped without a word where the parameter is missing
+/// or not writable. Where a group stores, it does so only after StoreInUserSet has armed it. Not
+/// thread-safe: the model's mutex guards it.
+class CameraJustify : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \param camera  shared; its parameters are asked for at each operation
+    explicit CameraJustify(const Core::CameraPoolComponents::CameraPtr& camera,
+                           QObject* parent = nullptr);
+
+    /// Ends a brightness run and waits for it.
+    ~CameraJustify() override;
+
+    void SetBlackLevelNeutral();
+    void SetGammaNeutral();
+    void SetColorTransformationNeutral();
+    void SetHsbcNeutral();
+    void DisableLut();
+    void SetColorAdjustmentNeutral();
+    void SetWhiteBalanceNeutral();
+    void SetDemosaicingSimple();
+    void DisableAllAutoFunctions();
+    void DisableExposureAndGainAuto();
+    void DisableTestImage();
+
+    /// The best monochrome format that the camera has; nothing if it has none.
+    void ActivateMonoPixelFormat();
+
+    void WriteWhiteBalance(double red, double green, double blue);
+
+    /// Writes the elements off the diagonal; each diagonal element becomes 1 minus the two others
+    /// of its row as the camera has rounded them, so that grays stay gray.
+    void WriteColorMatrix(const ColorMatrix& matrix);
+
+    /// A camera without the stage is passed over with a log entry.
+    void WriteColorAdjustment(const ColorAdjustment& adjustment);
+
+    /// \param enable  switches the curve on; old generation alone
+    void WriteGamma(double gamma, bool enable);
+
+    /// Old generation alone.
+    void WriteSrgbGamma(bool enable);
+
+    /// Starts a brightness run on a thread of its own; one that is under way is ended before.
+    /// \param calibration  not owned, outlives the run
+    void StartAutoBrightness(CalibrationInterface* calibration);
+
+    /// Ends a brightness run and waits for it. The caller must not hold what the run needs.
+    void StopAutoBrightness();
+
+    /// Keeps the camera's settings.
+    /// \param initial  which of the two backups
+    void CreateBackup(bool initial);
+
+    /// Writes a backup to the camera; nothing if it is empty.
+    void RestoreBackup(bool initial);
+
+    /// \return  all settings as feature stream text
+    QString SaveFeaturesToString();
+
+    /// Lines that the camera refuses are skipped.
+    void LoadFeaturesFromString(const QString& text);
+
+    /// Stores the settings in a user set, now and again after each group that is written later.
+    /// \param name          of the user set
+    /// \param store         false disarms
+    /// \param setAsDefault  the camera starts with this set
+    void StoreInUserSet(const QString& name, bool store, bool setAsDefault);
+
+signals:
+    /// A brightness run has ended.
+    void AutoBrightnessFinished();
+
+private:
+    Core::ParameterCollection::ParameterCollectionPtr parameters() const;
+    QString& backup(bool initial);
+    void persistToUserSet();
+
+    Core::CameraPoolComponents::CameraPtr m_camera;
+    QString m_backup;
+    QString m_initialBackup;
+    std::unique_ptr<BrightnessRun> m_brightnessRun;
+    QString m_userSetName = QStringLiteral("UserSet1");
+    bool m_storeToUserSet = false;
+    bool m_setUserSetDefault = false;
+};
+
+} // namespace ColorCalibration

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: Apache-2.0
+// The model's frame: opening, closing, what changes by itself.
+#include "colorcorrectionmodelimpl.h"
+
+#include "baseexception.h"
+#include "camerajustify.h"
+#include "chartdiscriminator.h"
+#include "guarded.h"
+#include "sfncgeneration.h"
+
+#include <QMutexLocker>
+
+using Core::CameraPoolComponents::CameraPtr;
+using Core::CameraPoolComponents::ICamera;
+using Core::ParameterCollection::IParameter;
+using Plugin::CameraPool::ICameraControlService;
+using Plugin::CameraPool::ICameraStatusService;
+
+namespace ColorCalibration {
+namespace {
+
+constexpr int patchAreaPercent = 70;
+
+} // namespace
+
+ColorCorrectionModelImpl::ColorCorrectionModelImpl(QObject* parent)
+    : QThread(parent)
+    , m_calibration(std::make_unique<ColorCalibrationV1>())
+    , m_discriminator(std::make_unique<ChartDiscriminator>(patchAreaPercent))
+{}
+
+ColorCorrectionModelImpl::~ColorCorrectionModelImpl()
+{
+    if (m_imageCamera)
+        Close();
+}
+
+void ColorCorrectionModelImpl::SetCameraStatusService(ICameraStatusService* service)
+{
+    m_statusService = service;
+}
+
+void ColorCorrectionModelImpl::SetCameraControlService(ICameraControlService* service)
+{
+    m_controlService = service;
+}
+
+bool ColorCorrectionModelImpl::isCameraOpen() const
+{
+    return m_imageCamera && m_imageCamera->IsOpen();
+}
+
+bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (m_imageCamera || !camera)
+        return false;
+    try {
+        openHandle(camera);
+        return true;
+    } catch (...) {
+        abandonOpening();
+        return false;
+    }
+}
+
+void ColorCorrectionModelImpl::openHandle(const CameraPtr& camera)
+{
+    m_connectionLost = false;
+    CameraPtr handle;
+    if (m_statusService && m_statusService->isCameraOpen(camera)) {
+        if (m_controlService)
+            handle = m_controlService->getExclusiveAccess(camera);
+        if (!handle)
+            throw Core::Exception::BaseException(
+                QStringLiteral("Get exclusive camera access failed"));
+        m_attachedToOpenCamera = true;
+    } else {
+        if (m_controlService)
+            handle = m_controlService->openWithExclusiveAccess(camera);
+        if (!handle)
+            throw Core::Exception::BaseException(
+                QStringLiteral("Camera open with exclusive access failed"));
+        m_attachedToOpenCamera = false;
+    }
+    attachHandle(camera, handle);
+}
+
+void ColorCorrectionModelImpl::attachHandle(const CameraPtr& camera, const CameraPtr& handle)
+{
+    m_camera = camera;
+    m_imageCamera = new ConvertingImageCamera;
+    m_imageCamera->AttachCamera(handle);
+    m_justify = std::make_unique<CameraJustify>(handle);
+    m_justify->DisableTestImage();
+    connect(m_justify.get(), &CameraJustify::AutoBrightnessFinished, this,
+            &ColorCorrectionModelImpl::AutoAdjustGray80PercentPatchFinished);
+    connectParameterSignals();
+    connect(handle.data(), &ICamera::cameraConnectionLost, this,
+            &ColorCorrectionModelImpl::onConnectionLost);
+    restoreLastGridPosition();
+}
+
+void ColorCorrectionModelImpl::abandonOpening()
+{
+    try {
+        releaseCamera();
+    } catch (...) {
+        // The camera does not answer any more; what could be given back has been.
+    }
+}
+
+bool ColorCorrectionModelImpl::Close()
+{
+    stopBrightnessRun();
+    const QMutexLocker lock(&m_mutex);
+    if (!m_imageCamera)
+        return false;
+    return guarded("Error: Failed to close camera.", "ColorCorrectionModelImpl::Close", false,
+                   [this] {
+                       storeLastGridPosition();
+                       releaseCamera();
+                       return true;
+                   });
+}
+
+void ColorCorrectionModelImpl::releaseCamera()
+{
+    disconnectParameterSignals();
+    m_justify.reset();
+    CameraPtr handle;
+    if (m_imageCamera)
+        handle = m_imageCamera->DetachCamera();
+    delete m_imageCamera.data();
+    CameraPtr camera;
+    camera.swap(m_camera);
+    if (m_statusService)
+        disconnect(m_statusService, &ICameraStatusService::cameraConnectionLost, this, nullptr);
+    if (!handle)
+        return;
+    disconnect(handle.data(), &ICamera::cameraConnectionLost, this, nullptr);
+    if (handle->isOpen() && !m_attachedToOpenCamera && m_controlService)
+        m_controlService->close(camera);
+}
+
+void ColorCorrectionModelImpl::onConnectionLost()
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (m_connectionLost)
+            return;
+        m_connectionLost = true;
+    }
+    emit cameraRemoved();
+}
+
+void ColorCorrectionModelImpl::connectParameterSignals()
+{
+    const auto parameters = m_imageCamera->ParameterCollection();
+    if (!parameters)
+        throw Core::Exception::BaseException(
+            QStringLiteral("The camera has closed while it was being opened."));
+    const auto connectTo = [this](const auto& parameter, void (ColorCorrectionModelImpl::*slot)()) {
+        connect(parameter.data(), &IParameter::parameterDataChangedDecoupled, this, slot);
+    };
+    if (isOldGeneration(*parameters)) {
+        m_gainRaw = parameters->integerParameter(QStringLiteral("GainRaw"));
+        m_gain.reset();
+        connectTo(m_gainRaw, &ColorCorrectionModelImpl::onGainRawChanged);
+    } else {
+        m_gain = parameters->floatParameter(QStringLiteral("Gain"));
+        if (!m_gain || m_gain->isEmpty())
+            m_gain = parameters->floatParameter(QStringLiteral("GainAbs"));
+        m_gainRaw.reset();
+        connectTo(m_gain, &ColorCorrectionModelImpl::onGainChanged);
+    }
+    m_exposure = parameters->floatParameter(QStringLiteral("ExposureTimeAbs"));
+    if (m_exposure->isEmpty())
+        m_exposure = parameters->floatParameter(QStringLiteral("ExposureTime"));
+    connectTo(m_exposure, &ColorCorrectionModelImpl::onExposureChanged);
+}
+
+void ColorCorrectionModelImpl::disconnectParameterSignals()
+{
+    const auto letGo = [this](auto& parameter) {
+        if (parameter)
+            disconnect(parameter.data(), nullptr, this, nullptr);
+        parameter.reset();
+    };
+    letGo(m_gain);
+    letGo(m_gainRaw);
+    letGo(m_exposure);
+}
+
+void ColorCorrectionModelImpl::onExposureChanged()
+{
+    const QMutexLocker lock(&m_mutex);
+    guarded("", "ColorCorrectionModelImpl::onExposureChanged", false, [this] {
+        if (m_exposure && m_exposure->isReadable())
+            emit ExposureTimeValueChanged(m_exposure->value());
+        return true;
+    });
+}
+
+void ColorCorrectionModelImpl::onGainChanged()
+{
+    const QMutexLocker lock(&m_mutex);
+    guarded("", "ColorCorrectionModelImpl::onGainChanged", false, [this] {
+        if (m_gain && m_gain->isReadable())
+            emit GainValueChanged(m_gain->value());
+        return true;
+    });
+}
+
+void ColorCorrectionModelImpl::onGainRawChanged()
+{
+    const QMutexLocker lock(&m_mutex);
+    guarded("", "ColorCorrectionModelImpl::onGainRawChanged", false, [this] {
+        // Reads of the raw gain divide by 100; listeners of this signal rely on the opposite.
+        if (m_gainRaw && m_gainRaw->isReadable())
+            emit GainValueChanged(static_cast<double>(m_gainRaw->value()) * 100.0);
+        return true;
+    });
+}
+
+void ColorCorrectionModelImpl::stopBrightnessRun()
+{
+    CameraJustify* justify = nullptr;
+    {
+        const QMutexLocker lock(&m_mutex);
+        justify = m_justify.get();
+    }
+    // Without the mutex: the run needs it to come to its end.
+    if (justify)
+        justify->StopAutoBrightness();
+}
+
+} // namespace ColorCalibration

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: Apache-2.0
+// The one object behind the wizard.
+#pragma once
+
+#include "calibrationinterface.h"
+#include "camerainterface.h"
+#include "colorcalibrationv1.h"
+#include "convertingimagecamera.h"
+#include "icameraservices.h"
+#include "iparametercollection.h"
+#include "patchcolors.h"
+
+#include <QPointer>
+#include <QRecursiveMutex>
+#include <QThread>
+
+#include <array>
+#include <memory>
+
+namespace ColorCalibration {
+
+class CameraJustify;
+class ChartDiscriminator;
+
+/// Owns everything that lasts while a camera is open, and the colours measured.
+///
+/// Thread-safe: every operation takes the recursive mutex. Signals are emitted on the caller's
+/// thread, changes of parameters and the loss of the camera on the thread that the object lives in.
+/// The thread that this object is runs an idle event loop.
+class ColorCorrectionModelImpl : public QThread, public CameraInterface, public CalibrationInterface
+{
+    Q_OBJECT
+
+public:
+    explicit ColorCorrectionModelImpl(QObject* parent = nullptr);
+    ~ColorCorrectionModelImpl() override;
+
+    /// Not owned; handed in before the first Open. Null: no camera can be opened.
+    void SetCameraStatusService(Plugin::CameraPool::ICameraStatusService* service);
+    void SetCameraControlService(Plugin::CameraPool::ICameraControlService* service);
+
+    /// Switches all automatic functions of the open camera off.
+    void DisableAutoFunctions();
+
+    bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
+    bool Close() override;
+    bool GrabImage(QImage& image, bool triggered) override;
+    bool StopGrabbing() override;
+    bool LoadSettings(const QString& settings) override;
+    bool LoadSettingsFromDevice(QIODevice* device) override;
+    bool SetNeutralSettings() override;
+    bool CreateSettingsBackup(bool initialImage) override;
+    bool RestoreSettingsBackup(bool initialImage) override;
+    void ActivateMonoImage() override;
+
+    bool AutoAdjustGray80PercentPatch() override;
+    TrapezoidPoints GetGridPosition() override;
+    bool SetGridPosition(const TrapezoidPoints& outline) override;
+    int GetColorPatchTrapezoids(QVector<TrapezoidPoints>& out) override;
+    int GetInitialColorPatchValues(QVector<QColor>& out) override;
+    int GetTargetColorPatchValues(QVector<QColor>& out) override;
+    int GetColorPatchValues(QVector<QColor>& out, bool grabImage) override;
+    int GetCurrentColorPatchValues(QVector<QColor>& out) override;
+    bool GetInitialCameraImage(QImage& image) override;
+    bool ApplyInitialColorPatchValues() override;
+    bool ApplyInitialCameraImageAndPatchValues() override;
+    bool ExecuteCalibrationAndApply() override;
+    bool GetExposureTimeRange(double& min, double& value, double& max) override;
+    bool SetExposureTime(double value) override;
+    double GetExposureTime() override;
+    bool GetGainRange(double& min, double& value, double& max) override;
+    bool SetGain(double value) override;
+    double GetGain() override;
+    bool ExecuteWhitebalance() override;
+    bool RestoreDetectedExposureAndGain() override;
+    bool StoreDetectedExposureAndGain() override;
+
+signals:
+    void Gray80PercentHitRateChanged(double value) override;
+    void ExposureTimeValueChanged(double value) override;
+    void GainValueChanged(double value) override;
+    void GridPositionChanged() override;
+    void CalibrationFinished() override;
+    void AutoAdjustGray80PercentPatchFinished() override;
+    void cameraRemoved() override;
+
+private:
+    using CameraPtr = Core::CameraPoolComponents::CameraPtr;
+
+    bool isCameraOpen() const;
+    void openHandle(const CameraPtr& camera);
+    void attachHandle(const CameraPtr& camera, const CameraPtr& handle);
+    void abandonOpening();
+    void releaseCamera();
+    void onConnectionLost();
+    void stopBrightnessRun();
+
+    void connectParameterSignals();
+    void disconnectParameterSignals();
+    void onExposureChanged();
+    void onGainChanged();
+    void onGainRawChanged();
+
+    void restoreLastGridPosition();
+    void storeLastGridPosition();
+    bool readImageSize(double& width, double& height) const;
+
+    bool grabAndMeasure(Image& target, bool triggered);
+    void measureNeutral(QVector<QColor>& colors);
+    void writeCalibration();
+
+    QPointer<ConvertingImageCamera> m_imageCamera;
+    bool m_attachedToOpenCamera = false;
+    bool m_connectionLost = false;
+    std::unique_ptr<CameraJustify> m_justify;
+    std::unique_ptr<ColorCalibrationV1> m_calibration;
+    Core::ParameterCollection::FloatParameterPtr m_exposure;
+    Core::ParameterCollection::IntegerParameterPtr m_gainRaw;
+    Core::ParameterCollection::FloatParameterPtr m_gain;
+    std::unique_ptr<ChartDiscriminator> m_discriminator;
+    QVector<QColor> m_neutralColors;
+    QVector<QColor> m_currentColors;
+    QVector<QColor> m_initialColors;
+    std::array<double, 3> m_whiteBalance{1.0, 1.0, 1.0};
+    ColorMatrix m_colorMatrix = dlib::identity_matrix<double>(3);
+    ColorAdjustment m_colorAdjustment = dlib::zeros_matrix<double>(12, 1);
+    double m_gamma = 1.0;
+    bool m_srgbGammaApplied = false;
+    Image m_initialImage;
+    Image m_latestImage;
+    double m_detectedGain = -1.0;
+    double m_detectedExposure = -1.0;
+    mutable QRecursiveMutex m_mutex;
+    Plugin::CameraPool::ICameraStatusService* m_statusService = nullptr;
+    Plugin::CameraPool::ICameraControlService* m_controlService = nullptr;
+    CameraPtr m_camera;
+};
+
+} // namespace ColorCalibration

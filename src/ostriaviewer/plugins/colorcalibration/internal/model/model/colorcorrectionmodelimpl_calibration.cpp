@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: Apache-2.0
+// The model's calibration: grid, measuring, computing, writing.
+#include "colorcorrectionmodelimpl.h"
+
+#include "camerajustify.h"
+#include "chartdiscriminator.h"
+#include "guarded.h"
+#include "patchcolorconversion.h"
+#include "sfncgeneration.h"
+#include "stepkey.h"
+
+#include <QMutexLocker>
+
+namespace ColorCalibration {
+
+bool ColorCorrectionModelImpl::AutoAdjustGray80PercentPatch()
+{
+    stopBrightnessRun();
+    const QMutexLocker lock(&m_mutex);
+    return guarded("Autoadjust failed.", "ColorCorrectionModelImpl::AutoAdjustGray80PercentPatch",
+                   false, [this] {
+                       if (!isCameraOpen())
+                           return false;
+                       m_justify->StartAutoBrightness(this);
+                       return true;
+                   });
+}
+
+TrapezoidPoints ColorCorrectionModelImpl::GetGridPosition()
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_discriminator->outline();
+}
+
+bool ColorCorrectionModelImpl::SetGridPosition(const TrapezoidPoints& outline)
+{
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_discriminator->setOutline(outline);
+    }
+    emit GridPositionChanged();
+    return true;
+}
+
+int ColorCorrectionModelImpl::GetColorPatchTrapezoids(QVector<TrapezoidPoints>& out)
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::GetColorPatchTrapezoids", 0, [&] {
+        m_discriminator->patchTrapezoids(out);
+        return out.size();
+    });
+}
+
+int ColorCorrectionModelImpl::GetInitialColorPatchValues(QVector<QColor>& out)
+{
+    const QMutexLocker lock(&m_mutex);
+    out += m_initialColors;
+    return out.size();
+}
+
+int ColorCorrectionModelImpl::GetTargetColorPatchValues(QVector<QColor>& out)
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::GetTargetColorPatchValues", 0, [&] {
+        out += toQColors(m_calibration->GetTargetColors(), true);
+        return out.size();
+    });
+}
+
+bool ColorCorrectionModelImpl::grabAndMeasure(Image& target, bool triggered)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (!isCameraOpen())
+        return false;
+    if (!m_imageCamera->GrabSingle(m_latestImage, triggered) || !m_latestImage.isValid())
+        return false;
+    if (m_discriminator->measureGrayPatch(m_latestImage.cameraImage()))
+        emit Gray80PercentHitRateChanged(m_discriminator->grayHitRate());
+    target = m_latestImage;
+    return true;
+}
+
+bool ColorCorrectionModelImpl::GrabImage(QImage& image, bool triggered)
+{
+    return guarded("Error: Failed to grab image.", "ColorCorrectionModelImpl::GrabImage", false,
+                   [&] {
+                       Image grabbed;
+                       const bool succeeded = grabAndMeasure(grabbed, triggered);
+                       image = grabbed.toQImage().copy();
+                       return succeeded;
+                   });
+}
+
+int ColorCorrectionModelImpl::GetColorPatchValues(QVector<QColor>& out, bool grabImage)
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::GetColorPatchValues", 0, [&] {
+        if (!isCameraOpen())
+            return 0;
+        if (grabImage || !m_imageCamera->IsGrabbing()) {
+            Image grabbed;
+            grabAndMeasure(grabbed, true);
+        }
+        m_discriminator->patchColors(out);
+        if (out.isEmpty() && m_latestImage.isValid()) {
+            m_discriminator->measureAllPatches(m_latestImage.cameraImage());
+            m_discriminator->patchColors(out);
+            emit Gray80PercentHitRateChanged(m_discriminator->grayHitRate());
+        }
+        return out.size();
+    });
+}
+
+int ColorCorrectionModelImpl::GetCurrentColorPatchValues(QVector<QColor>& out)
+{
+    const QMutexLocker lock(&m_mutex);
+    if (m_currentColors.isEmpty())
+        m_discriminator->patchColors(m_currentColors);
+    out += m_currentColors;
+    return out.size();
+}
+
+bool ColorCorrectionModelImpl::GetInitialCameraImage(QImage& image)
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::GetInitialCameraImage", false, [&] {
+        image = m_initialImage.toQImage().copy();
+        return m_initialImage.isValid();
+    });
+}
+
+bool ColorCorrectionModelImpl::ApplyInitialColorPatchValues()
+{
+    const QMutexLocker lock(&m_mutex);
+    QVector<QColor> colors;
+    GetColorPatchValues(colors, true);
+    if (colors.isEmpty())
+        return false;
+    m_neutralColors = colors;
+    return true;
+}
+
+bool ColorCorrectionModelImpl::ApplyInitialCameraImageAndPatchValues()
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::ApplyInitialCameraImageAndPatchValues", false,
+                   [this] {
+                       Image image;
+                       if (!grabAndMeasure(image, true) || !image.isValid())
+                           return false;
+                       m_initialImage = image;
+                       m_discriminator->measureAllPatches(image.cameraImage());
+                       m_initialColors.clear();
+                       m_discriminator->patchColors(m_initialColors);
+                       return true;
+                   });
+}
+
+bool ColorCorrectionModelImpl::ExecuteWhitebalance()
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded(
+        "Whitebalance failed!", "ColorCorrectionModelImpl::ExecuteWhitebalance", false, [this] {
+            if (!isCameraOpen())
+                return false;
+            StopGrabbing();
+            QVector<QColor> colors;
+            GetColorPatchValues(colors, true);
+            m_calibration->SetStepColors(StepKey::Original, toPatchColors(colors, false));
+            m_calibration->ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
+            auto& [red, green, blue] = m_whiteBalance;
+            m_calibration->GetWhiteBalance(red, green, blue);
+            m_justify->WriteWhiteBalance(red, green, blue);
+            return true;
+        });
+}
+
+bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded("Calibration failed.", "ColorCorrectionModelImpl::ExecuteCalibrationAndApply",
+                   false, [this] {
+                       if (!isCameraOpen())
+                           return false;
+                       m_currentColors.clear();
+                       StopGrabbing();
+                       m_calibration->SetStepColors(StepKey::Original,
+                                                    toPatchColors(m_neutralColors, false));
+                       m_calibration->ExecuteAll();
+                       writeCalibration();
+                       emit CalibrationFinished();
+                       return true;
+                   });
+}
+
+void ColorCorrectionModelImpl::writeCalibration()
+{
+    auto& [red, green, blue] = m_whiteBalance;
+    m_calibration->GetWhiteBalance(red, green, blue);
+    m_justify->WriteWhiteBalance(red, green, blue);
+    m_calibration->GetColorMatrix(m_colorMatrix);
+    m_justify->WriteColorMatrix(m_colorMatrix);
+    m_calibration->GetColorAdjustment(m_colorAdjustment);
+    m_justify->WriteColorAdjustment(m_colorAdjustment);
+    m_calibration->GetGamma(m_gamma);
+    m_justify->WriteGamma(m_gamma, true);
+    const auto parameters = m_imageCamera->ParameterCollection();
+    m_srgbGammaApplied = parameters && isOldGeneration(*parameters);
+    if (m_srgbGammaApplied)
+        m_justify->WriteSrgbGamma(true);
+}
+
+} // namespace ColorCalibration

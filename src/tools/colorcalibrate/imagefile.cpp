@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: Apache-2.0
+// Image files as camera images.
+#include "imagefile.h"
+
+#include "command.h"
+#include "decoderoutput.h"
+#include "imagefilecompleteness.h"
+
+#include <QFile>
+#include <QImage>
+#include <QImageReader>
+#include <QRgba64>
+
+#include <cstring>
+
+using Ostria::COstriaImage;
+using Ostria::PixelType;
+
+namespace ColorCalibrate {
+namespace {
+
+constexpr qint64 mostPixels = qint64{1} << 28;
+
+[[noreturn]] void fail(const QString& fileName, const QString& problem)
+{
+    throw CommandError(QStringLiteral("%1: %2").arg(fileName, problem));
+}
+
+void requireImageFile(QFile& file)
+{
+    if (!file.open(QIODevice::ReadOnly))
+        fail(file.fileName(), file.errorString());
+    if (file.size() == 0 && !file.isSequential())
+        fail(file.fileName(), QStringLiteral("the file is empty"));
+}
+
+QImage decode(QFile& file)
+{
+    const DecoderOutput silenced;
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (!reader.canRead())
+        fail(file.fileName(), QStringLiteral("this is no image of a known format; PNG, TIFF, JPEG "
+                                             "and BMP are read"));
+    const QByteArray format = reader.format();
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > mostPixels)
+        fail(file.fileName(), QStringLiteral("the image of %1 x %2 pixels is too large")
+                                  .arg(size.width())
+                                  .arg(size.height()));
+    const QImage image = reader.read();
+    if (image.isNull())
+        fail(file.fileName(),
+             QStringLiteral("the image is damaged or truncated (%1)").arg(reader.errorString()));
+    if (!isComplete(file, format))
+        fail(file.fileName(), QStringLiteral("the image is truncated"));
+    return image;
+}
+
+bool isTransparent(const QImage& image)
+{
+    if (!image.hasAlphaChannel())
+        return false;
+    const QImage alpha = image.convertToFormat(QImage::Format_RGBA64);
+    for (int y = 0; y < alpha.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgba64*>(alpha.constScanLine(y));
+        for (int x = 0; x < alpha.width(); ++x)
+            if (row[x].alpha() != 0xFFFF)
+                return true;
+    }
+    return false;
+}
+
+void requireColor(const QImage& image, const QString& fileName)
+{
+    switch (image.format()) {
+    case QImage::Format_Grayscale8:
+    case QImage::Format_Grayscale16:
+        fail(fileName, QStringLiteral("the image is gray; a color image of the chart is needed"));
+    case QImage::Format_Mono:
+    case QImage::Format_MonoLSB:
+    case QImage::Format_Indexed8:
+        if (image.isGrayscale())
+            fail(fileName,
+                 QStringLiteral("the image is gray; a color image of the chart is needed"));
+        fail(fileName,
+             QStringLiteral("the image has a palette of %1 colors, which a camera's image "
+                            "has not; save it with full colors")
+                 .arg(image.colorCount()));
+    default:
+        break;
+    }
+    if (isTransparent(image))
+        fail(fileName, QStringLiteral("the image has transparent pixels, which have no color to be "
+                                      "measured"));
+}
+
+COstriaImage toRgb16(const QImage& image)
+{
+    const QImage source = image.convertToFormat(QImage::Format_RGBX64);
+    COstriaImage target(PixelType::RGB16, source.width(), source.height());
+    std::uint8_t* row = target.writableData();
+    for (int y = 0; y < source.height(); ++y, row += target.stride()) {
+        const auto* pixels = reinterpret_cast<const QRgba64*>(source.constScanLine(y));
+        for (int x = 0; x < source.width(); ++x) {
+            const quint16 rgb[3] = {pixels[x].red(), pixels[x].green(), pixels[x].blue()};
+            std::memcpy(row + sizeof rgb * static_cast<std::size_t>(x), rgb, sizeof rgb);
+        }
+    }
+    return target;
+}
+
+COstriaImage toRgb8(const QImage& image)
+{
+    const QImage source = image.convertToFormat(QImage::Format_RGB888);
+    COstriaImage target(PixelType::RGB8, source.width(), source.height());
+    std::uint8_t* row = target.writableData();
+    for (int y = 0; y < source.height(); ++y, row += target.stride())
+        std::memcpy(row, source.constScanLine(y), target.stride());
+    return target;
+}
+
+bool hasSixteenBits(const QImage& image)
+{
+    switch (image.format()) {
+    case QImage::Format_RGBX64:
+    case QImage::Format_RGBA64:
+    case QImage::Format_RGBA64_Premultiplied:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+QImage readImage(const QString& fileName)
+{
+    QFile file(fileName);
+    requireImageFile(file);
+    return decode(file);
+}
+
+COstriaImage toCameraImage(const QImage& image, const QString& fileName)
+{
+    requireColor(image, fileName);
+    return hasSixteenBits(image) ? toRgb16(image) : toRgb8(image);
+}
+
+} // namespace ColorCalibrate

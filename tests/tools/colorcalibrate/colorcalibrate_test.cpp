@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+// The tool as a whole: help, unknown words, exit codes, pipes.
+#include "commandtest.h"
+
+#include <QProcess>
+
+TEST(ColorCalibrateTool, ExplainsItself)
+{
+    const Outcome help = runTool({QStringLiteral("--help")});
+    EXPECT_EQ(help.code, 0);
+    EXPECT_EQ(help.err, "");
+    const std::string names[] = {"compute", "find", "measure"};
+    for (const std::string& name : names) {
+        EXPECT_NE(help.out.find(name), std::string::npos);
+        const Outcome own = runTool({QString::fromStdString(name), QStringLiteral("--help")});
+        EXPECT_EQ(own.code, 0) << own.err;
+        EXPECT_EQ(own.err, "");
+        EXPECT_EQ(own.out.rfind("Usage: colorcalibrate " + name, 0), 0u) << own.out;
+        EXPECT_NE(own.out.find("--json"), std::string::npos) << own.out;
+    }
+    EXPECT_EQ(runTool({QStringLiteral("-h")}).out, help.out);
+    EXPECT_EQ(runTool({QStringLiteral("--version")}).out.rfind("colorcalibrate ", 0), 0u);
+}
+
+TEST(ColorCalibrateTool, RefusesWhatItDoesNotKnow)
+{
+    expectFailure(runTool({}), 2, {QStringLiteral("missing"), QStringLiteral("--help")});
+    expectFailure(runTool({QStringLiteral("paint")}), 2, {QStringLiteral("paint")});
+    expectFailure(runTool({QStringLiteral("--verbose")}), 2, {QStringLiteral("--verbose")});
+}
+
+TEST(ColorCalibrateTool, RunsAsAProgramInAPipe)
+{
+    QProcess program;
+    program.start(QStringLiteral(COLORCALIBRATE_PROGRAM),
+                  {QStringLiteral("compute"), QStringLiteral("-"), QStringLiteral("--json")});
+    ASSERT_TRUE(program.waitForStarted());
+    program.write(QByteArray::fromStdString(targetLines()));
+    program.closeWriteChannel();
+    ASSERT_TRUE(program.waitForFinished(60000));
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_EQ(program.readAllStandardError(), "");
+    EXPECT_EQ(program.readAllStandardOutput().toStdString(),
+              runTool({QStringLiteral("compute"), QStringLiteral("-"), QStringLiteral("--json")},
+                      targetLines())
+                  .out);
+}
+
+TEST(ColorCalibrateTool, EndsWithItsCodes)
+{
+    const auto codeOf = [](const QStringList& arguments) {
+        return QProcess::execute(QStringLiteral(COLORCALIBRATE_PROGRAM), arguments);
+    };
+    EXPECT_EQ(codeOf({QStringLiteral("--version")}), 0);
+    EXPECT_EQ(codeOf({QStringLiteral("compute"), QStringLiteral("/no/such/file")}), 1);
+    EXPECT_EQ(codeOf({QStringLiteral("paint")}), 2);
+}
