@@ -29,6 +29,13 @@ else()
             -fsanitize=${OSTRIA_SANITIZE} -fno-sanitize-recover=all)
         target_link_options(ostria_compiler INTERFACE -fsanitize=${OSTRIA_SANITIZE})
     endif()
+    if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        # Qt's logging macros are called with an empty last argument.
+        target_compile_options(ostria_compiler INTERFACE -Wno-gnu-zero-variadic-macro-arguments)
+    endif()
+    if(OSTRIA_BUILD_FUZZERS AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        target_compile_options(ostria_compiler INTERFACE -fsanitize=fuzzer-no-link)
+    endif()
 endif()
 target_compile_definitions(ostria_compiler INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
