@@ -144,6 +144,28 @@ TEST_F(FeatureStreamWriter, LeavesHugeSelectorsWhereTheyAre)
     EXPECT_EQ(savedLines(), "S\t3\nV\t7\nS\t3\n"_q);
 }
 
+TEST_F(FeatureStreamWriter, SwitchesBooleanSelectors)
+{
+    use(describe("<pFeature>S</pFeature><pFeature>V</pFeature>",
+                 R"(<Boolean Name="S"><pValue>I</pValue><pSelected>V</pSelected></Boolean>
+<Integer Name="I"><Value>1</Value></Integer>
+<IntReg Name="V"><Streamable>Yes</Streamable><Address>0x600</Address><pIndex Offset="4">I</pIndex>
+<Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Sign>Unsigned</Sign>
+<Endianess>BigEndian</Endianess></IntReg>)"));
+    port->setWord(0x604, 9);
+    EXPECT_EQ(savedLines(), "S\t0\nV\t0\nS\t1\nV\t9\nS\t1\n"_q);
+}
+
+TEST_F(FeatureStreamWriter, WritesLockedSelectorsPresentPositionWithoutALineOfTheirs)
+{
+    use(describe("<pFeature>S</pFeature><pFeature>V</pFeature>",
+                 R"(<Integer Name="S"><pIsLocked>One</pIsLocked><Streamable>Yes</Streamable>
+<Value>1</Value><Min>0</Min><Max>1</Max><pSelected>V</pSelected></Integer>
+<Integer Name="One"><Value>1</Value></Integer>
+<Integer Name="V"><Streamable>Yes</Streamable><Value>7</Value></Integer>)"));
+    EXPECT_EQ(savedLines(), "V\t7\n"_q);
+}
+
 TEST_F(FeatureStreamWriter, NestsSelectorsThatKnowNothingOfEachOther)
 {
     use(describe("<pFeature>A</pFeature><pFeature>B</pFeature><pFeature>V</pFeature>",

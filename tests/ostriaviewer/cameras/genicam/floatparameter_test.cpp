@@ -169,3 +169,30 @@ TEST_F(FloatParameter, OfAReadOnlyRegisterCannotBeWritten)
     EXPECT_EQ(refusalOf([&] { temperature->setValue(1); }),
               "Temperature: cannot be written, only read.");
 }
+
+TEST_F(FloatParameter, OverAnIntegerGoesToTheNearest)
+{
+    use(describe("", R"(<Float Name="F"><pValue>I</pValue><Unit>us</Unit></Float>
+<Integer Name="I"><Value>0</Value><Min>0</Min><Max>10</Max></Integer>)"));
+    const auto parameter = camera->floatParameter("F"_q);
+    EXPECT_EQ(parameter->maximum(), 10.0);
+    parameter->setValue(2.9);
+    EXPECT_EQ(parameter->value(), 3.0);
+    parameter->setValue(2.1);
+    EXPECT_EQ(parameter->value(), 2.0);
+    EXPECT_NE(refusalOf([&] { parameter->setValue(11); }), "");
+}
+
+TEST_F(FloatParameter, GoesToTheNearestOfAFallingFormula)
+{
+    // Shutter speed: 1000 / raw, so that a higher value has a lower integer.
+    use(describe("", R"(<Float Name="F"><pValue>C</pValue><Min>10</Min><Max>1000</Max></Float>
+<Converter Name="C"><FormulaTo>1000.0/FROM</FormulaTo><FormulaFrom>1000.0/TO</FormulaFrom>
+<pValue>I</pValue></Converter><Integer Name="I"><Value>50</Value></Integer>)"));
+    const auto parameter = camera->floatParameter("F"_q);
+    const auto raw = camera->integerParameter("I"_q);
+    parameter->setValue(1000.0 / 20.9);
+    EXPECT_EQ(raw->value(), 21);
+    parameter->setValue(1000.0 / 20.1);
+    EXPECT_EQ(raw->value(), 20);
+}

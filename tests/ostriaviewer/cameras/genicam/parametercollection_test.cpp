@@ -2,6 +2,8 @@
 // What must hold for names, kinds and versions.
 #include "testcamera.h"
 
+#include <thread>
+
 using ParameterCollection = TestCamera;
 
 namespace {
@@ -150,4 +152,45 @@ TEST_F(ParameterCollection, RefusesOtherNodeMapsInFeatureStreams)
     EXPECT_EQ(text, "untouched"_q);
     EXPECT_EQ(refusalOf([&] { camera->loadFeatures("Gain\t2\n"_q, text, "@Other"_q); }), reason);
     EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 1.5);
+}
+
+TEST_F(ParameterCollection, AccessIsThatOfAllNodesThatAValueComesThrough)
+{
+    use(describe("",
+                 R"(<Integer Name="Inner"><pIsLocked>Switch</pIsLocked><Value>1</Value></Integer>
+<Integer Name="Outer"><pValue>Inner</pValue></Integer>
+<Float Name="Computed"><pValue>Formula</pValue></Float>
+<SwissKnife Name="Formula"><pVariable Name="S">State</pVariable><Formula>S/4.0</Formula></SwissKnife>
+<Integer Name="Imposed"><ImposedAccessMode>RO</ImposedAccessMode><pValue>Inner</pValue></Integer>
+<Enumeration Name="Mode"><EnumEntry Name="A"><Value>0</Value></EnumEntry><pValue>Fixed</pValue>
+</Enumeration>
+<Integer Name="Hidden"><pIsAvailable>Switch</pIsAvailable><Value>1</Value></Integer>
+<Integer Name="ThroughHidden"><pValue>Hidden</pValue></Integer>
+<Boolean Name="Switch"><pValue>State</pValue></Boolean>
+<Integer Name="State"><Value>0</Value></Integer>
+<IntReg Name="Fixed"><Address>0x600</Address><Length>4</Length><AccessMode>RO</AccessMode>
+<pPort>Device</pPort><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>)"));
+    EXPECT_FALSE(camera->floatParameter("Computed"_q)->isWritable());
+    EXPECT_FALSE(camera->integerParameter("Imposed"_q)->isWritable());
+    EXPECT_FALSE(camera->enumerationParameter("Mode"_q)->isWritable());
+    EXPECT_FALSE(camera->enumerationParameter("Mode"_q)->trySetValue("A"_q));
+
+    const auto outer = camera->integerParameter("Outer"_q);
+    const auto throughHidden = camera->integerParameter("ThroughHidden"_q);
+    EXPECT_TRUE(outer->isWritable());
+    EXPECT_FALSE(throughHidden->isAvailable());
+    camera->booleanParameter("Switch"_q)->setValue(true, true);
+    EXPECT_FALSE(outer->isWritable());
+    EXPECT_TRUE(throughHidden->isAvailable());
+}
+
+TEST_F(ParameterCollection, ParametersOfAnEndedThreadMayBeUsedAndReleasedByAnother)
+{
+    Core::ParameterCollection::FloatParameterPtr gain;
+    std::thread maker([&] { gain = camera->floatParameter("Gain"_q); });
+    maker.join();
+    gain->setValue(2.5);
+    EXPECT_EQ(gain->value(), 2.5);
+    gain.reset();
+    EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 2.5);
 }
