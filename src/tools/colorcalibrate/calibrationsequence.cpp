@@ -4,7 +4,9 @@
 
 #include "command.h"
 #include "grid.h"
+#include "patchcolorconversion.h"
 #include "patchcolors.h"
+#include "patchdeltas.h"
 
 #include <QEventLoop>
 #include <QImage>
@@ -22,6 +24,9 @@ namespace {
 /// How far the gray patch may be from its goal, in percent, as the wizard's gauge has it.
 constexpr double usableDeviation = 20.0;
 constexpr int cancelPollMs = 100;
+
+/// Further off than this on average, what was measured is hardly the chart.
+constexpr double usableDeltaE = 8.0;
 
 } // namespace
 
@@ -47,6 +52,7 @@ SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceO
             adjustBrightness();
         calibrate();
         SequenceResult result = measureOutcome();
+        requireChart(result);
         QObject::disconnect(lost);
         QObject::disconnect(rate);
         return result;
@@ -63,8 +69,13 @@ void CalibrationSequence::step(const char* name, const std::function<bool()>& ca
 {
     stopIfCancelled();
     m_progress(QLatin1String(name));
-    if (!call())
-        throw CommandError(QLatin1String(failure));
+    m_log.clear();
+    if (call())
+        return;
+    stopIfCancelled();
+    const QString reason = m_log.lastFailure();
+    throw CommandError(QLatin1String(failure) +
+                       (reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(reason)));
 }
 
 void CalibrationSequence::stopIfCancelled() const
@@ -213,6 +224,23 @@ SequenceResult CalibrationSequence::measureOutcome()
         "the patches could not be measured; is the whole chart in the image, and large enough?");
     result.grid = m_model.GetGridPosition();
     return result;
+}
+
+/// The model calibrates whatever the grid lies on; a chart comes out near to its targets.
+void CalibrationSequence::requireChart(const SequenceResult& result)
+{
+    const double before =
+        deltasToTargets(ColorCalibration::toPatchColors(result.initialColors, true)).meanDeltaE();
+    const double after =
+        deltasToTargets(ColorCalibration::toPatchColors(result.currentColors, true)).meanDeltaE();
+    if (after < usableDeltaE)
+        return;
+    throw CommandError(
+        QStringLiteral("the patches are off their targets by a mean Delta E of %1 after "
+                       "calibration, %2 before; is the grid on the chart, and the chart evenly lit "
+                       "and neither too bright nor too dark?")
+            .arg(after, 0, 'f', 1)
+            .arg(before, 0, 'f', 1));
 }
 
 QString CalibrationSequence::giveBack()

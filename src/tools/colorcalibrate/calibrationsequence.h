@@ -3,6 +3,7 @@
 #pragma once
 
 #include "colorcorrectionmodel.h"
+#include "failurelog.h"
 #include "icamera.h"
 
 #include <QColor>
@@ -55,6 +56,7 @@ private:
     void adjustBrightness();
     void calibrate();
     SequenceResult measureOutcome();
+    void requireChart(const SequenceResult& result);
 
     void step(const char* name, const std::function<bool()>& call, const char* failure);
     void stopIfCancelled() const;
@@ -63,6 +65,7 @@ private:
     ColorCalibration::ColorCorrectionModel& m_model;
     std::function<void(const QString&)> m_progress;
     std::function<bool()> m_isCancelled;
+    FailureLog m_log;
     bool m_isOpen = false;
     bool m_isLost = false;
     bool m_hasBackup = false;
