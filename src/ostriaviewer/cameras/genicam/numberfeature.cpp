@@ -30,7 +30,6 @@ ArvGcFloat* floatNode(const Feature& feature)
 template <class Value, class Node>
 Value limit(const Feature& feature, Node* node, Value (*ask)(Node*, GError**), Value fallback)
 {
-    feature.requireThere();
     GErrorSlot error;
     const Value value = ask(node, error);
     if (error.meansNotDefined())

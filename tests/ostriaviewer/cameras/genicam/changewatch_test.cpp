@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QThread>
 
+#include <memory>
 #include <thread>
 
 using Core::ParameterCollection::IParameter;
@@ -170,6 +171,34 @@ TEST_F(ChangeWatch, ParametersWithoutReceiversCostNothing)
     port->reads = 0;
     gain->setValue(4);
     EXPECT_EQ(port->reads, alone);
+}
+
+TEST_F(ChangeWatch, DeletedReceiversCostNothingAfterTheNextChange)
+{
+    const auto width = camera->integerParameter("Width"_q);
+    const auto gain = camera->floatParameter("Gain"_q);
+    port->reads = 0;
+    gain->setValue(2);
+    const int alone = port->reads;
+    auto receiver = std::make_unique<QObject>();
+    QObject::connect(width.data(), &IParameter::parameterDataChangedDecoupled, receiver.get(),
+                     [] {});
+    receiver.reset();
+    width->setValue(320, true);
+    deliver();
+    port->reads = 0;
+    gain->setValue(4);
+    EXPECT_EQ(port->reads, alone);
+}
+
+TEST_F(ChangeWatch, AReceiverMayReleaseTheParameter)
+{
+    auto gain = camera->floatParameter("Gain"_q);
+    QObject::connect(gain.data(), &IParameter::parameterDataChangedDecoupled, &m_receiver,
+                     [&gain] { gain.reset(); });
+    gain->setValue(4);
+    deliver();
+    EXPECT_TRUE(gain.isNull());
 }
 
 TEST_F(ChangeWatch, ParametersMayGoWhileNewsIsOnItsWay)

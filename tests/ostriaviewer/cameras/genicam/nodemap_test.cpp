@@ -110,6 +110,20 @@ TEST_F(NodeMapTest, ExceptionsOfAnyTypeInThePortAreRefusals)
               "Gain: the camera refuses the access.");
 }
 
+TEST_F(NodeMapTest, ReasonsOfThePortAreNotRepeatedOrDotted)
+{
+    const auto gain = camera->floatParameter("Gain"_q);
+    const auto refuse = [&](const char* reason) {
+        port->onWrite = [reason](std::uint64_t) {
+            throw GenICam::RuntimeException(reason);
+        };
+        return refusalOf([&] { gain->setValue(2); });
+    };
+    EXPECT_EQ(refuse("Gain: too warm."), "Gain: too warm.");
+    EXPECT_EQ(refuse("too warm"), "Gain: too warm.");
+    EXPECT_EQ(refuse("[x"), "Gain: [x.");
+}
+
 TEST_F(NodeMapTest, TwoThreadsReadAndWriteWithoutMixingUp)
 {
     // Each value is written as a selector and what it selects; held together by nothing but the
