@@ -99,17 +99,25 @@ bool Feature::isLocked() const
     });
 }
 
+bool Feature::allowsReading() const
+{
+    return m_kind != FeatureKind::Command &&
+           arv_gc_feature_node_get_actual_access_mode(node()) != ARV_GC_ACCESS_MODE_WO;
+}
+
+bool Feature::allowsWriting() const
+{
+    return arv_gc_feature_node_get_actual_access_mode(node()) != ARV_GC_ACCESS_MODE_RO;
+}
+
 bool Feature::isReadable() const
 {
-    return isAvailable() && m_kind != FeatureKind::Command &&
-           arv_gc_feature_node_get_actual_access_mode(node()) != ARV_GC_ACCESS_MODE_WO;
+    return isAvailable() && allowsReading();
 }
 
 bool Feature::isWritable() const
 {
-    return isAvailable() &&
-           arv_gc_feature_node_get_actual_access_mode(node()) != ARV_GC_ACCESS_MODE_RO &&
-           !isLocked();
+    return isAvailable() && allowsWriting() && !isLocked();
 }
 
 bool Feature::isStreamable() const
@@ -130,18 +138,17 @@ void Feature::requireThere() const
 void Feature::requireReadable() const
 {
     requireThere();
-    if (!isReadable())
+    if (!allowsReading())
         fail(QStringLiteral("cannot be read, only written"));
 }
 
 void Feature::requireWritable() const
 {
     requireThere();
-    if (isWritable())
-        return;
+    if (!allowsWriting())
+        fail(QStringLiteral("cannot be written, only read"));
     if (isLocked())
         fail(QStringLiteral("locked with the camera's present settings"));
-    fail(QStringLiteral("cannot be written, only read"));
 }
 
 void Feature::fail(const QString& reason) const
@@ -151,8 +158,16 @@ void Feature::fail(const QString& reason) const
 
 void Feature::check(const GErrorSlot& error) const
 {
-    if (error.isSet())
-        fail(error.reason());
+    if (!error.isSet())
+        return;
+    // A device may name the feature itself.
+    QString reason = error.reason();
+    const QString prefix = m_name + QLatin1String(": ");
+    if (reason.startsWith(prefix))
+        reason.remove(0, prefix.size());
+    if (reason.endsWith(QLatin1Char('.')))
+        reason.chop(1);
+    fail(reason);
 }
 
 } // namespace Cameras::GenICam

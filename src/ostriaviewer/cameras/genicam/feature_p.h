@@ -75,6 +75,8 @@ public:
     void check(const GErrorSlot& error) const;
 
 private:
+    bool allowsReading() const;
+    bool allowsWriting() const;
     bool isLocked() const;
 
     NodeMapPrivate* m_map = nullptr;

@@ -30,7 +30,6 @@ ArvGcFloat* floatNode(const Feature& feature)
 template <class Value, class Node>
 Value limit(const Feature& feature, Node* node, Value (*ask)(Node*, GError**), Value fallback)
 {
-    feature.requireThere();
     GErrorSlot error;
     const Value value = ask(node, error);
     if (error.meansNotDefined())
@@ -89,11 +88,11 @@ double readFloat(const Feature& feature)
 
 /// Moves an integer that Aravis truncated to the nearest. A value as far beyond the wish as the
 /// one that was kept lies before it has its integer truncated to the next one exactly if that is
-/// nearer.
+/// nearer; a little less far, so that rounding errors cannot make it two.
 void roundToNearest(const Feature& feature, double value, double minimum, double maximum)
 {
     const double truncated = readFloat(feature);
-    const double mirrored = std::clamp(2.0 * value - truncated, minimum, maximum);
+    const double mirrored = std::clamp(value + 0.9999 * (value - truncated), minimum, maximum);
     if (truncated == value || mirrored == value)
         return;
     writeFloat(feature, mirrored);
@@ -149,7 +148,10 @@ void setInteger(const Feature& feature, qint64 value, bool verify)
     GErrorSlot error;
     arv_gc_integer_set_value(integerNode(feature), value, error);
     feature.check(error);
-    if (!verify || !feature.isReadable())
+    if (!verify)
+        return;
+    feature.requireThere();
+    if (!feature.isReadable())
         return;
     const qint64 kept = integerValue(feature);
     if (kept != value)
@@ -203,7 +205,10 @@ void setBoolean(const Feature& feature, bool value, bool verify)
     GErrorSlot error;
     arv_gc_boolean_set_value(ARV_GC_BOOLEAN(feature.node()), value ? TRUE : FALSE, error);
     feature.check(error);
-    if (verify && feature.isReadable() && booleanValue(feature) != value)
+    if (!verify)
+        return;
+    feature.requireThere();
+    if (feature.isReadable() && booleanValue(feature) != value)
         feature.fail(QStringLiteral("the camera keeps another value than %1")
                          .arg(value ? QStringLiteral("true") : QStringLiteral("false")));
 }

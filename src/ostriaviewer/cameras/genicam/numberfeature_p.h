@@ -7,7 +7,8 @@
 namespace Cameras::GenICam {
 
 // All need the node map's mutex and a feature of the kind that the function names; they throw
-// ::GenICam::RuntimeException with the feature's name and the reason.
+// ::GenICam::RuntimeException with the feature's name and the reason. Those about limits and
+// increments want the feature to be available; the others look themselves.
 
 qint64 integerValue(const Feature& feature);
 

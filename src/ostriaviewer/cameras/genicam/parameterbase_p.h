@@ -93,32 +93,39 @@ protected:
     /// Nobody pays for the signal of a parameter without receivers.
     void connectNotify(const QMetaMethod& signal) override
     {
-        if (signal != QMetaMethod::fromSignal(
-                          &Core::ParameterCollection::IParameter::parameterDataChangedDecoupled))
+        if (signal != changeSignal())
             return;
         const ReadLock lock(map().mutex());
         if (!m_watch && !isEmpty())
             m_watch = map().changes().add(m_feature, [this] { announce(); });
     }
 
-    void disconnectNotify(const QMetaMethod&) override
+    void disconnectNotify(const QMetaMethod&) override { stopUnheardWatch(); }
+
+private:
+    static QMetaMethod changeSignal()
     {
-        const auto signal = QMetaMethod::fromSignal(
+        return QMetaMethod::fromSignal(
             &Core::ParameterCollection::IParameter::parameterDataChangedDecoupled);
+    }
+
+    void stopUnheardWatch()
+    {
         const ReadLock lock(map().mutex());
-        if (!m_watch || this->isSignalConnected(signal))
+        if (!m_watch || this->isSignalConnected(changeSignal()))
             return;
         map().changes().remove(*m_watch);
         m_watch.reset();
     }
 
-private:
     void announce()
     {
         if (m_isAnnounced.exchange(true))
             return;
         const auto tell = [this] {
             m_isAnnounced = false;
+            // Receivers that were deleted have not told us.
+            stopUnheardWatch();
             emit this->parameterDataChangedDecoupled();
         };
         QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);

@@ -11,7 +11,8 @@ namespace Cameras::GenICam {
 ///
 /// A node map calls it from any thread, one call at a time: it holds its own mutex meanwhile. So an
 /// implementation must not wait for another thread that uses the same node map. Bytes are in the
-/// order that the device description says; the port does not look at them.
+/// order that the device description says. What the functions throw reaches people behind the
+/// feature's name: "Gain: " and the reason, which need not end with a full stop.
 class IRegisterPort
 {
 public:
