@@ -9,9 +9,9 @@ constexpr double patchShare = 0.86; // of a cell's width and height
 
 } // namespace
 
-const std::array<std::array<double, 3>, chartColumns * chartRows>& chartColors()
+const std::array<std::array<double, 3>, chartPatches>& chartColors()
 {
-    static constexpr std::array<std::array<double, 3>, chartColumns* chartRows> colors = {{
+    static constexpr std::array<std::array<double, 3>, chartPatches> colors = {{
         {44.138, 20.936, 14.471}, {144.92, 74.616, 55.685}, {26.445, 49.942, 84.531},
         {25.909, 37.971, 13.23},  {56.507, 55.02, 110.82},  {27.58, 131.14, 105.23},
         {190.57, 51.144, 7.1641}, {14.698, 26.806, 102.75}, {144.5, 21.469, 30.518},

@@ -5,16 +5,18 @@
 #include "scene.h"
 
 #include <array>
+#include <cstddef>
 
 namespace Cameras::Emulation {
 
 constexpr int chartColumns = 6;
 constexpr int chartRows = 4;
+constexpr std::size_t chartPatches = 24;
 
 /// The measured colors of the printed chart's 24 patches, row by row: linear light, 0 to 255, with
 /// the primaries and the white of sRGB. They describe the thing before the camera; what a
 /// calibration makes of it is none of a camera's business.
-const std::array<std::array<double, 3>, chartColumns * chartRows>& chartColors();
+const std::array<std::array<double, 3>, chartPatches>& chartColors();
 
 /// The black of the frame and of the gaps between the patches.
 Light chartFrameColor();
@@ -27,6 +29,6 @@ constexpr int chartFrame = 24;
 constexpr int besideChart = 25;
 
 /// Width of the frame around the cells, in cells.
-constexpr double chartFrameWidth = 0.3;
+constexpr double chartFrameWidth = 0.15;
 
 } // namespace Cameras::Emulation

@@ -108,9 +108,9 @@ struct ColorStages::Chunk
     void store(Word* rgb, int count) const
     {
         for (int i = 0; i < count; ++i) {
-            rgb[3 * i] = static_cast<Word>(static_cast<int>(red[i] + 0.5F));
-            rgb[3 * i + 1] = static_cast<Word>(static_cast<int>(green[i] + 0.5F));
-            rgb[3 * i + 2] = static_cast<Word>(static_cast<int>(blue[i] + 0.5F));
+            rgb[3 * i] = roundedToWord(red[i]);
+            rgb[3 * i + 1] = roundedToWord(green[i]);
+            rgb[3 * i + 2] = roundedToWord(blue[i]);
         }
     }
 
@@ -190,7 +190,7 @@ void ColorStages::applyToMono(Word* values, int count) const
         return;
     for (int i = 0; i < count; ++i) {
         const float adjusted = clamped(m_contrast * values[i] + m_adjustment.offset);
-        values[i] = static_cast<Word>(static_cast<int>(adjusted + 0.5F));
+        values[i] = roundedToWord(adjusted);
     }
 }
 

@@ -31,7 +31,7 @@ void MosaicCorrection::apply(const float* raw, int x, int y, int count, Word* wo
         const float balanced = signal * (i % 2 == 0 ? first : second);
         const float positive = balanced > 0.0F ? balanced : 0.0F;
         const float clamped = positive < largest ? positive : largest;
-        words[i] = static_cast<Word>(static_cast<int>(clamped + 0.5F));
+        words[i] = roundedToWord(clamped);
     }
 }
 

@@ -7,7 +7,6 @@
 #include "word.h"
 
 #include <array>
-#include <vector>
 
 namespace Cameras::Emulation {
 

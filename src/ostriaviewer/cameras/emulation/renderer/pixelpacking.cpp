@@ -3,7 +3,6 @@
 #include "pixelpacking.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 
 namespace Cameras::Emulation {

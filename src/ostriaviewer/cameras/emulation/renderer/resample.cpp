@@ -3,7 +3,6 @@
 #include "resample.h"
 
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 namespace Cameras::Emulation {

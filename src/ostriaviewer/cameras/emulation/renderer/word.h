@@ -15,4 +15,11 @@ using Word = std::uint16_t;
 constexpr int wordsPerCount = 16;
 constexpr int wordFullScale = wordsPerCount * fullScale;
 
+/// The nearest word. Halves go up. Unlike the library's functions it vectorises everywhere.
+/// \param value  0 to full scale
+inline Word roundedToWord(float value)
+{
+    return static_cast<Word>(static_cast<int>(value + 0.5F));
+}
+
 } // namespace Cameras::Emulation
