@@ -10,6 +10,7 @@
 #include <condition_variable>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -18,18 +19,24 @@
 /// Longer than anything takes that works.
 constexpr std::chrono::seconds patience(60);
 
+/// What has arrived is shared with the delivering thread, which may still be in the probe's slot
+/// when the test ends the probe.
 class FrameProbe
 {
 public:
+    using CameraInfoPtr = Core::CameraPoolComponents::CameraInfoPtr;
     using Receiver = std::function<void()>;
 
     /// \param receiver  called for each image after it was counted, on the delivering thread
     explicit FrameProbe(const Core::CameraPoolComponents::CameraPtr& camera, Receiver receiver = {})
-        : m_receiver(std::move(receiver))
-        , m_connection(QObject::connect(
+        : m_connection(QObject::connect(
               camera.data(), &Core::CameraPoolComponents::ICamera::cameraImageGrabbed,
-              [this](const Core::CameraPoolComponents::CameraInfoPtr& info,
-                     const Ostria::CGrabResultPtr& result) { receive(info, result); }))
+              [state = m_state, receiver = std::move(receiver)](
+                  const CameraInfoPtr& info, const Ostria::CGrabResultPtr& result) {
+                  state->add(info, result);
+                  if (receiver)
+                      receiver();
+              }))
     {}
     ~FrameProbe() { QObject::disconnect(m_connection); }
     FrameProbe(const FrameProbe&) = delete;
@@ -38,48 +45,51 @@ public:
     /// \return  whether so many images have come since the probe began
     bool waitFor(std::size_t count)
     {
-        std::unique_lock lock(m_mutex);
-        return m_arrived.wait_for(lock, patience, [&] { return m_results.size() >= count; });
+        std::unique_lock lock(m_state->mutex);
+        return m_state->arrived.wait_for(lock, patience,
+                                         [&] { return m_state->results.size() >= count; });
     }
 
     std::vector<Ostria::CGrabResultPtr> results() const
     {
-        const std::lock_guard lock(m_mutex);
-        return m_results;
+        const std::lock_guard lock(m_state->mutex);
+        return m_state->results;
     }
     std::size_t count() const { return results().size(); }
 
-    Core::CameraPoolComponents::CameraInfoPtr camera() const
+    /// The camera that the last image named; null if it is gone.
+    CameraInfoPtr camera() const
     {
-        const std::lock_guard lock(m_mutex);
-        return m_camera;
+        const std::lock_guard lock(m_state->mutex);
+        return m_state->camera;
     }
     std::thread::id thread() const
     {
-        const std::lock_guard lock(m_mutex);
-        return m_thread;
+        const std::lock_guard lock(m_state->mutex);
+        return m_state->thread;
     }
 
 private:
-    void receive(const Core::CameraPoolComponents::CameraInfoPtr& camera,
-                 const Ostria::CGrabResultPtr& result)
+    struct State
     {
-        {
-            const std::lock_guard lock(m_mutex);
-            m_results.push_back(result);
-            m_camera = camera;
-            m_thread = std::this_thread::get_id();
-        }
-        m_arrived.notify_all();
-        if (m_receiver)
-            m_receiver();
-    }
+        std::mutex mutex;
+        std::condition_variable arrived;
+        std::vector<Ostria::CGrabResultPtr> results;
+        QWeakPointer<Core::CameraPoolComponents::ICameraInfo> camera;
+        std::thread::id thread;
 
-    const Receiver m_receiver;
-    mutable std::mutex m_mutex;
-    std::condition_variable m_arrived;
-    std::vector<Ostria::CGrabResultPtr> m_results;
-    Core::CameraPoolComponents::CameraInfoPtr m_camera;
-    std::thread::id m_thread;
-    QMetaObject::Connection m_connection; // last: the probe is whole when the first image comes
+        void add(const CameraInfoPtr& info, const Ostria::CGrabResultPtr& result)
+        {
+            {
+                const std::lock_guard lock(mutex);
+                results.push_back(result);
+                camera = info;
+                thread = std::this_thread::get_id();
+            }
+            arrived.notify_all();
+        }
+    };
+
+    const std::shared_ptr<State> m_state = std::make_shared<State>();
+    QMetaObject::Connection m_connection;
 };
