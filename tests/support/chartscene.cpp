@@ -37,7 +37,7 @@ double encoded(double linear)
         }
         return levels;
     }();
-    return table[static_cast<std::size_t>(std::clamp(linear, 0.0, 1.0) * 65535.0 + 0.5)];
+    return table[static_cast<std::size_t>(std::lround(std::clamp(linear, 0.0, 1.0) * 65535.0))];
 }
 
 /// The colours of a scene in chart coordinates, where a cell is 1 by 1.
@@ -123,8 +123,9 @@ LinearColor pixelColor(const Scene& scene, const Paint& paint, const QTransform&
 {
     LinearColor mean{};
     for (int i = 0; i < SamplesPerAxis * SamplesPerAxis; ++i) {
-        const QPointF point(x + (i % SamplesPerAxis + 0.5) / SamplesPerAxis,
-                            y + (i / SamplesPerAxis + 0.5) / SamplesPerAxis);
+        const int column = i % SamplesPerAxis;
+        const int row = i / SamplesPerAxis;
+        const QPointF point(x + (column + 0.5) / SamplesPerAxis, y + (row + 0.5) / SamplesPerAxis);
         const LinearColor color = paint.at(toChart.map(point), point);
         for (std::size_t c = 0; c < mean.size(); ++c)
             mean[c] += color[c] * scene.light * scene.cast[c];

@@ -29,7 +29,7 @@ QImage uniform(const QSize& size, const QColor& color)
 QColor patchColor(int patch)
 {
     const PatchColors targets = ChartTargets().TargetColors();
-    return QColor(qRound(targets(patch, 0)), qRound(targets(patch, 1)), qRound(targets(patch, 2)));
+    return {qRound(targets(patch, 0)), qRound(targets(patch, 1)), qRound(targets(patch, 2))};
 }
 
 /// Nine squares that touch each other, in the colours of the anchor block; the one in the middle

@@ -19,6 +19,7 @@ constexpr int BlockLanes = BlockRows * RgbBytes::Channels;
 /// rounded.
 unsigned char toByte(float fraction)
 {
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): as QColor rounds, and without a call
     const int wide = static_cast<int>(double(fraction) * 65535.0 + 0.5) + 128;
     return static_cast<unsigned char>((wide - (wide >> 8)) >> 8);
 }
@@ -35,7 +36,7 @@ inline void slide(float* __restrict sums, const double* __restrict entering,
                   std::size_t lanes, float window)
 {
     for (std::size_t lane = 0; lane < lanes; ++lane) {
-        float sum = static_cast<float>(double(sums[lane]) + entering[lane]);
+        auto sum = static_cast<float>(double(sums[lane]) + entering[lane]);
         float mean = sum / window;
         sum = mean > 1.0F ? window : sum;
         mean = mean > 1.0F ? 1.0F : mean;
@@ -90,7 +91,7 @@ public:
     void setRow(int row, const unsigned char* rgb)
     {
         const double* fractions = byteFractions();
-        double* out = m_samples.data() + row * RgbBytes::Channels;
+        double* out = m_samples.data() + offsetOf(row);
         for (int x = 0; x < m_width; ++x, out += BlockLanes, rgb += RgbBytes::Channels) {
             for (int channel = 0; channel < RgbBytes::Channels; ++channel)
                 out[channel] = fractions[rgb[channel]];
@@ -103,16 +104,19 @@ public:
         unsigned char means[BlockLanes];
         for (int offset = -m_radius; offset < m_radius; ++offset)
             addSamples(sums, column(offset), BlockLanes);
-        const float window = static_cast<float>(2 * m_radius + 1);
+        const auto window = static_cast<float>(2 * m_radius + 1);
         for (int x = 0; x < m_width; ++x) {
             slide(sums, column(x + m_radius), column(x - m_radius), means, BlockLanes, window);
             for (int row = 0; row < rows; ++row)
-                std::copy_n(means + row * RgbBytes::Channels, RgbBytes::Channels,
+                std::copy_n(means + offsetOf(row), RgbBytes::Channels,
                             result.pixel(x, firstRow + row));
         }
     }
 
 private:
+    /// Where a row's lanes begin.
+    static std::size_t offsetOf(int row) { return std::size_t(row) * RgbBytes::Channels; }
+
     const double* column(int x) const
     {
         return m_samples.data() + std::size_t(std::clamp(x, 0, m_width - 1)) * BlockLanes;
@@ -131,7 +135,7 @@ RgbBytes smooth(const QImage& image, int radius)
         return {};
     radius = std::clamp(radius, 0, MaxBoxRadius);
     const std::size_t lanes = std::size_t(image.width()) * RgbBytes::Channels;
-    const float window = static_cast<float>(2 * radius + 1);
+    const auto window = static_cast<float>(2 * radius + 1);
     RowWindow source(image, radius);
     RowBlock block(image.width(), radius);
     std::vector<float> sums(lanes);

@@ -12,6 +12,8 @@ ColorCorrectionAutoChartFinder::ColorCorrectionAutoChartFinder(QObject* parent)
     qRegisterMetaType<ColorCorrectionAutoChartFinderResult>();
 }
 
+// By value: a shared copy, so that the caller may assign to its own image during the search.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 ColorCorrectionAutoChartFinderResult ColorCorrectionAutoChartFinder::findChart(QImage image)
 {
     ColorCorrectionAutoChartFinderResult result;

@@ -34,7 +34,7 @@ QColor pixelColorAt(const QImage& image, int x, int y)
                          image.format() == QImage::Format_Mono ||
                          image.format() == QImage::Format_MonoLSB;
     if (indexed && image.pixelIndex(x, y) >= image.colorCount())
-        return QColor(0, 0, 0);
+        return {0, 0, 0};
     return image.pixelColor(x, y);
 }
 
