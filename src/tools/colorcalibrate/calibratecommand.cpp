@@ -13,6 +13,7 @@
 #include "patchcolorconversion.h"
 #include "patchdeltas.h"
 #include "patchtable.h"
+#include "settingsguard.h"
 #include "settingstext.h"
 #include "terminal.h"
 
@@ -92,22 +93,14 @@ ToolCameras makeCameras(const CommandLine& line)
 }
 
 /// The support test can be made on an open camera alone.
-QString requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera)
+void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera)
 {
-    if (!camera->open())
-        throw CommandError(QStringLiteral("the camera \"%1\" could not be opened: %2")
-                               .arg(camera->displayName(), camera->lastErrorText()));
-    const bool isSupported = isCameraSupported(camera, cameras.parameterService());
-    const auto parameters = camera->parameterCollection();
-    const QString sfnc = parameters ? parameters->sfncVersion().toString() : QString();
-    camera->close();
-    if (!isSupported)
+    if (!isCameraSupported(camera, cameras.parameterService()))
         throw CommandError(
             QStringLiteral(
                 "the camera \"%1\" cannot be calibrated: its model has no color pipeline "
                 "of the kind that is needed")
                 .arg(camera->displayName()));
-    return sfnc;
 }
 
 Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera,
@@ -115,7 +108,9 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
 {
     Report report;
     report.camera = camera->displayName();
-    report.sfnc = requireSupported(cameras, camera);
+    SettingsGuard guard(camera);
+    requireSupported(cameras, camera);
+    report.sfnc = camera->parameterCollection()->sfncVersion().toString();
 
     const Interruption interruption;
     ColorCorrectionModel model;
@@ -129,7 +124,11 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
                 err << step.toStdString() << std::endl;
         },
         [] { return Interruption::isRequested(); });
-    report.result = sequence.run(camera, options);
+    try {
+        report.result = sequence.run(camera, options);
+    } catch (const CommandError& error) {
+        throw CommandError(QString::fromUtf8(error.what()) + guard.restore(), error.code());
+    }
     report.settings = model.LastCalibration();
     report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
     report.after = deltasToTargets(toPatchColors(report.result.currentColors, true));

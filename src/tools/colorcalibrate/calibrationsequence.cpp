@@ -40,10 +40,11 @@ CalibrationSequence::CalibrationSequence(ColorCorrectionModel& model,
 
 SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceOptions& options)
 {
-    const auto lost = QObject::connect(&m_model, &ColorCorrectionModel::cameraRemoved, &m_model,
-                                       [this] { m_isLost = true; });
-    const auto rate = QObject::connect(&m_model, &ColorCorrectionModel::Gray80PercentHitRateChanged,
-                                       &m_model, [this](double value) { m_hitRate = value; });
+    QObject receiver;
+    QObject::connect(&m_model, &ColorCorrectionModel::cameraRemoved, &receiver,
+                     [this] { m_isLost = true; });
+    QObject::connect(&m_model, &ColorCorrectionModel::Gray80PercentHitRateChanged, &receiver,
+                     [this](double value) { m_hitRate = value; });
     try {
         open(camera);
         placeGrid(options);
@@ -53,14 +54,12 @@ SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceO
         calibrate();
         SequenceResult result = measureOutcome();
         requireChart(result);
-        QObject::disconnect(lost);
-        QObject::disconnect(rate);
         return result;
-    } catch (const CommandError& error) {
-        const QString remark = giveBack();
-        QObject::disconnect(lost);
-        QObject::disconnect(rate);
-        throw CommandError(QString::fromUtf8(error.what()) + remark, error.code());
+    } catch (const CommandError&) {
+        m_model.StopGrabbing();
+        m_model.RestoreSettingsBackup(false);
+        m_model.Close();
+        throw;
     }
 }
 
@@ -91,7 +90,6 @@ void CalibrationSequence::open(const CameraPtr& camera)
     step(
         "Opening the camera", [&] { return m_model.Open(camera); },
         "the camera could not be opened with exclusive access");
-    m_isOpen = true;
 }
 
 void CalibrationSequence::placeGrid(const SequenceOptions& options)
@@ -113,8 +111,7 @@ void CalibrationSequence::makeNeutral(const SequenceOptions& options)
         "Keeping the camera's settings",
         [this] {
             m_model.StopGrabbing();
-            m_hasBackup = m_model.CreateSettingsBackup(false);
-            return m_hasBackup && m_model.CreateSettingsBackup(true);
+            return m_model.CreateSettingsBackup(false) && m_model.CreateSettingsBackup(true);
         },
         "the camera's settings could not be read");
     if (!options.previousSettings.isEmpty())
@@ -241,21 +238,6 @@ void CalibrationSequence::requireChart(const SequenceResult& result)
                        "and neither too bright nor too dark?")
             .arg(after, 0, 'f', 1)
             .arg(before, 0, 'f', 1));
-}
-
-QString CalibrationSequence::giveBack()
-{
-    if (!m_isOpen)
-        return {};
-    m_isOpen = false;
-    const bool restored =
-        !m_isLost && m_model.StopGrabbing() && m_model.RestoreSettingsBackup(false);
-    m_model.Close();
-    if (restored)
-        return m_hasBackup ? QStringLiteral("; the camera's settings have been restored")
-                           : QString();
-    return QStringLiteral("; THE CAMERA'S SETTINGS COULD NOT BE RESTORED: load a user set or a "
-                          "settings file before you use it");
 }
 
 } // namespace ColorCalibrate

@@ -44,8 +44,7 @@ public:
                         std::function<bool()> isCancelled);
 
     /// The camera stays open and calibrated.
-    /// \throws CommandError  after the camera was given back; the message says what failed, and
-    ///         plainly so if the settings could not be written back
+    /// \throws CommandError  after the camera was given back
     SequenceResult run(const Core::CameraPoolComponents::CameraPtr& camera,
                        const SequenceOptions& options);
 
@@ -60,15 +59,12 @@ private:
 
     void step(const char* name, const std::function<bool()>& call, const char* failure);
     void stopIfCancelled() const;
-    QString giveBack();
 
     ColorCalibration::ColorCorrectionModel& m_model;
     std::function<void(const QString&)> m_progress;
     std::function<bool()> m_isCancelled;
     FailureLog m_log;
-    bool m_isOpen = false;
     bool m_isLost = false;
-    bool m_hasBackup = false;
     double m_hitRate = 0.0;
 };
 
