@@ -97,7 +97,7 @@ private:
     const std::shared_ptr<RegisterStore> m_store;
     Faults m_faults;
 
-    mutable std::mutex m_mutex; // guards all below; never held while somebody else is called
+    mutable std::mutex m_mutex; // guards all below; never held while receivers are called
     Scene m_scene;
     bool m_isSceneNew = false;
     bool m_isConnected = true;
