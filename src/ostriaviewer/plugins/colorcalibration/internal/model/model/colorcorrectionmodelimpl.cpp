@@ -68,6 +68,13 @@ CameraJustify& ColorCorrectionModelImpl::justify() const
     return *m_justify;
 }
 
+void ColorCorrectionModelImpl::setJustify(std::shared_ptr<CameraJustify> justify)
+{
+    // The old one ends after the lock.
+    const QMutexLocker lock(&m_justifyMutex);
+    m_justify.swap(justify);
+}
+
 bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
 {
     const QMutexLocker lock(&m_mutex);
@@ -113,7 +120,7 @@ void ColorCorrectionModelImpl::attachHandle(const CameraPtr& camera, const Camer
     m_camera = camera;
     m_imageCamera = new ConvertingImageCamera;
     m_imageCamera->AttachCamera(handle);
-    m_justify = std::make_unique<CameraJustify>(handle);
+    setJustify(std::make_shared<CameraJustify>(handle));
     m_justify->DisableTestImage();
     connect(m_justify.get(), &CameraJustify::AutoBrightnessFinished, this,
             &ColorCorrectionModelImpl::AutoAdjustGray80PercentPatchFinished);
@@ -149,7 +156,7 @@ bool ColorCorrectionModelImpl::Close()
 void ColorCorrectionModelImpl::releaseCamera()
 {
     disconnectParameterSignals();
-    m_justify.reset();
+    setJustify({});
     CameraPtr handle;
     if (m_imageCamera)
         handle = m_imageCamera->DetachCamera();
@@ -250,12 +257,12 @@ void ColorCorrectionModelImpl::onGainRawChanged()
 
 void ColorCorrectionModelImpl::stopBrightnessRun()
 {
-    CameraJustify* justify = nullptr;
+    std::shared_ptr<CameraJustify> justify;
     {
-        const QMutexLocker lock(&m_mutex);
-        justify = m_justify.get();
+        const QMutexLocker lock(&m_justifyMutex);
+        justify = m_justify;
     }
-    // Without the mutex: the run needs it to come to its end.
+    // Without the model's mutex: the run needs it to come to its end.
     if (justify)
         justify->StopAutoBrightness();
 }

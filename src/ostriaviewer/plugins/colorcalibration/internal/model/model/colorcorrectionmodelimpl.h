@@ -11,6 +11,7 @@
 #include "iparametercollection.h"
 #include "patchcolors.h"
 
+#include <QMutex>
 #include <QPointer>
 #include <QRecursiveMutex>
 #include <QThread>
@@ -96,6 +97,7 @@ private:
     /// \throws Core::Exception::BaseException  the camera is closed
     CameraJustify& justify() const;
 
+    void setJustify(std::shared_ptr<CameraJustify> justify);
     void openHandle(const CameraPtr& camera);
     void attachHandle(const CameraPtr& camera, const CameraPtr& handle);
     void abandonOpening();
@@ -120,7 +122,9 @@ private:
     QPointer<ConvertingImageCamera> m_imageCamera;
     bool m_attachedToOpenCamera = false;
     bool m_connectionLost = false;
-    std::unique_ptr<CameraJustify> m_justify;
+    std::shared_ptr<CameraJustify> m_justify;
+    /// Guards the pointer m_justify alone, for those who must not wait for a grab.
+    mutable QMutex m_justifyMutex;
     std::unique_ptr<ColorCalibrationV1> m_calibration;
     Core::ParameterCollection::FloatParameterPtr m_exposure;
     Core::ParameterCollection::IntegerParameterPtr m_gainRaw;
