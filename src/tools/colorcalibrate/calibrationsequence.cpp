@@ -54,6 +54,7 @@ SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceO
         calibrate();
         SequenceResult result = measureOutcome();
         requireChart(result);
+        stopIfCancelled();
         return result;
     } catch (const CommandError&) {
         m_model.StopGrabbing();
@@ -89,7 +90,7 @@ void CalibrationSequence::open(const CameraPtr& camera)
 {
     step(
         "Opening the camera", [&] { return m_model.Open(camera); },
-        "the camera could not be opened with exclusive access");
+        "the camera could not be opened with exclusive access; is another program using it?");
 }
 
 void CalibrationSequence::placeGrid(const SequenceOptions& options)
