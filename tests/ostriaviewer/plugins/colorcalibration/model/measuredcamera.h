@@ -9,6 +9,14 @@
 #include <algorithm>
 #include <cmath>
 
+inline void setRow(ColorCalibration::PatchColors& colors, int patch, double red, double green,
+                   double blue)
+{
+    colors(patch, 0) = red;
+    colors(patch, 1) = green;
+    colors(patch, 2) = blue;
+}
+
 /// An image of 120 x 80 pixels whose inner four fifths show the 24 colours, 0 to 255.
 inline Ostria::COstriaImage makeChart(const ColorCalibration::PatchColors& colors)
 {
