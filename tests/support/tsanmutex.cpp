@@ -19,7 +19,7 @@ Function libraryFunction(const char* name)
 
 } // namespace
 
-void QMutex::lock()
+void QMutex::lock() QT_MUTEX_LOCK_NOEXCEPT
 {
     static const Function inLibrary = libraryFunction("_ZN6QMutex4lockEv");
     inLibrary(this);
