@@ -12,16 +12,22 @@ LAYERS = {
     "src/ostria": [],
     "src/ostriaviewer/core": ["src/ostria"],
     "src/ostriaviewer/cameras/genicam": ["src/ostria", "src/ostriaviewer/core"],
+    "src/ostriaviewer/cameras/pool": ["src/ostria", "src/ostriaviewer/core"],
     "src/ostriaviewer/cameras/emulation": [
         "src/ostria",
         "src/ostriaviewer/core",
         "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/pool",
+        "src/ostriaviewer/cameras/emulation/renderer",
     ],
+    "src/ostriaviewer/cameras/emulation/renderer": ["src/ostria"],
     "src/ostriaviewer/app": [
         "src/ostria",
         "src/ostriaviewer/core",
         "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/pool",
         "src/ostriaviewer/cameras/emulation",
+        "src/ostriaviewer/cameras/emulation/renderer",
     ],
     f"{PLUGIN}/internal/model/calibration": [],
     f"{PLUGIN}/internal/model/chart": [
@@ -39,7 +45,9 @@ LAYERS = {
         "src/ostria",
         "src/ostriaviewer/core",
         "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/pool",
         "src/ostriaviewer/cameras/emulation",
+        "src/ostriaviewer/cameras/emulation/renderer",
         f"{PLUGIN}/internal/model/calibration",
         f"{PLUGIN}/internal/model/chart",
         f"{PLUGIN}/internal/model/model",
@@ -53,7 +61,7 @@ DLIB = re.compile(r"dlib/.*")
 OPENCV = re.compile(r"opencv2/.*")
 ARAVIS = re.compile(r"arv.*\.h|glib.*|gio/.*|gobject/.*")
 ENGINE = f"{PLUGIN}/internal/model/calibration"
-WITHOUT_QT = ["src/ostria", ENGINE]
+WITHOUT_QT = ["src/ostria", "src/ostriaviewer/cameras/emulation/renderer", ENGINE]
 LIBRARIES = [
     ("Qt", QT, [layer for layer in LAYERS if layer not in WITHOUT_QT], (".h", ".cpp")),
     ("dlib", DLIB, [f"{ENGINE}/dlibmatrix.h"], (".h",)),

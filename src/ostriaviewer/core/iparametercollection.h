@@ -49,7 +49,8 @@ public:
     virtual void saveFeatures(QString& out, const QString& nodeMap) = 0;
 
     /// Applies feature stream text line by line. A line that cannot be applied is skipped.
-    /// \param errors  receives a line for each that was skipped, with its number; empty if none
+    /// \param errors  receives a line for each that was skipped, with its number, after very many
+    ///                only how many more there are; empty if none was skipped
     /// \throws GenICam::RuntimeException  connection lost, or there is no such node map
     virtual void loadFeatures(const QString& text, QString& errors, const QString& nodeMap) = 0;
 };

@@ -2,8 +2,10 @@
 // The command-line tool: finds the subcommand and runs it.
 #include "colorcalibrate.h"
 
+#include "calibratecommand.h"
 #include "computecommand.h"
 #include "findcommand.h"
+#include "listcommand.h"
 #include "measurecommand.h"
 
 #include <algorithm>
@@ -22,9 +24,11 @@ struct Subcommand
     void (*run)(const QStringList& arguments, const Streams& streams);
 };
 
-constexpr std::array<Subcommand, 3> subcommands{{
+constexpr std::array<Subcommand, 5> subcommands{{
+    {"calibrate", "the full calibration of a camera", calibrateCommand},
     {"compute", "camera settings from 24 measured patch colors", computeCommand},
     {"find", "the corners of the chart in an image", findCommand},
+    {"list", "the cameras that can be seen", listCommand},
     {"measure", "the 24 patch colors of an image of the chart", measureCommand},
 }};
 
@@ -67,9 +71,14 @@ void dispatch(const QStringList& arguments, const Streams& streams)
     found->run(arguments.mid(1), streams);
 }
 
+/// One line whatever file names and arguments hold.
 int report(std::ostream& err, const char* message, ExitCode code)
 {
-    err << "colorcalibrate: " << message << "\n";
+    QString line = QString::fromUtf8(message);
+    for (QChar& character : line)
+        if (!character.isPrint() && !character.isSurrogate())
+            character = QLatin1Char('?');
+    err << "colorcalibrate: " << line.toStdString() << "\n";
     return code;
 }
 

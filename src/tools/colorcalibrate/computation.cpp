@@ -17,19 +17,6 @@ namespace {
 constexpr std::array<const char*, 5> stepNames{"Original", "DigitalGain", "WhiteBalance",
                                                "Matrix3x3", "Bc6x2"};
 
-Deltas deltasOf(ColorCalibrationV1& engine, int step)
-{
-    Deltas deltas{};
-    for (int patch = 0; patch < PatchCount; ++patch) {
-        const auto i = static_cast<std::size_t>(patch);
-        deltas.deltaE[i] = engine.GetPatchDelta(step, patch, false, true);
-        deltas.deltaC[i] = engine.GetPatchDelta(step, patch, true, true);
-    }
-    deltas.meanDeltaE = engine.GetMeanDelta(step, false, true);
-    deltas.meanDeltaC = engine.GetMeanDelta(step, true, true);
-    return deltas;
-}
-
 /// A camera cannot take an infinite gain, and what follows from one is of no use.
 void requireFinite(const std::array<double, 3>& whiteBalance)
 {
@@ -74,16 +61,16 @@ Computation compute(const PatchColors& measured)
     ColorCalibrationV1 engine;
     engine.SetStepColors(StepKey::Original, measured);
     Computation computation{};
-    auto& [red, green, blue] = computation.whiteBalance;
+    auto& [red, green, blue] = computation.settings.whiteBalance;
     engine.ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
     engine.GetWhiteBalance(red, green, blue);
-    requireFinite(computation.whiteBalance);
+    requireFinite(computation.settings.whiteBalance);
 
     executeAll(engine);
     engine.GetWhiteBalance(red, green, blue);
-    engine.GetColorMatrix(computation.colorMatrix);
-    engine.GetColorAdjustment(computation.colorAdjustment);
-    engine.GetGamma(computation.gamma);
+    engine.GetColorMatrix(computation.settings.colorMatrix);
+    engine.GetColorAdjustment(computation.settings.colorAdjustment);
+    engine.GetGamma(computation.settings.gamma);
     for (std::size_t i = 0; i < stepNames.size(); ++i) {
         const int step = static_cast<int>(i);
         computation.steps[i] = {stepNames[i], engine.GetStepColors(step),
@@ -91,8 +78,8 @@ Computation compute(const PatchColors& measured)
     }
     computation.meanDeltaE = computation.steps.back().meanDeltaE;
     computation.targets = engine.GetTargetColors();
-    computation.before = deltasOf(engine, StepKey::Original);
-    computation.after = deltasOf(engine, StepKey::Bc6x2);
+    computation.before = deltasToTargets(computation.steps.front().colors);
+    computation.after = deltasToTargets(computation.steps.back().colors);
     return computation;
 }
 

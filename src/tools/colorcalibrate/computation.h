@@ -2,20 +2,12 @@
 // One run of the engine with all that is to be shown of it.
 #pragma once
 
-#include "patchcolors.h"
+#include "calibrationsettings.h"
+#include "patchdeltas.h"
 
 #include <array>
 
 namespace ColorCalibrate {
-
-/// How far the patches are from their targets.
-struct Deltas
-{
-    std::array<double, ColorCalibration::PatchCount> deltaE;
-    std::array<double, ColorCalibration::PatchCount> deltaC;
-    double meanDeltaE;
-    double meanDeltaC;
-};
 
 /// The colours behind one step of the chain.
 struct StepResult
@@ -27,10 +19,7 @@ struct StepResult
 
 struct Computation
 {
-    std::array<double, 3> whiteBalance; ///< gains red, green, blue
-    ColorCalibration::ColorMatrix colorMatrix;
-    ColorCalibration::ColorAdjustment colorAdjustment;
-    double gamma;
+    ColorCalibration::CalibrationSettings settings;
     double meanDeltaE; ///< behind the last step
     std::array<StepResult, 5> steps;
     ColorCalibration::PatchColors targets;

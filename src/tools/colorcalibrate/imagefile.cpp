@@ -6,6 +6,8 @@
 #include "decoderoutput.h"
 #include "imagefilecompleteness.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
@@ -20,41 +22,61 @@ namespace ColorCalibrate {
 namespace {
 
 constexpr qint64 mostPixels = qint64{1} << 28;
+constexpr int mostFileBytes = 1 << 30;
+constexpr qint64 pieceBytes = 1 << 22;
 
 [[noreturn]] void fail(const QString& fileName, const QString& problem)
 {
     throw CommandError(QStringLiteral("%1: %2").arg(fileName, problem));
 }
 
-void requireImageFile(QFile& file)
+QByteArray readFile(const QString& fileName)
 {
+    QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
-        fail(file.fileName(), file.errorString());
-    if (file.size() == 0 && !file.isSequential())
-        fail(file.fileName(), QStringLiteral("the file is empty"));
+        fail(fileName, file.errorString());
+    QByteArray data;
+    for (QByteArray piece = file.read(pieceBytes); !piece.isEmpty();
+         piece = file.read(pieceBytes)) {
+        data += piece;
+        if (data.size() > mostFileBytes)
+            fail(fileName, QStringLiteral("the file has more than %1 bytes").arg(mostFileBytes));
+    }
+    if (file.error() != QFileDevice::NoError)
+        fail(fileName, file.errorString());
+    if (data.isEmpty())
+        fail(fileName, QStringLiteral("the file is empty"));
+    return data;
 }
 
-QImage decode(QFile& file)
+bool isKnownFormat(const QByteArray& format)
+{
+    return format == "png" || format == "tiff" || format == "jpeg" || format == "bmp";
+}
+
+QImage decode(QByteArray& data, const QString& fileName)
 {
     const DecoderOutput silenced;
-    QImageReader reader(&file);
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    if (!reader.canRead())
-        fail(file.fileName(), QStringLiteral("this is no image of a known format; PNG, TIFF, JPEG "
-                                             "and BMP are read"));
-    const QByteArray format = reader.format();
+    const QByteArray format = reader.canRead() ? reader.format() : QByteArray();
+    if (!isKnownFormat(format))
+        fail(fileName, QStringLiteral("this is no image of a known format; PNG, TIFF, JPEG and BMP "
+                                      "are read"));
     const QSize size = reader.size();
     if (qint64{size.width()} * size.height() > mostPixels)
-        fail(file.fileName(), QStringLiteral("the image of %1 x %2 pixels is too large")
-                                  .arg(size.width())
-                                  .arg(size.height()));
+        fail(fileName, QStringLiteral("the image of %1 x %2 pixels is too large")
+                           .arg(size.width())
+                           .arg(size.height()));
     const QImage image = reader.read();
     if (image.isNull())
-        fail(file.fileName(),
+        fail(fileName,
              QStringLiteral("the image is damaged or truncated (%1)").arg(reader.errorString()));
-    if (!isComplete(file, format))
-        fail(file.fileName(), QStringLiteral("the image is truncated"));
+    if (!isComplete(data, format))
+        fail(fileName, QStringLiteral("the image is truncated"));
     return image;
 }
 
@@ -74,23 +96,15 @@ bool isTransparent(const QImage& image)
 
 void requireColor(const QImage& image, const QString& fileName)
 {
-    switch (image.format()) {
-    case QImage::Format_Grayscale8:
-    case QImage::Format_Grayscale16:
+    // Also where gray is stored as color, with or without an alpha channel.
+    if (image.isNull() || image.allGray())
         fail(fileName, QStringLiteral("the image is gray; a color image of the chart is needed"));
-    case QImage::Format_Mono:
-    case QImage::Format_MonoLSB:
-    case QImage::Format_Indexed8:
-        if (image.isGrayscale())
-            fail(fileName,
-                 QStringLiteral("the image is gray; a color image of the chart is needed"));
+    if (image.format() == QImage::Format_Indexed8 || image.format() == QImage::Format_Mono ||
+        image.format() == QImage::Format_MonoLSB)
         fail(fileName,
              QStringLiteral("the image has a palette of %1 colors, which a camera's image "
                             "has not; save it with full colors")
                  .arg(image.colorCount()));
-    default:
-        break;
-    }
     if (isTransparent(image))
         fail(fileName, QStringLiteral("the image has transparent pixels, which have no color to be "
                                       "measured"));
@@ -137,9 +151,8 @@ bool hasSixteenBits(const QImage& image)
 
 QImage readImage(const QString& fileName)
 {
-    QFile file(fileName);
-    requireImageFile(file);
-    return decode(file);
+    QByteArray data = readFile(fileName);
+    return decode(data, fileName);
 }
 
 COstriaImage toCameraImage(const QImage& image, const QString& fileName)

@@ -12,7 +12,7 @@ namespace ColorCalibrate {
 /// Reads an image file, PNG, TIFF, JPEG or BMP. The turn that a photograph's data asks for is
 /// carried out. What the decoders print is not let through, so that an error stays one line.
 /// \throws CommandError  naming the file and what is wrong: it cannot be opened, is no image, is
-///         truncated, or has more than 2^28 pixels
+///         truncated, or has more than 2^28 pixels or 2^30 bytes
 QImage readImage(const QString& fileName);
 
 /// The image at its own bit depth, RGB8 or RGB16, for measuring.

@@ -35,23 +35,38 @@ bool isCompleteJpeg(const QByteArray& data)
     return false;
 }
 
+/// What a BMP header says of the pixels behind it.
+struct BmpLayout
+{
+    qint64 width;
+    qint64 height;
+    int bitsPerPixel;
+    bool isRunLength;
+};
+
+BmpLayout bmpLayout(const char* bytes)
+{
+    constexpr quint32 oldHeaderBytes = 12;
+    if (qFromLittleEndian<quint32>(bytes + 14) == oldHeaderBytes)
+        return {qFromLittleEndian<quint16>(bytes + 18), qFromLittleEndian<quint16>(bytes + 20),
+                qFromLittleEndian<quint16>(bytes + 24), false};
+    const auto compression = qFromLittleEndian<quint32>(bytes + 30);
+    return {qFromLittleEndian<qint32>(bytes + 18),
+            std::llabs(qFromLittleEndian<qint32>(bytes + 22)),
+            qFromLittleEndian<quint16>(bytes + 28), compression == 1 || compression == 2};
+}
+
 bool isCompleteBmp(const QByteArray& data)
 {
     constexpr int headerBytes = 34;
     if (data.size() < headerBytes)
         return false;
-    const char* bytes = data.constData();
-    const auto infoBytes = qFromLittleEndian<quint32>(bytes + 14);
-    const auto compression = qFromLittleEndian<quint32>(bytes + 30);
-    const bool isOldHeader = infoBytes == 12;
-    const bool isRunLength = !isOldHeader && (compression == 1 || compression == 2);
-    if (isOldHeader || isRunLength)
+    const BmpLayout layout = bmpLayout(data.constData());
+    if (layout.isRunLength)
         return true;
-    const qint64 width = qFromLittleEndian<qint32>(bytes + 18);
-    const qint64 height = std::llabs(qFromLittleEndian<qint32>(bytes + 22));
-    const auto bitsPerPixel = qFromLittleEndian<quint16>(bytes + 28);
-    const qint64 rowBytes = (width * bitsPerPixel + 31) / 32 * 4;
-    return data.size() >= qFromLittleEndian<quint32>(bytes + 10) + rowBytes * height;
+    const qint64 rowBytes = (layout.width * layout.bitsPerPixel + 31) / 32 * 4;
+    const auto pixelsAt = qFromLittleEndian<quint32>(data.constData() + 10);
+    return data.size() >= pixelsAt + rowBytes * layout.height;
 }
 
 bool isCompletePng(const QByteArray& data)
@@ -62,19 +77,15 @@ bool isCompletePng(const QByteArray& data)
 
 } // namespace
 
-bool isComplete(QIODevice& file, const QByteArray& format)
+bool isComplete(const QByteArray& data, const QByteArray& format)
 {
-    bool (*check)(const QByteArray&) = nullptr;
-    if (format == "jpeg" || format == "jpg")
-        check = isCompleteJpeg;
-    else if (format == "bmp")
-        check = isCompleteBmp;
-    else if (format == "png")
-        check = isCompletePng;
-    if (!check)
-        return true;
-    file.seek(0);
-    return check(file.readAll());
+    if (format == "jpeg")
+        return isCompleteJpeg(data);
+    if (format == "bmp")
+        return isCompleteBmp(data);
+    if (format == "png")
+        return isCompletePng(data);
+    return true;
 }
 
 } // namespace ColorCalibrate

@@ -3,15 +3,14 @@
 #pragma once
 
 #include <QByteArray>
-#include <QIODevice>
 
 namespace ColorCalibrate {
 
 /// A truncated JPEG or BMP file decodes to an image that is gray or black from some row on, which
 /// must never be measured; a PNG file decodes without its last bytes.
-/// \param file    seekable; its position is changed
+/// \param data    the whole file
 /// \param format  as QImageReader names it; all but "jpeg", "bmp" and "png" are complete if they
 ///                decode
-bool isComplete(QIODevice& file, const QByteArray& format);
+bool isComplete(const QByteArray& data, const QByteArray& format);
 
 } // namespace ColorCalibrate

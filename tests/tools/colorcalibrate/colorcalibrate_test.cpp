@@ -29,6 +29,16 @@ TEST(ColorCalibrateTool, RefusesWhatItDoesNotKnow)
     expectFailure(runTool({QStringLiteral("--verbose")}), 2, {QStringLiteral("--verbose")});
 }
 
+TEST(ColorCalibrateTool, SaysItInOneLineWhateverNamesHold)
+{
+    const QString name = QStringLiteral("two\nlines\r\x1b[31m");
+    expectFailure(runTool({name}), 2, {QStringLiteral("two?lines")});
+    expectFailure(runTool({QStringLiteral("compute"), name}), 1, {QStringLiteral("two?lines")});
+    expectFailure(runTool({QStringLiteral("measure"), QStringLiteral("a.png"),
+                           QStringLiteral("--grid"), name}),
+                  2, {QStringLiteral("two?lines")});
+}
+
 TEST(ColorCalibrateTool, RunsAsAProgramInAPipe)
 {
     QProcess program;

@@ -193,3 +193,25 @@ TEST_F(ComputeCommand, WantsExactlyOneFile)
                   {QStringLiteral("too many")});
     expectFailure(compute(targetLines(), {QStringLiteral("--xml")}), 2, {QStringLiteral("xml")});
 }
+
+TEST_F(ComputeCommand, PrintsWhatTheReadmeShows)
+{
+    QFile readme(QStringLiteral(EXAMPLES_DIR "/../README.md"));
+    ASSERT_TRUE(readme.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(readme.readAll());
+    const QString sample = text.section(QStringLiteral("```"), 3, 3);
+    QFile gridFile(QStringLiteral(EXAMPLES_DIR "/chart-16bit.grid"));
+    ASSERT_TRUE(gridFile.open(QIODevice::ReadOnly));
+    const Outcome measured =
+        runTool({QStringLiteral("measure"), QStringLiteral(EXAMPLES_DIR "/chart-16bit.png"),
+                 QStringLiteral("--grid"), QString::fromUtf8(gridFile.readAll())});
+    const QString printed = QString::fromStdString(compute(measured.out).out);
+    int compared = 0;
+    for (const QString& line : sample.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        if (line == QLatin1String("..."))
+            continue;
+        EXPECT_TRUE(printed.contains(line)) << line.toStdString();
+        ++compared;
+    }
+    EXPECT_GE(compared, 9);
+}

@@ -129,6 +129,34 @@ TEST_F(ImageFile, RefusesGray)
     }
 }
 
+TEST_F(ImageFile, RefusesGrayThatIsStoredAsColor)
+{
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_RGBX64,
+                              QImage::Format_RGBA64}) {
+        SCOPED_TRACE(format);
+        const QString file = path(QStringLiteral("gray.png"));
+        const QImage gray = chartImage(QImage::Format_Grayscale8, 256).convertToFormat(format);
+        ASSERT_TRUE(gray.save(file));
+        expectRefused(file, "gray");
+    }
+}
+
+TEST_F(ImageFile, RefusesFormatsThatItDoesNotVouchFor)
+{
+    const QString file = writeChart(QStringLiteral("a.ppm"), QImage::Format_RGB32, 256);
+    expectRefused(file, "no image of a known format");
+}
+
+TEST_F(ImageFile, RefusesATruncatedBmpWithTheOldHeader)
+{
+    // 12 bytes of header: 4 x 3 pixels of 24 bits, rows of 12 bytes.
+    const QByteArray header("BM\x3e\0\0\0\0\0\0\0\x1a\0\0\0\x0c\0\0\0\x04\0\x03\0\x01\0\x18\0", 26);
+    const QByteArray pixels = QByteArray("\x10\x20\x30", 3).repeated(12);
+    const QByteArray whole = header + pixels;
+    EXPECT_EQ(cameraImage(writeFile(QStringLiteral("old.bmp"), whole)).readPixel(3, 2).red, 0x30);
+    expectRefused(writeFile(QStringLiteral("cut.bmp"), whole.left(whole.size() - 1)), "truncated");
+}
+
 TEST_F(ImageFile, RefusesAPalette)
 {
     expectRefused(writeChart(QStringLiteral("a.png"), QImage::Format_Indexed8, 256), "palette");
@@ -174,7 +202,7 @@ TEST_F(ImageFile, IsNotFooledByTheEndOfAThumbnail)
 TEST_F(ImageFile, TurnsAPhotographAsItsDataAsks)
 {
     QImage image(20, 10, QImage::Format_RGB32);
-    image.fill(Qt::black);
+    image.fill(Qt::red);
     QImageWriter writer(path(QStringLiteral("turned.jpg")), "jpg");
     writer.setTransformation(QImageIOHandler::TransformationRotate90);
     ASSERT_TRUE(writer.write(image));

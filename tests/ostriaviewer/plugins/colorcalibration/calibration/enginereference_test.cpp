@@ -19,7 +19,7 @@ constexpr double Tolerance = 1e-9;
 void expectClose(double actual, Reference::Real expected)
 {
     const auto value = static_cast<double>(expected);
-    ASSERT_NEAR(actual, value, Tolerance * std::max(1.0, std::abs(value)));
+    ASSERT_NEAR(actual, value, Tolerance * std::abs(value));
 }
 
 // A camera, calibrated by the engine and by the second implementation.

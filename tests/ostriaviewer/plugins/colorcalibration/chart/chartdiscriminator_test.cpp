@@ -223,3 +223,12 @@ TEST_F(ChartDiscriminatorTest, KeepsItsGrayReadingWhenTheOutlineChanges)
     discriminator.setOutline(fullOutline());
     EXPECT_EQ(discriminator.grayPeakValue(), 77);
 }
+
+TEST_F(ChartDiscriminatorTest, BuildsThePatchesOfANewOutlineOnDemandAlone)
+{
+    ASSERT_TRUE(discriminator.measureAllPatches(staircase()));
+    // Shrunk into the upper left cell, all patches would measure 1000.
+    discriminator.setOutline({{0, 0}, {cell, 0}, {0, cell}, {cell, cell}});
+    ASSERT_TRUE(discriminator.measureGrayPatch(staircase()));
+    EXPECT_EQ(discriminator.grayPeakValue(), 77);
+}

@@ -169,12 +169,13 @@ TEST(Image, WithoutCameraPixelsKeepsItsSizeButHasNoBuffer)
 TEST(Image, StandsSizesThatCannotBe)
 {
     const LogRecorder log;
-    for (const auto& [width, height] : {std::pair{-1, 3}, {5, -1}, {0, 0}, {2000000000, 3}}) {
+    for (const auto& [width, height] :
+         {std::pair{-1, 3}, {5, -1}, {0, 0}, {2000000000, 3}, {5, 2000000000}}) {
         Image image(width, height, Color32, camera());
         EXPECT_EQ(image.writableBuffer(), nullptr) << width << " x " << height;
         EXPECT_TRUE(image.toQImage().isNull()) << width << " x " << height;
     }
-    EXPECT_EQ(log.entries().size(), 4);
+    EXPECT_EQ(log.entries().size(), 5);
 }
 
 TEST(Image, GrayTableRisesFromBlackToWhite)

@@ -31,7 +31,7 @@ public:
     /// Output is AdjustColor of each colour of Input, clamped to 0 to 255.
     void Apply();
 
-    /// \param parameters  receives the parameters; unset, that is neutral, until the first Estimate
+    /// \param parameters  receives the parameters; neutral until the first Estimate
     void GetParameters(ColorAdjustment& parameters) const;
 
     /// \return  0 red to yellow, 1 yellow to green, 2 green to cyan, 3 cyan to blue, 4 blue to

@@ -38,7 +38,8 @@ public:
     ///                             of the steps before stand
     virtual double ExecuteAll() = 0;
 
-    /// Factors per channel, the smallest of them 1. NaN if all gray patches are saturated.
+    /// Factors per channel, the smallest of them 1. NaN if all gray patches are saturated or one of
+    /// those that count is black; infinite for a channel that is 0 in all of them.
     virtual void GetWhiteBalance(double& red, double& green, double& blue) const = 0;
 
     /// Each row of the matrix sums to 1.

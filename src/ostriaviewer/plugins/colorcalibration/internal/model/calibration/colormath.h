@@ -40,7 +40,8 @@ public:
     double DeltaC(const Color& lab1, const Color& lab2) const;
 
     /// The sRGB curve (IEC 61966-2-1). It changes its branch where SrgbToLinear does, so that the
-    /// two are inverse to each other. \param value  one channel in linear light, nominally 0 to 255
+    /// two are inverse to each other.
+    /// \param value  one channel in linear light, nominally 0 to 255
     /// \return  the encoded channel, clamped to 0 to 255; a NaN stays a NaN
     double LinearToSrgb(double value) const;
 

@@ -24,7 +24,7 @@ public:
     /// finite.
     void Apply();
 
-    /// \param gain  receives the gain; unset, that is 1.0, until the first Estimate
+    /// \param gain  receives the gain; 1.0 until the first Estimate
     void GetGain(double& gain) const;
 
 private:

@@ -26,7 +26,7 @@ public:
     /// Output is the matrix applied to each colour of Input, clamped to 0 to 255.
     void Apply();
 
-    /// \param matrix  receives the matrix; unset, that is the identity, until the first Estimate
+    /// \param matrix  receives the matrix; the identity until the first Estimate
     void GetMatrix(ColorMatrix& matrix) const;
 
 private:

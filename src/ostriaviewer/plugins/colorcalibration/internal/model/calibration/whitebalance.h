@@ -28,7 +28,7 @@ public:
     /// finite.
     void Apply();
 
-    /// \param red, green, blue  receive the factors; unset, that is 1.0, until the first Estimate
+    /// \param red, green, blue  receive the factors; 1.0 until the first Estimate
     void GetGains(double& red, double& green, double& blue) const;
 
 private:

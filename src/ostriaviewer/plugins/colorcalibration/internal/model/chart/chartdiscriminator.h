@@ -40,6 +40,8 @@ public:
     bool measureAllPatches(const Ostria::COstriaImage& image);
 
     /// Measures the gray patch alone where all 24 colours are known, all patches where none is.
+    /// Behind a new outline the patch is still the old one until measureAllPatches or
+    /// patchTrapezoids has followed it.
     /// Afterwards the colours are stale, as all but one of them belong to an older image.
     /// \return  whether the gray reading can be used
     bool measureGrayPatch(const Ostria::COstriaImage& image);

@@ -35,6 +35,14 @@ int rowBytes(int width, int format)
     return width > 0 && bytes <= std::numeric_limits<int>::max() ? static_cast<int>(bytes) : 0;
 }
 
+/// 0 where there is no such buffer.
+std::size_t bufferBytes(int width, int height, int format)
+{
+    const qint64 bytes = qint64{rowBytes(width, format)} * height;
+    return height > 0 && bytes <= std::numeric_limits<int>::max() ? static_cast<std::size_t>(bytes)
+                                                                  : 0;
+}
+
 } // namespace
 
 const QVector<QRgb>& grayColorTable()
@@ -83,9 +91,8 @@ void Image::createBuffer(int width, int height, int format)
     m_data->width = width;
     m_data->height = height;
     m_data->format = format;
-    if (m_camera && m_camera->image.isValid() && height > 0)
-        m_data->buffer.resize(static_cast<std::size_t>(rowBytes(width, format)) *
-                              static_cast<std::size_t>(height));
+    if (m_camera && m_camera->image.isValid())
+        m_data->buffer.resize(bufferBytes(width, height, format));
 }
 
 bool Image::sizeMatches() const

@@ -42,7 +42,8 @@ public:
     Image(const Image& other, int format);
 
     /// A camera image with a zeroed display buffer of the given size.
-    /// A size that is not the camera image's is logged; the image remains as constructed.
+    /// A size that is not the camera image's is logged; the image remains as constructed. There is
+    /// no buffer where it would take more bytes than an int counts. May throw std::bad_alloc.
     /// \param width, height  pixels
     /// \param format         an ImageFormat code
     Image(int width, int height, int format, const Ostria::COstriaImage& cameraImage);

@@ -20,7 +20,8 @@ inline constexpr int MinimumPatchPixels = 24;
 /// \param patch    corners in image pixels; what lies outside the image does not count
 /// \param image    camera image at its own bit depth
 /// \param divisor  2^bitDepth of the image; a saturated channel thus measures just below 1
-/// \param out      red, green, blue over divisor; left alone on failure
+/// \param out      red, green, blue over divisor, which QColor rounds to steps of 1/65535; left
+///                 alone on failure
 /// \return  false with fewer than MinimumPatchPixels pixels
 bool measurePatch(const TrapezoidPoints& patch, const Ostria::COstriaImage& image, int divisor,
                   QColor& out);

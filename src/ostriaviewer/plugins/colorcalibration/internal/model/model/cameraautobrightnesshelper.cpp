@@ -94,10 +94,12 @@ void CameraAutoBrightnessHelper::run()
     m_calibration->GetColorPatchValues(discarded, true);
 
     m_gainStage = false;
-    do {
+    bool reached = false;
+    while (!m_stopRequested && m_running && !reached) {
         adjust();
         QThread::msleep(settlingMs);
-    } while (!m_stopRequested && m_running && !(std::abs(m_errorPercent) < tolerancePercent));
+        reached = std::abs(m_errorPercent) < tolerancePercent;
+    }
 }
 
 void CameraAutoBrightnessHelper::adjust()

@@ -11,6 +11,7 @@
 #include "sfncgeneration.h"
 
 #include <array>
+#include <cmath>
 
 using Core::CameraPoolComponents::CameraPtr;
 using Core::ParameterCollection::ParameterCollectionPtr;
@@ -46,6 +47,16 @@ void requireNewGeneration(const Core::ParameterCollection::IParameterCollection&
 {
     if (isOldGeneration(parameters))
         throw GenICam::RuntimeException("Camera SFNC version is unsupported.");
+}
+
+/// A computation that went wrong must leave the camera as it is.
+template <typename Values>
+void requireFinite(const Values& values)
+{
+    for (const double value : values)
+        if (!std::isfinite(value))
+            throw Core::Exception::BaseException(
+                QStringLiteral("A value for the camera is not a finite number."));
 }
 
 /// Writes the nine gains of the colour transformation.
@@ -145,6 +156,7 @@ void CameraJustify::WriteSrgbGamma(bool enable)
 
 void CameraJustify::WriteColorMatrix(const ColorMatrix& matrix)
 {
+    requireFinite(matrix);
     const ParameterCollectionPtr collection = parameters();
     const ParameterWrites write(collection);
     bool hasTransformation = true;
@@ -180,6 +192,7 @@ void CameraJustify::SetColorTransformationNeutral()
 
 void CameraJustify::WriteColorAdjustment(const ColorAdjustment& adjustment)
 {
+    requireFinite(adjustment);
     const ParameterCollectionPtr collection = parameters();
     if (isOldGeneration(*collection)) {
         const ParameterWrites write(collection);
@@ -222,6 +235,7 @@ void CameraJustify::SetWhiteBalanceNeutral()
 
 void CameraJustify::WriteWhiteBalance(double red, double green, double blue)
 {
+    requireFinite(std::array<double, 3>{red, green, blue});
     const ParameterCollectionPtr collection = parameters();
     const auto selector = collection->enumerationParameter(Name("BalanceRatioSelector"));
     const bool old = isOldGeneration(*collection);

@@ -17,7 +17,8 @@ class BrightnessRun;
 ///
 /// The groups throw what the parameters throw; a group that throws leaves what it has written
 /// before in the camera. A guarded write is skipped without a word where the parameter is missing
-/// or not writable. Where a group stores, it does so only after StoreInUserSet has armed it. Not
+/// or not writable. A group that is handed a number that is not finite throws before it writes
+/// anything. Where a group stores, it does so only after StoreInUserSet has armed it. Not
 /// thread-safe: the model's mutex guards it.
 class CameraJustify : public QObject
 {

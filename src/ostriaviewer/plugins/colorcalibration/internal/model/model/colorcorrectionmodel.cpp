@@ -55,6 +55,11 @@ void ColorCorrectionModel::DisableAutoFunctions()
     m_impl->DisableAutoFunctions();
 }
 
+CalibrationSettings ColorCorrectionModel::LastCalibration() const
+{
+    return m_impl->LastCalibration();
+}
+
 bool ColorCorrectionModel::Open(const Core::CameraPoolComponents::CameraPtr& camera)
 {
     return m_impl->Open(camera);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calibrationinterface.h"
+#include "calibrationsettings.h"
 #include "camerainterface.h"
 #include "icameraservices.h"
 
@@ -29,6 +30,9 @@ public:
 
     /// Switches all automatic functions of the open camera off.
     void DisableAutoFunctions();
+
+    /// What the last calibration computed; neutral before the first.
+    CalibrationSettings LastCalibration() const;
 
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;

@@ -21,6 +21,17 @@ namespace {
 
 constexpr int patchAreaPercent = 70;
 
+/// Afterwards no image is on its way to a receiver any more. A camera that refuses is let go of
+/// all the same.
+void endDelivery(ICamera& camera)
+{
+    try {
+        camera.stopGrabbing();
+    } catch (...) {
+        return;
+    }
+}
+
 } // namespace
 
 ColorCorrectionModelImpl::ColorCorrectionModelImpl(QObject* parent)
@@ -50,6 +61,20 @@ bool ColorCorrectionModelImpl::isCameraOpen() const
     return m_imageCamera && m_imageCamera->IsOpen();
 }
 
+CameraJustify& ColorCorrectionModelImpl::justify() const
+{
+    if (!m_justify)
+        throw Core::Exception::BaseException(QStringLiteral("The camera is closed."));
+    return *m_justify;
+}
+
+void ColorCorrectionModelImpl::setJustify(std::shared_ptr<CameraJustify> justify)
+{
+    // The old one ends after the lock.
+    const QMutexLocker lock(&m_justifyMutex);
+    m_justify.swap(justify);
+}
+
 bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
 {
     const QMutexLocker lock(&m_mutex);
@@ -67,6 +92,10 @@ bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
 void ColorCorrectionModelImpl::openHandle(const CameraPtr& camera)
 {
     m_connectionLost = false;
+    // What belongs to the camera before.
+    m_latestImage = Image();
+    m_detectedGain = -1.0;
+    m_detectedExposure = -1.0;
     CameraPtr handle;
     if (m_statusService && m_statusService->isCameraOpen(camera)) {
         if (m_controlService)
@@ -91,7 +120,7 @@ void ColorCorrectionModelImpl::attachHandle(const CameraPtr& camera, const Camer
     m_camera = camera;
     m_imageCamera = new ConvertingImageCamera;
     m_imageCamera->AttachCamera(handle);
-    m_justify = std::make_unique<CameraJustify>(handle);
+    setJustify(std::make_shared<CameraJustify>(handle));
     m_justify->DisableTestImage();
     connect(m_justify.get(), &CameraJustify::AutoBrightnessFinished, this,
             &ColorCorrectionModelImpl::AutoAdjustGray80PercentPatchFinished);
@@ -127,10 +156,12 @@ bool ColorCorrectionModelImpl::Close()
 void ColorCorrectionModelImpl::releaseCamera()
 {
     disconnectParameterSignals();
-    m_justify.reset();
+    setJustify({});
     CameraPtr handle;
     if (m_imageCamera)
         handle = m_imageCamera->DetachCamera();
+    if (handle)
+        endDelivery(*handle);
     delete m_imageCamera.data();
     CameraPtr camera;
     camera.swap(m_camera);
@@ -147,7 +178,8 @@ void ColorCorrectionModelImpl::onConnectionLost()
 {
     {
         const QMutexLocker lock(&m_mutex);
-        if (m_connectionLost)
+        // Also a word that was on its way when the camera was closed.
+        if (m_connectionLost || !m_imageCamera)
             return;
         m_connectionLost = true;
     }
@@ -225,12 +257,12 @@ void ColorCorrectionModelImpl::onGainRawChanged()
 
 void ColorCorrectionModelImpl::stopBrightnessRun()
 {
-    CameraJustify* justify = nullptr;
+    std::shared_ptr<CameraJustify> justify;
     {
-        const QMutexLocker lock(&m_mutex);
-        justify = m_justify.get();
+        const QMutexLocker lock(&m_justifyMutex);
+        justify = m_justify;
     }
-    // Without the mutex: the run needs it to come to its end.
+    // Without the model's mutex: the run needs it to come to its end.
     if (justify)
         justify->StopAutoBrightness();
 }

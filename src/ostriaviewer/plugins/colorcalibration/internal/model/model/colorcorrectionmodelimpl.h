@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calibrationinterface.h"
+#include "calibrationsettings.h"
 #include "camerainterface.h"
 #include "colorcalibrationv1.h"
 #include "convertingimagecamera.h"
@@ -10,11 +11,11 @@
 #include "iparametercollection.h"
 #include "patchcolors.h"
 
+#include <QMutex>
 #include <QPointer>
 #include <QRecursiveMutex>
 #include <QThread>
 
-#include <array>
 #include <memory>
 
 namespace ColorCalibration {
@@ -41,6 +42,9 @@ public:
 
     /// Switches all automatic functions of the open camera off.
     void DisableAutoFunctions();
+
+    /// What the last calibration computed; neutral before the first.
+    CalibrationSettings LastCalibration() const;
 
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;
@@ -88,6 +92,12 @@ private:
     using CameraPtr = Core::CameraPoolComponents::CameraPtr;
 
     bool isCameraOpen() const;
+
+    /// The adapter. An event loop inside of an operation may have let a Close through.
+    /// \throws Core::Exception::BaseException  the camera is closed
+    CameraJustify& justify() const;
+
+    void setJustify(std::shared_ptr<CameraJustify> justify);
     void openHandle(const CameraPtr& camera);
     void attachHandle(const CameraPtr& camera, const CameraPtr& handle);
     void abandonOpening();
@@ -106,13 +116,15 @@ private:
     bool readImageSize(double& width, double& height) const;
 
     bool grabAndMeasure(Image& target, bool triggered);
-    void measureNeutral(QVector<QColor>& colors);
+    int collectColors(QVector<QColor>& out, bool grabImage);
     void writeCalibration();
 
     QPointer<ConvertingImageCamera> m_imageCamera;
     bool m_attachedToOpenCamera = false;
     bool m_connectionLost = false;
-    std::unique_ptr<CameraJustify> m_justify;
+    std::shared_ptr<CameraJustify> m_justify;
+    /// Guards the pointer m_justify alone, for those who must not wait for a grab.
+    mutable QMutex m_justifyMutex;
     std::unique_ptr<ColorCalibrationV1> m_calibration;
     Core::ParameterCollection::FloatParameterPtr m_exposure;
     Core::ParameterCollection::IntegerParameterPtr m_gainRaw;
@@ -121,10 +133,7 @@ private:
     QVector<QColor> m_neutralColors;
     QVector<QColor> m_currentColors;
     QVector<QColor> m_initialColors;
-    std::array<double, 3> m_whiteBalance{1.0, 1.0, 1.0};
-    ColorMatrix m_colorMatrix = dlib::identity_matrix<double>(3);
-    ColorAdjustment m_colorAdjustment = dlib::zeros_matrix<double>(12, 1);
-    double m_gamma = 1.0;
+    CalibrationSettings m_settings;
     bool m_srgbGammaApplied = false;
     Image m_initialImage;
     Image m_latestImage;

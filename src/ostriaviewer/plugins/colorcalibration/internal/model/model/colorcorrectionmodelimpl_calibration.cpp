@@ -11,6 +11,8 @@
 
 #include <QMutexLocker>
 
+using Core::ParameterCollection::ParameterCollectionPtr;
+
 namespace ColorCalibration {
 
 bool ColorCorrectionModelImpl::AutoAdjustGray80PercentPatch()
@@ -21,7 +23,7 @@ bool ColorCorrectionModelImpl::AutoAdjustGray80PercentPatch()
                    false, [this] {
                        if (!isCameraOpen())
                            return false;
-                       m_justify->StartAutoBrightness(this);
+                       justify().StartAutoBrightness(this);
                        return true;
                    });
 }
@@ -94,26 +96,32 @@ bool ColorCorrectionModelImpl::GrabImage(QImage& image, bool triggered)
 int ColorCorrectionModelImpl::GetColorPatchValues(QVector<QColor>& out, bool grabImage)
 {
     const QMutexLocker lock(&m_mutex);
-    return guarded("", "ColorCorrectionModelImpl::GetColorPatchValues", 0, [&] {
-        if (!isCameraOpen())
-            return 0;
-        if (grabImage || !m_imageCamera->IsGrabbing()) {
-            Image grabbed;
-            grabAndMeasure(grabbed, true);
-        }
+    return guarded("", "ColorCorrectionModelImpl::GetColorPatchValues", 0,
+                   [&] { return collectColors(out, grabImage); });
+}
+
+int ColorCorrectionModelImpl::collectColors(QVector<QColor>& out, bool grabImage)
+{
+    if (!isCameraOpen())
+        return 0;
+    if (grabImage || !m_imageCamera->IsGrabbing()) {
+        Image grabbed;
+        grabAndMeasure(grabbed, true);
+    }
+    m_discriminator->patchColors(out);
+    if (out.isEmpty() && m_latestImage.isValid()) {
+        m_discriminator->measureAllPatches(m_latestImage.cameraImage());
         m_discriminator->patchColors(out);
-        if (out.isEmpty() && m_latestImage.isValid()) {
-            m_discriminator->measureAllPatches(m_latestImage.cameraImage());
-            m_discriminator->patchColors(out);
-            emit Gray80PercentHitRateChanged(m_discriminator->grayHitRate());
-        }
-        return out.size();
-    });
+        emit Gray80PercentHitRateChanged(m_discriminator->grayHitRate());
+    }
+    return out.size();
 }
 
 int ColorCorrectionModelImpl::GetCurrentColorPatchValues(QVector<QColor>& out)
 {
     const QMutexLocker lock(&m_mutex);
+    if (!isCameraOpen())
+        return 0;
     if (m_currentColors.isEmpty())
         m_discriminator->patchColors(m_currentColors);
     out += m_currentColors;
@@ -163,14 +171,14 @@ bool ColorCorrectionModelImpl::ExecuteWhitebalance()
         "Whitebalance failed!", "ColorCorrectionModelImpl::ExecuteWhitebalance", false, [this] {
             if (!isCameraOpen())
                 return false;
-            StopGrabbing();
+            m_imageCamera->StopGrabbing();
             QVector<QColor> colors;
-            GetColorPatchValues(colors, true);
+            collectColors(colors, true);
             m_calibration->SetStepColors(StepKey::Original, toPatchColors(colors, false));
             m_calibration->ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
-            auto& [red, green, blue] = m_whiteBalance;
+            auto& [red, green, blue] = m_settings.whiteBalance;
             m_calibration->GetWhiteBalance(red, green, blue);
-            m_justify->WriteWhiteBalance(red, green, blue);
+            justify().WriteWhiteBalance(red, green, blue);
             return true;
         });
 }
@@ -183,7 +191,7 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                        if (!isCameraOpen())
                            return false;
                        m_currentColors.clear();
-                       StopGrabbing();
+                       m_imageCamera->StopGrabbing();
                        m_calibration->SetStepColors(StepKey::Original,
                                                     toPatchColors(m_neutralColors, false));
                        m_calibration->ExecuteAll();
@@ -193,21 +201,28 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                    });
 }
 
+CalibrationSettings ColorCorrectionModelImpl::LastCalibration() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_settings;
+}
+
 void ColorCorrectionModelImpl::writeCalibration()
 {
-    auto& [red, green, blue] = m_whiteBalance;
+    auto& [red, green, blue] = m_settings.whiteBalance;
     m_calibration->GetWhiteBalance(red, green, blue);
-    m_justify->WriteWhiteBalance(red, green, blue);
-    m_calibration->GetColorMatrix(m_colorMatrix);
-    m_justify->WriteColorMatrix(m_colorMatrix);
-    m_calibration->GetColorAdjustment(m_colorAdjustment);
-    m_justify->WriteColorAdjustment(m_colorAdjustment);
-    m_calibration->GetGamma(m_gamma);
-    m_justify->WriteGamma(m_gamma, true);
-    const auto parameters = m_imageCamera->ParameterCollection();
+    justify().WriteWhiteBalance(red, green, blue);
+    m_calibration->GetColorMatrix(m_settings.colorMatrix);
+    justify().WriteColorMatrix(m_settings.colorMatrix);
+    m_calibration->GetColorAdjustment(m_settings.colorAdjustment);
+    justify().WriteColorAdjustment(m_settings.colorAdjustment);
+    m_calibration->GetGamma(m_settings.gamma);
+    justify().WriteGamma(m_settings.gamma, true);
+    const auto parameters =
+        m_imageCamera ? m_imageCamera->ParameterCollection() : ParameterCollectionPtr();
     m_srgbGammaApplied = parameters && isOldGeneration(*parameters);
     if (m_srgbGammaApplied)
-        m_justify->WriteSrgbGamma(true);
+        justify().WriteSrgbGamma(true);
 }
 
 } // namespace ColorCalibration

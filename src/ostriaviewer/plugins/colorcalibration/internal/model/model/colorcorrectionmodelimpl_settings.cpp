@@ -13,6 +13,8 @@
 #include <QPointF>
 #include <QSettings>
 
+#include <cmath>
+
 namespace ColorCalibration {
 namespace {
 
@@ -50,6 +52,17 @@ const std::array<Corner, 4>& corners()
     return all;
 }
 
+/// What the settings hold, or the first position where that is nothing that was stored here.
+QPointF storedShare(const QSettings& settings, const Corner& corner)
+{
+    constexpr double farthest = 100.0;
+    const QVariant stored = settings.value(QLatin1String(corner.key), corner.atFirst);
+    const QPointF share = stored.toPointF();
+    const bool isSane = stored.type() == QVariant::PointF && std::abs(share.x()) <= farthest &&
+                        std::abs(share.y()) <= farthest;
+    return isSane ? share : corner.atFirst;
+}
+
 void beginGridGroup(QSettings& settings, const QString& modelName)
 {
     settings.beginGroup(QStringLiteral("ColCalPlugin"));
@@ -76,8 +89,8 @@ bool ColorCorrectionModelImpl::LoadSettings(const QString& settings)
                    "ColorCorrectionModelImpl::LoadSettings", false, [&] {
                        if (!isCameraOpen())
                            return true;
-                       StopGrabbing();
-                       m_justify->LoadFeaturesFromString(settings);
+                       m_imageCamera->StopGrabbing();
+                       justify().LoadFeaturesFromString(settings);
                        return true;
                    });
 }
@@ -99,17 +112,17 @@ bool ColorCorrectionModelImpl::SetNeutralSettings()
                    "ColorCorrectionModelImpl::SetNeutralSettings", false, [this] {
                        if (!isCameraOpen())
                            return true;
-                       StopGrabbing();
-                       m_justify->SetBlackLevelNeutral();
-                       m_justify->SetGammaNeutral();
-                       m_justify->SetColorTransformationNeutral();
-                       m_justify->SetHsbcNeutral();
-                       m_justify->DisableLut();
-                       m_justify->SetColorAdjustmentNeutral();
-                       m_justify->SetWhiteBalanceNeutral();
-                       m_justify->SetDemosaicingSimple();
+                       m_imageCamera->StopGrabbing();
+                       justify().SetBlackLevelNeutral();
+                       justify().SetGammaNeutral();
+                       justify().SetColorTransformationNeutral();
+                       justify().SetHsbcNeutral();
+                       justify().DisableLut();
+                       justify().SetColorAdjustmentNeutral();
+                       justify().SetWhiteBalanceNeutral();
+                       justify().SetDemosaicingSimple();
                        // Last, so that nothing moves the values again.
-                       m_justify->DisableAllAutoFunctions();
+                       justify().DisableAllAutoFunctions();
                        return true;
                    });
 }
@@ -121,8 +134,8 @@ bool ColorCorrectionModelImpl::CreateSettingsBackup(bool initialImage)
                    "ColorCorrectionModelImpl::CreateSettingsBackup", false, [&] {
                        if (!isCameraOpen())
                            return true;
-                       StopGrabbing();
-                       m_justify->CreateBackup(initialImage);
+                       m_imageCamera->StopGrabbing();
+                       justify().CreateBackup(initialImage);
                        return true;
                    });
 }
@@ -134,8 +147,8 @@ bool ColorCorrectionModelImpl::RestoreSettingsBackup(bool initialImage)
                    "ColorCorrectionModelImpl::RestoreSettingsBackup", false, [&] {
                        if (!isCameraOpen())
                            return true;
-                       StopGrabbing();
-                       m_justify->RestoreBackup(initialImage);
+                       m_imageCamera->StopGrabbing();
+                       justify().RestoreBackup(initialImage);
                        return true;
                    });
 }
@@ -145,7 +158,7 @@ void ColorCorrectionModelImpl::ActivateMonoImage()
     const QMutexLocker lock(&m_mutex);
     guarded("", "ColorCorrectionModelImpl::ActivateMonoImage", false, [this] {
         if (isCameraOpen())
-            m_justify->ActivateMonoPixelFormat();
+            justify().ActivateMonoPixelFormat();
         return true;
     });
 }
@@ -155,7 +168,7 @@ void ColorCorrectionModelImpl::DisableAutoFunctions()
     const QMutexLocker lock(&m_mutex);
     guarded("", "ColorCorrectionModelImpl::DisableAutoFunctions", false, [this] {
         if (isCameraOpen())
-            m_justify->DisableAllAutoFunctions();
+            justify().DisableAllAutoFunctions();
         return true;
     });
 }
@@ -256,8 +269,9 @@ bool ColorCorrectionModelImpl::RestoreDetectedExposureAndGain()
     const bool disabled =
         guarded("", "ColorCorrectionModelImpl::RestoreDetectedExposureAndGain", false, [this] {
             const QMutexLocker lock(&m_mutex);
-            if (m_justify)
-                m_justify->DisableExposureAndGainAuto();
+            if (!isCameraOpen())
+                return false;
+            justify().DisableExposureAndGainAuto();
             return true;
         });
     if (!disabled)
@@ -278,7 +292,7 @@ bool ColorCorrectionModelImpl::readImageSize(double& width, double& height) cons
         return false;
     width = static_cast<double>(widthParameter->value());
     height = static_cast<double>(heightParameter->value());
-    return true;
+    return width > 0.0 && height > 0.0;
 }
 
 void ColorCorrectionModelImpl::restoreLastGridPosition()
@@ -293,8 +307,7 @@ void ColorCorrectionModelImpl::restoreLastGridPosition()
                 beginGridGroup(settings, m_camera->modelName());
                 TrapezoidPoints outline;
                 for (const Corner& corner : corners()) {
-                    const QPointF share =
-                        settings.value(QLatin1String(corner.key), corner.atFirst).toPointF();
+                    const QPointF share = storedShare(settings, corner);
                     (outline.*corner.set)(QPointF(share.x() * width, share.y() * height).toPoint());
                 }
                 return SetGridPosition(outline);

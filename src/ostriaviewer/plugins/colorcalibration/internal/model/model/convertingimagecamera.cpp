@@ -7,6 +7,7 @@
 
 #include <QEventLoop>
 #include <QMutexLocker>
+#include <QPointer>
 #include <QTimer>
 
 #include <exception>
@@ -65,54 +66,58 @@ CameraPtr ConvertingImageCamera::DetachCamera()
     return handle;
 }
 
-bool ConvertingImageCamera::IsOpen() const
+CameraPtr ConvertingImageCamera::reachableCamera() const
 {
     const QMutexLocker lock(&m_mutex);
-    return !m_connectionLost && m_camera && m_camera->isOpen();
+    return m_connectionLost ? CameraPtr() : m_camera;
+}
+
+bool ConvertingImageCamera::IsOpen() const
+{
+    const CameraPtr camera = reachableCamera();
+    return camera && camera->isOpen();
 }
 
 bool ConvertingImageCamera::IsGrabbing() const
 {
-    const QMutexLocker lock(&m_mutex);
-    return !m_connectionLost && m_camera && m_camera->isGrabbing();
+    const CameraPtr camera = reachableCamera();
+    return camera && camera->isGrabbing();
 }
 
 void ConvertingImageCamera::StopGrabbing()
 {
-    CameraPtr camera;
-    {
-        const QMutexLocker lock(&m_mutex);
-        if (m_connectionLost || !m_camera)
-            return;
-        camera = m_camera;
-    }
-    // The camera waits for a delivery in progress, and that needs the mutex.
-    camera->stopGrabbing();
+    if (const CameraPtr camera = reachableCamera())
+        camera->stopGrabbing();
 }
 
 Core::ParameterCollection::ParameterCollectionPtr ConvertingImageCamera::ParameterCollection() const
 {
-    const QMutexLocker lock(&m_mutex);
-    if (m_connectionLost || !m_camera)
-        return {};
-    return m_camera->parameterCollection();
+    const CameraPtr camera = reachableCamera();
+    return camera ? camera->parameterCollection()
+                  : Core::ParameterCollection::ParameterCollectionPtr();
 }
 
 bool ConvertingImageCamera::GrabSingle(Image& image, bool triggered)
 {
-    QMutexLocker lock(&m_mutex);
-    if (m_connectionLost)
-        return false;
-    const CameraPtr camera = m_camera;
-    bool inTime = true;
-    if (camera && !camera->isGrabbing()) {
-        const int timeoutMs = m_firstGrab ? firstGrabTimeoutMs : grabTimeoutMs;
-        lock.unlock();
-        inTime = waitForImage(camera, timeoutMs, triggered);
-        lock.relock();
+    int timeoutMs = grabTimeoutMs;
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (m_connectionLost)
+            return false;
+        if (m_firstGrab)
+            timeoutMs = firstGrabTimeoutMs;
     }
+    bool inTime = true;
+    // Whatever the event loop lets through may end this object.
+    const QPointer<ConvertingImageCamera> self(this);
+    const CameraPtr camera = reachableCamera();
+    if (camera && !camera->isGrabbing())
+        inTime = waitForImage(camera, timeoutMs, triggered);
+    if (!self)
+        return false;
+    const QMutexLocker lock(&m_mutex);
     m_firstGrab = false;
-    if (!inTime)
+    if (!inTime || m_connectionLost)
         return false;
     image = m_buffers[static_cast<std::size_t>(m_writeIndex)];
     return true;
@@ -122,9 +127,16 @@ bool ConvertingImageCamera::waitForImage(const CameraPtr& camera, int timeoutMs,
 {
     QEventLoop loop;
     QTimer timer;
+    bool arrived = false;
     timer.setSingleShot(true);
     // Queued, as an image may arrive before the loop runs, on this very thread even.
-    connect(this, &ConvertingImageCamera::imageGrabbed, &loop, &QEventLoop::quit,
+    const auto onImage = [&] {
+        arrived = true;
+        loop.quit();
+    };
+    connect(this, &ConvertingImageCamera::imageGrabbed, &loop, onImage, Qt::QueuedConnection);
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+    connect(camera.data(), &ICamera::cameraConnectionLost, &loop, &QEventLoop::quit,
             Qt::QueuedConnection);
     connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     const bool accepted = triggered ? camera->grabSingle(timeoutMs) : camera->grabSingle();
@@ -132,7 +144,7 @@ bool ConvertingImageCamera::waitForImage(const CameraPtr& camera, int timeoutMs,
         return false;
     timer.start(timeoutMs);
     loop.exec();
-    return timer.isActive();
+    return arrived;
 }
 
 void ConvertingImageCamera::onCameraImageGrabbed(CameraInfoPtr /*camera*/,
@@ -154,7 +166,6 @@ bool ConvertingImageCamera::convert(const Ostria::COstriaImage& source, Image& t
     Ostria::COstriaImage measuring;
     if (!toMeasuring(source, measuring))
         return false;
-    target = Image::fromCameraImage(Color32, measuring);
     return toDisplay(measuring, target);
 }
 
@@ -176,6 +187,7 @@ bool ConvertingImageCamera::toMeasuring(const Ostria::COstriaImage& source,
 bool ConvertingImageCamera::toDisplay(const Ostria::COstriaImage& source, Image& target)
 {
     try {
+        target = Image::fromCameraImage(Color32, source);
         const auto stride = static_cast<std::size_t>(target.stride());
         m_displayConverter.setOutputPaddingX(
             Ostria::ComputePaddingX(stride, Ostria::PixelType::BGRa8, target.width()));

@@ -44,6 +44,7 @@ public:
     /// each later one 5 s.
     /// \param image      receives the image; an invalid one without a handle
     /// \param triggered  gives the camera the same limit instead of its own
+    /// The event loop may let a call through that deletes this object; that ends the wait too.
     /// \return  false when the connection is lost, the request is refused, or nothing came in time
     bool GrabSingle(Image& image, bool triggered);
 
@@ -57,6 +58,8 @@ public slots:
     void onCammeraConnectionLost();
 
 private:
+    /// For calls without the mutex: the camera may wait for a delivery, and that needs the mutex.
+    Core::CameraPoolComponents::CameraPtr reachableCamera() const;
     bool waitForImage(const Core::CameraPoolComponents::CameraPtr& camera, int timeoutMs,
                       bool triggered);
     bool convert(const Ostria::COstriaImage& source, Image& target);

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: Apache-2.0
+// The user sets of an emulated camera, kept in a file.
+#pragma once
+
+#include "featurevalues.h"
+
+#include <QJsonObject>
+#include <QString>
+
+#include <memory>
+
+namespace Cameras::Emulation {
+
+/// Named sets of feature values, and which of them the camera comes up with. Each change is written
+/// to the file at once. A file that is missing, damaged or of another model harms nothing: what
+/// cannot be used in it is left at its factory value. Reentrant.
+class UserSets
+{
+public:
+    /// Reads the file if there is one.
+    /// \param file  path; its folder is made when it is needed
+    UserSets(std::shared_ptr<const FeatureTable> table, const QString& file);
+
+    /// Lays the values of a set over others; those that sets do not hold stay. "Default" and a set
+    /// that was never saved have the factory's.
+    void load(const QString& set, FeatureValues& values) const;
+
+    /// Puts all values that can be saved into a set.
+    /// \throws ::GenICam::RuntimeException  the file cannot be written; nothing has changed then
+    void save(const QString& set, const FeatureValues& values);
+
+    /// The set that the camera comes up with.
+    QString startUpSet() const { return m_startUpSet; }
+
+    /// \throws ::GenICam::RuntimeException  as save
+    void setStartUpSet(const QString& set);
+
+private:
+    void read();
+    void write(const QJsonObject& sets, const QString& startUpSet);
+
+    std::shared_ptr<const FeatureTable> m_table;
+    QString m_file;
+    QJsonObject m_sets; // by name: feature to a list of its cells, where they are not the factory's
+    QString m_startUpSet;
+};
+
+} // namespace Cameras::Emulation

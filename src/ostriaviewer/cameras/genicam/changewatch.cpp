@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+// Finds out which features changed, and tells those who want to know.
+#include "changewatch_p.h"
+
+#include "enumerationfeature_p.h"
+#include "genicamexception.h"
+#include "numberfeature_p.h"
+#include "textfeature_p.h"
+
+#include <QHash>
+
+#include <cstring>
+#include <utility>
+
+namespace Cameras::GenICam {
+
+namespace {
+
+using Snapshot = ChangeWatch::Snapshot;
+
+std::uint64_t bits(qint64 value)
+{
+    return static_cast<std::uint64_t>(value);
+}
+
+std::uint64_t bits(double value)
+{
+    std::uint64_t result = 0;
+    std::memcpy(&result, &value, sizeof result);
+    return result;
+}
+
+std::uint64_t bits(bool value)
+{
+    return value ? 1 : 0;
+}
+
+std::uint64_t bits(const QString& text)
+{
+    return qHash(text);
+}
+
+/// Adds what a question answers; a refusal is an answer as well.
+template <class Ask>
+void look(Snapshot& snapshot, const Feature& feature, const Ask& ask)
+{
+    try {
+        snapshot.push_back(bits(ask(feature)));
+    } catch (const ::GenICam::RuntimeException&) {
+        snapshot.push_back(0);
+        snapshot.push_back(~std::uint64_t{0});
+    }
+}
+
+QString entryStates(const Feature& feature)
+{
+    QString states;
+    for (const auto& entry : enumerationEntryList(feature))
+        states.append(QLatin1Char(entry.isSettable ? '1' : '0'));
+    return states;
+}
+
+void lookAtValue(Snapshot& snapshot, const Feature& feature)
+{
+    switch (feature.kind()) {
+    case FeatureKind::Integer:
+        look(snapshot, feature, integerValue);
+        look(snapshot, feature, integerMinimum);
+        look(snapshot, feature, integerMaximum);
+        look(snapshot, feature, integerIncrement);
+        break;
+    case FeatureKind::Float:
+        look(snapshot, feature, floatValue);
+        look(snapshot, feature, floatMinimum);
+        look(snapshot, feature, floatMaximum);
+        break;
+    case FeatureKind::Boolean:
+        look(snapshot, feature, booleanValue);
+        break;
+    case FeatureKind::Enumeration:
+        look(snapshot, feature, enumerationValue);
+        look(snapshot, feature, entryStates);
+        break;
+    case FeatureKind::Text:
+        look(snapshot, feature, featureText);
+        break;
+    case FeatureKind::Command:
+    case FeatureKind::Other:
+        break;
+    }
+}
+
+Snapshot lookAt(const Feature& feature)
+{
+    Snapshot snapshot;
+    const bool isAvailable = feature.isAvailable();
+    snapshot.push_back(bits(isAvailable));
+    if (!isAvailable)
+        return snapshot;
+    snapshot.push_back(bits(feature.isReadable()));
+    snapshot.push_back(bits(feature.isWritable()));
+    lookAtValue(snapshot, feature);
+    return snapshot;
+}
+
+} // namespace
+
+ChangeWatch::Handle ChangeWatch::add(const Feature& feature, std::function<void()> notify)
+{
+    return m_watches.insert(m_watches.end(), {&feature, std::move(notify), lookAt(feature)});
+}
+
+void ChangeWatch::remove(Handle handle)
+{
+    m_watches.erase(handle);
+}
+
+void ChangeWatch::end() noexcept
+{
+    // Reading may come back here through the port, so it still counts as a change.
+    if (m_depth > 1) {
+        --m_depth;
+        return;
+    }
+    for (Watch& watch : m_watches) {
+        Snapshot now = lookAt(*watch.feature);
+        if (now == watch.last)
+            continue;
+        watch.last = std::move(now);
+        watch.notify();
+    }
+    m_depth = 0;
+}
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: Apache-2.0
+// A feature of a node map: what it is, and whether it may be used now.
+#include "feature_p.h"
+
+#include "genicamexception.h"
+#include "gerrorslot_p.h"
+#include "nodemap_p.h"
+#include "nodeproperties_p.h"
+
+#include <arv.h>
+
+#include <algorithm>
+
+namespace Cameras::GenICam {
+
+namespace {
+
+FeatureKind kindOf(ArvGcFeatureNode* node)
+{
+    // Enumerations also are integers and texts for Aravis, so they come first.
+    if (ARV_IS_GC_ENUMERATION(node))
+        return FeatureKind::Enumeration;
+    if (ARV_IS_GC_BOOLEAN(node))
+        return FeatureKind::Boolean;
+    if (ARV_IS_GC_COMMAND(node))
+        return FeatureKind::Command;
+    if (ARV_IS_GC_INTEGER(node))
+        return FeatureKind::Integer;
+    if (ARV_IS_GC_FLOAT(node))
+        return FeatureKind::Float;
+    if (ARV_IS_GC_STRING(node))
+        return FeatureKind::Text;
+    return FeatureKind::Other;
+}
+
+bool isImplemented(ArvGcFeatureNode* node)
+{
+    GErrorSlot error;
+    const bool implemented = arv_gc_feature_node_is_implemented(node, error) != FALSE;
+    // Who asks too late still gets the feature, whose use then says what is wrong.
+    return implemented || error.isSet();
+}
+
+bool isPlainName(const QString& name)
+{
+    return !name.isEmpty() && std::all_of(name.begin(), name.end(), [](QChar character) {
+        return character.unicode() < 128 &&
+               (character.isLetterOrNumber() || character == QLatin1Char('_'));
+    });
+}
+
+} // namespace
+
+Feature::Feature(const QString& name)
+    : m_name(name)
+    , m_displayName(name)
+{}
+
+Feature::Feature(NodeMapPrivate& map, ArvGcFeatureNode* node)
+    : m_map(&map)
+    , m_name(QString::fromUtf8(arv_gc_feature_node_get_name(node)))
+    , m_displayName(QString::fromUtf8(arv_gc_feature_node_get_display_name(node)))
+    , m_kind(kindOf(node))
+    , m_chain(valueChain(node))
+{
+    if (m_displayName.isEmpty())
+        m_displayName = m_name;
+}
+
+Feature Feature::find(NodeMapPrivate& map, const QString& name)
+{
+    if (!isPlainName(name))
+        return Feature(name);
+    ArvGcNode* node = arv_gc_get_node(map.gc(), name.toLatin1().constData());
+    if (!node || !ARV_IS_GC_FEATURE_NODE(node) || ARV_IS_GC_CATEGORY(node) ||
+        ARV_IS_GC_PORT(node) || !isImplemented(ARV_GC_FEATURE_NODE(node)))
+        return Feature(name);
+    return Feature(map, ARV_GC_FEATURE_NODE(node));
+}
+
+bool Feature::isAvailable() const
+{
+    if (isEmpty() || !m_map->isConnected())
+        return false;
+    return std::all_of(m_chain.begin(), m_chain.end(), [](ArvGcFeatureNode* node) {
+        GErrorSlot implementedError;
+        GErrorSlot availableError;
+        return arv_gc_feature_node_is_implemented(node, implementedError) &&
+               arv_gc_feature_node_is_available(node, availableError) &&
+               !implementedError.isSet() && !availableError.isSet();
+    });
+}
+
+bool Feature::isLocked() const
+{
+    return std::any_of(m_chain.begin(), m_chain.end(), [](ArvGcFeatureNode* node) {
+        GErrorSlot error;
+        return arv_gc_feature_node_is_locked(node, error) || error.isSet();
+    });
+}
+
+bool Feature::allowsReading() const
+{
+    return m_kind != FeatureKind::Command &&
+           arv_gc_feature_node_get_actual_access_mode(node()) != ARV_GC_ACCESS_MODE_WO;
+}
+
+bool Feature::allowsWriting() const
+{
+    return arv_gc_feature_node_get_actual_access_mode(node()) != ARV_GC_ACCESS_MODE_RO;
+}
+
+bool Feature::isReadable() const
+{
+    return isAvailable() && allowsReading();
+}
+
+bool Feature::isWritable() const
+{
+    return isAvailable() && allowsWriting() && !isLocked();
+}
+
+bool Feature::isStreamable() const
+{
+    return !isEmpty() && GenICam::isStreamable(node());
+}
+
+void Feature::requireThere() const
+{
+    if (isEmpty())
+        fail(QStringLiteral("the camera has no such feature"));
+    if (!m_map->isConnected())
+        fail(QStringLiteral("the connection to the camera is lost"));
+    if (!isAvailable())
+        fail(QStringLiteral("not available with the camera's present settings"));
+}
+
+void Feature::requireReadable() const
+{
+    requireThere();
+    if (!allowsReading())
+        fail(QStringLiteral("cannot be read, only written"));
+}
+
+void Feature::requireWritable() const
+{
+    requireThere();
+    if (!allowsWriting())
+        fail(QStringLiteral("cannot be written, only read"));
+    if (isLocked())
+        fail(QStringLiteral("locked with the camera's present settings"));
+}
+
+void Feature::fail(const QString& reason) const
+{
+    throw ::GenICam::RuntimeException(QStringLiteral("%1: %2.").arg(m_name, reason).toStdString());
+}
+
+void Feature::check(const GErrorSlot& error) const
+{
+    if (!error.isSet())
+        return;
+    // A device may name the feature itself.
+    QString reason = error.reason();
+    const QString prefix = m_name + QLatin1String(": ");
+    if (reason.startsWith(prefix))
+        reason.remove(0, prefix.size());
+    if (reason.endsWith(QLatin1Char('.')))
+        reason.chop(1);
+    fail(reason);
+}
+
+} // namespace Cameras::GenICam

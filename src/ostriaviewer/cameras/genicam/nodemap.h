@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+// A device's features, as its GenICam description lays them over its registers.
+#pragma once
+
+#include "registerport.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+namespace Cameras::GenICam {
+
+class NodeMapPrivate;
+
+/// The features of one device.
+///
+/// Has one recursive mutex for the device; whatever reads or writes features holds it. Parameters
+/// made from a node map share its ownership. Thread-safe.
+class NodeMap
+{
+public:
+    /// A node map over registers.
+    /// \param port  shared, not null
+    /// \param xml   the device's GenICam description
+    /// \throws ::GenICam::RuntimeException  the description cannot be used
+    static std::shared_ptr<NodeMap> create(std::shared_ptr<IRegisterPort> port,
+                                           const std::string& xml);
+
+    ~NodeMap();
+    NodeMap(const NodeMap&) = delete;
+    NodeMap& operator=(const NodeMap&) = delete;
+
+    /// Gives the device up: from now on each access throws, and the port is not called any more.
+    /// Waits for an access that is under way.
+    void disconnect();
+    bool isConnected() const;
+
+    /// Tells the parameters that registers changed without being written through this node map, so
+    /// that those that changed with them say so. Costs a few register reads for each parameter
+    /// that somebody is connected to. Does nothing after disconnect.
+    void refresh();
+
+    /// How long a command may take before its execution counts as failed. 5 s if never set.
+    void setCommandTimeout(std::chrono::milliseconds timeout);
+
+    /// For the other files of this folder.
+    NodeMapPrivate& d() const { return *m_private; }
+
+private:
+    explicit NodeMap(std::unique_ptr<NodeMapPrivate> implementation);
+
+    std::unique_ptr<NodeMapPrivate> m_private;
+};
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the parameters of all kinds do alike.
+#pragma once
+
+#include "changewatch_p.h"
+#include "feature_p.h"
+#include "genicamexception.h"
+#include "iparameter.h"
+#include "nodemap.h"
+#include "nodemap_p.h"
+
+#include <QMetaMethod>
+
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace Cameras::GenICam {
+
+/// \tparam Interface  one of the host's parameter interfaces
+template <class Interface>
+class ParameterBase : public Interface
+{
+public:
+    ParameterBase(std::shared_ptr<NodeMap> map, Feature feature)
+        : m_map(std::move(map))
+        , m_feature(std::move(feature))
+    {}
+
+    ~ParameterBase() override
+    {
+        const ReadLock lock(m_map->d().mutex());
+        if (m_watch)
+            m_map->d().changes().remove(*m_watch);
+    }
+
+    QString name() const override { return m_feature.name(); }
+    QString displayName() const override { return m_feature.displayName(); }
+    bool isEmpty() const override { return m_feature.isEmpty(); }
+
+    bool isAvailable() const override
+    {
+        const ReadLock lock(m_map->d().mutex());
+        return m_feature.isAvailable();
+    }
+
+    bool isReadable() const override
+    {
+        const ReadLock lock(m_map->d().mutex());
+        return m_feature.isReadable();
+    }
+
+    bool isWritable() const override
+    {
+        const ReadLock lock(m_map->d().mutex());
+        return m_feature.isWritable();
+    }
+
+protected:
+    const Feature& feature() const { return m_feature; }
+    NodeMapPrivate& map() const { return m_map->d(); }
+
+    /// Asks the feature, with the device held.
+    template <class Ask>
+    auto read(const Ask& ask) const
+    {
+        const ReadLock lock(map().mutex());
+        m_feature.requireThere();
+        return ask(m_feature);
+    }
+
+    /// Changes the feature, with the device held.
+    template <class Change>
+    void write(const Change& change) const
+    {
+        const WriteLock lock(map());
+        change(m_feature);
+    }
+
+    /// \return  whether the change went through
+    template <class Change>
+    bool tryWrite(const Change& change) const noexcept
+    {
+        try {
+            write(change);
+            return true;
+        } catch (const ::GenICam::RuntimeException&) {
+            return false;
+        }
+    }
+
+    /// Nobody pays for the signal of a parameter without receivers.
+    void connectNotify(const QMetaMethod& signal) override
+    {
+        if (signal != changeSignal())
+            return;
+        const ReadLock lock(map().mutex());
+        if (!m_watch && !isEmpty())
+            m_watch = map().changes().add(m_feature, [this] { announce(); });
+    }
+
+    void disconnectNotify(const QMetaMethod&) override { stopUnheardWatch(); }
+
+private:
+    static QMetaMethod changeSignal()
+    {
+        return QMetaMethod::fromSignal(
+            &Core::ParameterCollection::IParameter::parameterDataChangedDecoupled);
+    }
+
+    void stopUnheardWatch()
+    {
+        const ReadLock lock(map().mutex());
+        if (!m_watch || this->isSignalConnected(changeSignal()))
+            return;
+        map().changes().remove(*m_watch);
+        m_watch.reset();
+    }
+
+    void announce()
+    {
+        if (m_isAnnounced.exchange(true))
+            return;
+        const auto tell = [this] {
+            m_isAnnounced = false;
+            // Receivers that were deleted have not told us.
+            stopUnheardWatch();
+            emit this->parameterDataChangedDecoupled();
+        };
+        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    }
+
+    std::shared_ptr<NodeMap> m_map;
+    Feature m_feature;
+    std::optional<ChangeWatch::Handle> m_watch;
+    std::atomic<bool> m_isAnnounced{false};
+};
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: Apache-2.0
+// Features as the host's parameters.
+#include "parameters_p.h"
+
+#include "commandfeature_p.h"
+#include "enumerationfeature_p.h"
+#include "numberfeature_p.h"
+#include "parameterbase_p.h"
+
+#include <QThread>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+namespace Cameras::GenICam {
+
+namespace {
+
+using namespace Core::ParameterCollection;
+
+class FloatParameter : public ParameterBase<IFloatParameter>
+{
+public:
+    using ParameterBase::ParameterBase;
+
+    double value() const override { return read(floatValue); }
+    double minimum() const override { return read(floatMinimum); }
+    double maximum() const override { return read(floatMaximum); }
+
+    double valueOrDefault(double defaultValue) const override
+    {
+        try {
+            return value();
+        } catch (const ::GenICam::RuntimeException&) {
+            return defaultValue;
+        }
+    }
+
+    void setValue(double value) override
+    {
+        write([value](const Feature& feature) { setFloat(feature, value); });
+    }
+
+    bool trySetValue(double value) noexcept override
+    {
+        return tryWrite([value](const Feature& feature) { setFloat(feature, value); });
+    }
+};
+
+class IntegerParameter : public ParameterBase<IIntegerParameter>
+{
+public:
+    using ParameterBase::ParameterBase;
+
+    qint64 value() const override { return read(integerValue); }
+    qint64 minimum() const override { return read(integerMinimum); }
+    qint64 maximum() const override { return read(integerMaximum); }
+    qint64 increment() const override { return read(integerIncrement); }
+
+    void setValue(qint64 value, bool verify) override
+    {
+        write([=](const Feature& feature) { setInteger(feature, value, verify); });
+    }
+};
+
+class BooleanParameter : public ParameterBase<IBooleanParameter>
+{
+public:
+    using ParameterBase::ParameterBase;
+
+    bool value() const override { return read(booleanValue); }
+
+    void setValue(bool value, bool verify) override
+    {
+        write([=](const Feature& feature) { setBoolean(feature, value, verify); });
+    }
+};
+
+QVector<EnumerationEntry> entryList(const Feature& feature)
+{
+    QVector<EnumerationEntry> result;
+    for (const FeatureEntry& entry : enumerationEntryList(feature))
+        result.append({entry.name, entry.displayName, entry.isSettable});
+    return result;
+}
+
+class EnumerationParameter : public ParameterBase<IEnumerationParameter>
+{
+public:
+    using ParameterBase::ParameterBase;
+
+    QString value() const override { return read(enumerationValue); }
+    QVector<EnumerationEntry> entries() const override { return read(entryList); }
+
+    void setValue(const QString& entry) override
+    {
+        write([&entry](const Feature& feature) { setEnumeration(feature, entry); });
+    }
+
+    bool trySetValue(const QString& entry) noexcept override
+    {
+        return tryWrite([&entry](const Feature& feature) { setEnumeration(feature, entry); });
+    }
+};
+
+class CommandParameter : public ParameterBase<ICommandParameter>
+{
+public:
+    using ParameterBase::ParameterBase;
+
+    /// Others may use the device while we wait.
+    void execute() override
+    {
+        write(startCommand);
+        const auto end = std::chrono::steady_clock::now() + timeout();
+        auto pause = std::chrono::milliseconds(1);
+        while (!isDone()) {
+            if (std::chrono::steady_clock::now() >= end)
+                feature().fail(QStringLiteral("the camera does not finish the command"));
+            std::this_thread::sleep_for(pause);
+            pause = std::min(2 * pause, std::chrono::milliseconds(20));
+        }
+        // What the command did to other features shows now.
+        const WriteLock lock(map());
+    }
+
+private:
+    std::chrono::milliseconds timeout() const
+    {
+        const ReadLock lock(map().mutex());
+        return map().commandTimeout();
+    }
+
+    bool isDone() const
+    {
+        const ReadLock lock(map().mutex());
+        return isCommandDone(feature());
+    }
+};
+
+class OtherParameter : public ParameterBase<IParameter>
+{
+public:
+    using ParameterBase::ParameterBase;
+};
+
+/// Deletes a parameter in the thread that it lives in if events may be on their way to it.
+void release(IParameter* parameter)
+{
+    const QThread* home = parameter->thread();
+    if (!home || home == QThread::currentThread() || home->isFinished())
+        delete parameter;
+    else
+        parameter->deleteLater();
+}
+
+} // namespace
+
+FloatParameterPtr makeFloatParameter(std::shared_ptr<NodeMap> map, const Feature& feature)
+{
+    return FloatParameterPtr(new FloatParameter(std::move(map), feature), release);
+}
+
+IntegerParameterPtr makeIntegerParameter(std::shared_ptr<NodeMap> map, const Feature& feature)
+{
+    return IntegerParameterPtr(new IntegerParameter(std::move(map), feature), release);
+}
+
+BooleanParameterPtr makeBooleanParameter(std::shared_ptr<NodeMap> map, const Feature& feature)
+{
+    return BooleanParameterPtr(new BooleanParameter(std::move(map), feature), release);
+}
+
+EnumerationParameterPtr makeEnumerationParameter(std::shared_ptr<NodeMap> map,
+                                                 const Feature& feature)
+{
+    return EnumerationParameterPtr(new EnumerationParameter(std::move(map), feature), release);
+}
+
+CommandParameterPtr makeCommandParameter(std::shared_ptr<NodeMap> map, const Feature& feature)
+{
+    return CommandParameterPtr(new CommandParameter(std::move(map), feature), release);
+}
+
+ParameterPtr makeParameter(std::shared_ptr<NodeMap> map, const Feature& feature)
+{
+    if (!feature.isEmpty()) {
+        switch (feature.kind()) {
+        case FeatureKind::Float:
+            return makeFloatParameter(std::move(map), feature);
+        case FeatureKind::Integer:
+            return makeIntegerParameter(std::move(map), feature);
+        case FeatureKind::Boolean:
+            return makeBooleanParameter(std::move(map), feature);
+        case FeatureKind::Enumeration:
+            return makeEnumerationParameter(std::move(map), feature);
+        case FeatureKind::Command:
+            return makeCommandParameter(std::move(map), feature);
+        case FeatureKind::Text:
+        case FeatureKind::Other:
+            break;
+        }
+    }
+    return ParameterPtr(new OtherParameter(std::move(map), feature), release);
+}
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+// The host's services over a list of cameras.
+#pragma once
+
+#include "hostcamera.h"
+#include "icameraservices.h"
+#include "iparameterservice.h"
+
+#include <QList>
+
+namespace Cameras {
+
+using Core::CameraPoolComponents::CameraInfoPtr;
+using Core::CameraPoolComponents::CameraPtr;
+
+/// The camera behind a pointer to it or to a handle; null if it is another kind of object.
+HostCameraPtr hostCamera(const CameraPtr& camera);
+HostCameraPtr hostCamera(const CameraInfoPtr& camera);
+
+class CameraStatusService final : public Plugin::CameraPool::ICameraStatusService
+{
+    Q_OBJECT
+
+public:
+    explicit CameraStatusService(const QList<HostCameraPtr>& cameras);
+
+    bool isCameraOpen(const CameraPtr& camera) const override;
+    bool isAcquiringOrRecording(const CameraInfoPtr& camera) const override;
+
+    /// Lets deviceOpened be emitted in the service's thread: at once if this is it. Thread-safe.
+    void announceOpened(const HostCameraPtr& camera);
+};
+
+class CameraEnumerationService final : public Plugin::CameraPool::ICameraEnumerationService
+{
+    Q_OBJECT
+
+public:
+    explicit CameraEnumerationService(const QList<HostCameraPtr>& cameras);
+
+    QList<Plugin::CameraPool::DeviceGroup> deviceGroups() const override;
+
+private:
+    const QList<HostCameraPtr> m_cameras;
+};
+
+class CameraStreamControlService final : public Plugin::CameraPool::ICameraStreamControlService
+{
+    Q_OBJECT
+
+public:
+    explicit CameraStreamControlService(const QList<HostCameraPtr>& cameras);
+
+    void stopAllAcquisitionsAndRecordings() override;
+
+private:
+    const QList<HostCameraPtr> m_cameras;
+};
+
+class CameraControlService final : public Plugin::CameraPool::ICameraControlService
+{
+    Q_OBJECT
+
+public:
+    explicit CameraControlService(const QSharedPointer<CameraStatusService>& status);
+
+    CameraPtr getExclusiveAccess(const CameraPtr& camera) override;
+    CameraPtr openWithExclusiveAccess(const CameraPtr& camera) override;
+    void close(const CameraPtr& camera) override;
+
+private:
+    const QSharedPointer<CameraStatusService> m_status;
+};
+
+class ParameterService final : public Plugin::ParameterCollectionPool::IParameterService
+{
+    Q_OBJECT
+
+public:
+    Core::ParameterCollection::ParameterCollectionPtr
+    parameterCollection(const CameraInfoPtr& camera) override;
+};
+
+} // namespace Cameras

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: Apache-2.0
+// The subcommand "calibrate".
+#include "calibratecommand.h"
+
+#include "calibrationsequence.h"
+#include "cameras.h"
+#include "camerasupport.h"
+#include "charttargets.h"
+#include "commandline.h"
+#include "grid.h"
+#include "interruption.h"
+#include "jsonvalues.h"
+#include "patchcolorconversion.h"
+#include "patchdeltas.h"
+#include "patchtable.h"
+#include "settingsguard.h"
+#include "settingstext.h"
+#include "terminal.h"
+
+#include <QFile>
+#include <QJsonObject>
+
+#include <ostream>
+
+using namespace ColorCalibration;
+
+namespace ColorCalibrate {
+namespace {
+
+/// All that is printed of a calibration.
+struct Report
+{
+    QString camera;
+    QString sfnc;
+    SequenceResult result;
+    CalibrationSettings settings;
+    Deltas before;
+    Deltas after;
+};
+
+void addOptions(CommandLine& line)
+{
+    line.addOption(QStringLiteral("camera"),
+                   QStringLiteral("The camera's name, as \"colorcalibrate list\" shows it."),
+                   QStringLiteral("name"));
+    line.addOption(QStringLiteral("grid"),
+                   QStringLiteral("The chart's corners in image pixels, \"x,y x,y x,y x,y\": upper "
+                                  "left, upper right, lower left, lower right; or \"auto\", the "
+                                  "default, to look for it."),
+                   QStringLiteral("points"));
+    line.addOption(QStringLiteral("exposure"),
+                   QStringLiteral("\"auto\", the default, brings the gray patch to its target; "
+                                  "\"keep\" leaves exposure time and gain."),
+                   QStringLiteral("mode"));
+    line.addOption(QStringLiteral("settings"),
+                   QStringLiteral("Settings of a previous calibration to start from."),
+                   QStringLiteral("file.cst"));
+    line.addOption(QStringLiteral("scene"),
+                   QStringLiteral("What emulated cameras see instead of the chart."),
+                   QStringLiteral("image"));
+    line.addFlag(QStringLiteral("json"),
+                 QStringLiteral("Print camera, grid, Delta E before and after, and settings."));
+}
+
+SequenceOptions readOptions(const CommandLine& line)
+{
+    SequenceOptions options;
+    const QString grid = line.value(QStringLiteral("grid"));
+    if (!grid.isEmpty() && grid != QLatin1String("auto"))
+        options.grid = parseGrid(grid);
+    const QString exposure = line.value(QStringLiteral("exposure"));
+    if (!exposure.isEmpty() && exposure != QLatin1String("auto") &&
+        exposure != QLatin1String("keep"))
+        throw CommandError(
+            QStringLiteral("--exposure is \"auto\" or \"keep\", not \"%1\"").arg(exposure),
+            WrongUsage);
+    options.adjustExposure = exposure != QLatin1String("keep");
+    const QString settingsFile = line.value(QStringLiteral("settings"));
+    if (!settingsFile.isEmpty()) {
+        QFile file(settingsFile);
+        if (!file.open(QIODevice::ReadOnly))
+            throw CommandError(QStringLiteral("%1: %2").arg(settingsFile, file.errorString()));
+        options.previousSettings = QString::fromUtf8(file.readAll());
+    }
+    return options;
+}
+
+ToolCameras makeCameras(const CommandLine& line)
+{
+    if (!line.isSet(QStringLiteral("scene")))
+        return ToolCameras();
+    return ToolCameras(readScene(line.value(QStringLiteral("scene"))));
+}
+
+/// The support test can be made on an open camera alone.
+void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera)
+{
+    if (!isCameraSupported(camera, cameras.parameterService()))
+        throw CommandError(
+            QStringLiteral(
+                "the camera \"%1\" cannot be calibrated: its model has no color pipeline "
+                "of the kind that is needed")
+                .arg(camera->displayName()));
+}
+
+Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera,
+                 const SequenceOptions& options, std::ostream& err)
+{
+    Report report;
+    report.camera = camera->displayName();
+    SettingsGuard guard(camera);
+    requireSupported(cameras, camera);
+    report.sfnc = camera->parameterCollection()->sfncVersion().toString();
+
+    const Interruption interruption;
+    ColorCorrectionModel model;
+    model.SetCameraStatusService(cameras.statusService());
+    model.SetCameraControlService(cameras.controlService());
+    const bool showProgress = isStandardErrorTerminal();
+    CalibrationSequence sequence(
+        model,
+        [&](const QString& step) {
+            if (showProgress)
+                err << step.toStdString() << std::endl;
+        },
+        [] { return Interruption::isRequested(); });
+    try {
+        report.result = sequence.run(camera, options);
+    } catch (const CommandError& error) {
+        throw CommandError(QString::fromUtf8(error.what()) + guard.restore(), error.code());
+    }
+    report.settings = model.LastCalibration();
+    report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
+    report.after = deltasToTargets(toPatchColors(report.result.currentColors, true));
+    model.Close();
+    return report;
+}
+
+QJsonArray gridJson(const TrapezoidPoints& grid)
+{
+    QJsonArray corners;
+    for (const QPoint& corner :
+         {grid.upperLeft(), grid.upperRight(), grid.lowerLeft(), grid.lowerRight()})
+        corners.append(QJsonArray{corner.x(), corner.y()});
+    return corners;
+}
+
+QJsonObject deltasJson(const Deltas& deltas)
+{
+    return {{QStringLiteral("meanDeltaE"), deltas.meanDeltaE()},
+            {QStringLiteral("maxDeltaE"), deltas.maxDeltaE()}};
+}
+
+QJsonObject toJson(const Report& report)
+{
+    QJsonObject json = settingsJson(report.settings);
+    json.insert(QStringLiteral("camera"), report.camera);
+    json.insert(QStringLiteral("sfnc"), report.sfnc);
+    json.insert(QStringLiteral("grid"), gridJson(report.result.grid));
+    json.insert(QStringLiteral("before"), deltasJson(report.before));
+    json.insert(QStringLiteral("after"), deltasJson(report.after));
+    return json;
+}
+
+void writeText(std::ostream& out, const Report& report)
+{
+    out << report.camera.toStdString() << ", SFNC " << report.sfnc.toStdString() << "\n\n";
+    writePatchTable(out,
+                    {"Before", "After", report.result.initialColors, report.result.currentColors,
+                     toQColors(ChartTargets().TargetColors(), true)},
+                    report.before, report.after);
+    out << "\n";
+    writeSettings(out, report.settings);
+}
+
+} // namespace
+
+void calibrateCommand(const QStringList& arguments, const Streams& streams)
+{
+    CommandLine line(
+        QStringLiteral("calibrate --camera NAME [options]"),
+        QStringLiteral("Calibrates a camera that looks at the chart, and prints how far each patch "
+                       "was off\nbefore and after. On failure and on Ctrl-C the camera's settings "
+                       "are restored."));
+    addOptions(line);
+    if (!line.parse(arguments, 0, streams.out))
+        return;
+    const QString name = line.requiredValue(QStringLiteral("camera"));
+    const SequenceOptions options = readOptions(line);
+    const ToolCameras cameras = makeCameras(line);
+    const Report report = calibrate(cameras, cameras.find(name), options, streams.err);
+    if (line.isSet(QStringLiteral("json")))
+        streams.out << toJsonText(toJson(report)).toStdString() << "\n";
+    else
+        writeText(streams.out, report);
+}
+
+} // namespace ColorCalibrate

@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: Apache-2.0
+// The wizard's order of calls, made without a window.
+#include "calibrationsequence.h"
+
+#include "command.h"
+#include "grid.h"
+#include "patchcolorconversion.h"
+#include "patchcolors.h"
+#include "patchdeltas.h"
+
+#include <QEventLoop>
+#include <QImage>
+#include <QTimer>
+
+#include <cmath>
+#include <utility>
+
+using ColorCalibration::ColorCorrectionModel;
+using Core::CameraPoolComponents::CameraPtr;
+
+namespace ColorCalibrate {
+namespace {
+
+/// How far the gray patch may be from its goal, in percent, as the wizard's gauge has it.
+constexpr double usableDeviation = 20.0;
+constexpr int cancelPollMs = 100;
+
+/// Further off than this on average, what was measured is hardly the chart.
+constexpr double usableDeltaE = 8.0;
+
+} // namespace
+
+CalibrationSequence::CalibrationSequence(ColorCorrectionModel& model,
+                                         std::function<void(const QString& step)> progress,
+                                         std::function<bool()> isCancelled)
+    : m_model(model)
+    , m_progress(std::move(progress))
+    , m_isCancelled(std::move(isCancelled))
+{}
+
+SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceOptions& options)
+{
+    QObject receiver;
+    QObject::connect(&m_model, &ColorCorrectionModel::cameraRemoved, &receiver,
+                     [this] { m_isLost = true; });
+    QObject::connect(&m_model, &ColorCorrectionModel::Gray80PercentHitRateChanged, &receiver,
+                     [this](double value) { m_hitRate = value; });
+    try {
+        open(camera);
+        placeGrid(options);
+        makeNeutral(options);
+        if (options.adjustExposure)
+            adjustBrightness();
+        calibrate();
+        SequenceResult result = measureOutcome();
+        requireChart(result);
+        stopIfCancelled();
+        return result;
+    } catch (const CommandError&) {
+        m_model.StopGrabbing();
+        m_model.RestoreSettingsBackup(false);
+        m_model.Close();
+        throw;
+    }
+}
+
+void CalibrationSequence::step(const char* name, const std::function<bool()>& call,
+                               const char* failure)
+{
+    stopIfCancelled();
+    m_progress(QLatin1String(name));
+    m_log.clear();
+    if (call())
+        return;
+    stopIfCancelled();
+    const QString reason = m_log.lastFailure();
+    throw CommandError(QLatin1String(failure) +
+                       (reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(reason)));
+}
+
+void CalibrationSequence::stopIfCancelled() const
+{
+    if (m_isCancelled())
+        throw CommandError(QStringLiteral("cancelled"));
+    if (m_isLost)
+        throw CommandError(QStringLiteral("the camera has been disconnected"));
+}
+
+void CalibrationSequence::open(const CameraPtr& camera)
+{
+    step(
+        "Opening the camera", [&] { return m_model.Open(camera); },
+        "the camera could not be opened with exclusive access; is another program using it?");
+}
+
+void CalibrationSequence::placeGrid(const SequenceOptions& options)
+{
+    if (options.grid) {
+        m_model.SetGridPosition(*options.grid);
+        return;
+    }
+    QImage image;
+    step(
+        "Finding the chart", [&] { return m_model.GrabImage(image, false); },
+        "the camera delivered no image");
+    m_model.SetGridPosition(findGrid(image));
+}
+
+void CalibrationSequence::makeNeutral(const SequenceOptions& options)
+{
+    step(
+        "Keeping the camera's settings",
+        [this] {
+            m_model.StopGrabbing();
+            return m_model.CreateSettingsBackup(false) && m_model.CreateSettingsBackup(true);
+        },
+        "the camera's settings could not be read");
+    if (!options.previousSettings.isEmpty())
+        step(
+            "Loading previous settings",
+            [&] { return m_model.LoadSettings(options.previousSettings); },
+            "could not load previous settings");
+    step(
+        "Setting neutral settings", [this] { return m_model.SetNeutralSettings(); },
+        "unable to set neutral settings");
+    step(
+        "Balancing white", [this] { return m_model.ExecuteWhitebalance(); },
+        "the calibration process failed because the image is either too bright or too dark; adjust "
+        "the brightness and try again");
+    m_model.ActivateMonoImage();
+    m_model.DisableAutoFunctions();
+    double lowest = 0.0;
+    double value = 0.0;
+    double highest = 0.0;
+    step(
+        "Reading exposure time and gain",
+        [&] { return m_model.GetExposureTimeRange(lowest, value, highest); },
+        "no initial parameters (min, max, value) for exposure time available");
+    step(
+        "Reading exposure time and gain",
+        [&] { return m_model.GetGainRange(lowest, value, highest); },
+        "no initial parameters (min, max, value) for gain value available");
+}
+
+void CalibrationSequence::adjustBrightness()
+{
+    QEventLoop loop;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (m_isCancelled() || m_isLost)
+            loop.quit();
+    });
+    QObject::connect(&m_model, &ColorCorrectionModel::AutoAdjustGray80PercentPatchFinished, &loop,
+                     &QEventLoop::quit, Qt::QueuedConnection);
+    step(
+        "Adjusting brightness",
+        [&] {
+            if (!m_model.AutoAdjustGray80PercentPatch())
+                return false;
+            poll.start(cancelPollMs);
+            loop.exec();
+            return true;
+        },
+        "the automatic brightness could not be started");
+    stopIfCancelled();
+    // The worker ends by its limits too, and its last write comes after its last image.
+    QVector<QColor> colors;
+    m_model.GetColorPatchValues(colors, true);
+    if (!(std::abs(m_hitRate - 100.0) < usableDeviation))
+        throw CommandError(
+            QStringLiteral("the gray patch stands at %1 percent of its target brightness and could "
+                           "not be brought nearer by exposure time and gain; is the grid on the "
+                           "chart, and the light neither too weak nor too strong?")
+                .arg(m_hitRate, 0, 'f', 0));
+}
+
+void CalibrationSequence::calibrate()
+{
+    const auto restoreExposure = [this] {
+        return m_model.RestoreDetectedExposureAndGain();
+    };
+    const char* const exposureFailure = "couldn't restore detected exposure and gain values";
+    m_model.StopGrabbing();
+    step(
+        "Storing exposure time and gain", [this] { return m_model.StoreDetectedExposureAndGain(); },
+        "couldn't store detected exposure and gain values");
+    step(
+        "Restoring the settings before calibration",
+        [this] { return m_model.RestoreSettingsBackup(true); },
+        "couldn't restore preneutral camera settings");
+    step("Restoring exposure time and gain", restoreExposure, exposureFailure);
+    step(
+        "Taking the image before calibration",
+        [this] { return m_model.ApplyInitialCameraImageAndPatchValues(); },
+        "couldn't apply initial camera image or set original patch color values");
+    step(
+        "Setting neutral settings", [this] { return m_model.SetNeutralSettings(); },
+        "unable to set neutral settings");
+    step("Restoring exposure time and gain", restoreExposure, exposureFailure);
+    step(
+        "Measuring the patches", [this] { return m_model.ApplyInitialColorPatchValues(); },
+        "couldn't apply initial values");
+    step(
+        "Calibrating", [this] { return m_model.ExecuteCalibrationAndApply(); },
+        "calibration process failed; is the grid on the chart, and the image neither too bright "
+        "nor too dark?");
+}
+
+SequenceResult CalibrationSequence::measureOutcome()
+{
+    SequenceResult result;
+    step(
+        "Measuring the outcome",
+        [&] {
+            QVector<QColor> fresh;
+            m_model.GetColorPatchValues(fresh, true);
+            m_model.GetCurrentColorPatchValues(result.currentColors);
+            m_model.GetInitialColorPatchValues(result.initialColors);
+            return result.currentColors.size() == ColorCalibration::PatchCount &&
+                   result.initialColors.size() == ColorCalibration::PatchCount;
+        },
+        "the patches could not be measured; is the whole chart in the image, and large enough?");
+    result.grid = m_model.GetGridPosition();
+    return result;
+}
+
+/// The model calibrates whatever the grid lies on; a chart comes out near to its targets.
+void CalibrationSequence::requireChart(const SequenceResult& result)
+{
+    const double before =
+        deltasToTargets(ColorCalibration::toPatchColors(result.initialColors, true)).meanDeltaE();
+    const double after =
+        deltasToTargets(ColorCalibration::toPatchColors(result.currentColors, true)).meanDeltaE();
+    if (after < usableDeltaE)
+        return;
+    throw CommandError(
+        QStringLiteral("the patches are off their targets by a mean Delta E of %1 after "
+                       "calibration, %2 before; is the grid on the chart, and the chart evenly lit "
+                       "and neither too bright nor too dark?")
+            .arg(after, 0, 'f', 1)
+            .arg(before, 0, 'f', 1));
+}
+
+} // namespace ColorCalibrate

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+// The wizard's order of calls, made without a window.
+#pragma once
+
+#include "colorcorrectionmodel.h"
+#include "failurelog.h"
+#include "icamera.h"
+
+#include <QColor>
+#include <QString>
+#include <QVector>
+
+#include <functional>
+#include <optional>
+
+namespace ColorCalibrate {
+
+struct SequenceOptions
+{
+    std::optional<ColorCalibration::TrapezoidPoints> grid; ///< looked for in the image if missing
+    bool adjustExposure = true;                            ///< else exposure and gain stay
+    QString previousSettings;                              ///< feature stream text, may be empty
+};
+
+struct SequenceResult
+{
+    ColorCalibration::TrapezoidPoints grid;
+    QVector<QColor> initialColors; ///< before, as the camera showed them
+    QVector<QColor> currentColors; ///< after
+};
+
+/// Calibrates one camera from opening to the measurement of the outcome.
+///
+/// Whatever ends it early, the settings that the camera had after it was opened are written back
+/// and the camera is given back. Thread-bound: a thread with an event dispatcher.
+class CalibrationSequence
+{
+public:
+    /// \param model     with its services set, not open; outlives the sequence
+    /// \param progress  is told each step as it begins
+    /// \param isCancelled  is asked between the steps
+    CalibrationSequence(ColorCalibration::ColorCorrectionModel& model,
+                        std::function<void(const QString& step)> progress,
+                        std::function<bool()> isCancelled);
+
+    /// The camera stays open and calibrated.
+    /// \throws CommandError  after the camera was given back
+    SequenceResult run(const Core::CameraPoolComponents::CameraPtr& camera,
+                       const SequenceOptions& options);
+
+private:
+    void open(const Core::CameraPoolComponents::CameraPtr& camera);
+    void placeGrid(const SequenceOptions& options);
+    void makeNeutral(const SequenceOptions& options);
+    void adjustBrightness();
+    void calibrate();
+    SequenceResult measureOutcome();
+    void requireChart(const SequenceResult& result);
+
+    void step(const char* name, const std::function<bool()>& call, const char* failure);
+    void stopIfCancelled() const;
+
+    ColorCalibration::ColorCorrectionModel& m_model;
+    std::function<void(const QString&)> m_progress;
+    std::function<bool()> m_isCancelled;
+    FailureLog m_log;
+    bool m_isLost = false;
+    double m_hitRate = 0.0;
+};
+
+} // namespace ColorCalibrate

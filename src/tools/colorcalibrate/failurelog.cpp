@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the log says of a failure.
+#include "failurelog.h"
+
+#include <QMutexLocker>
+
+namespace ColorCalibrate {
+
+FailureLog::FailureLog()
+    : m_previous(Core::Logging::installLogSink(
+          [this](Core::Logging::ELogLevel level, const QString& /*category*/, const QString& text) {
+              if (level < Core::Logging::Warning)
+                  return;
+              const QMutexLocker lock(&m_mutex);
+              m_lastFailure = text;
+          }))
+{}
+
+FailureLog::~FailureLog()
+{
+    Core::Logging::installLogSink(m_previous);
+}
+
+void FailureLog::clear()
+{
+    const QMutexLocker lock(&m_mutex);
+    m_lastFailure.clear();
+}
+
+QString FailureLog::lastFailure() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_lastFailure;
+}
+
+} // namespace ColorCalibrate

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+// The subcommand "list".
+#include "listcommand.h"
+
+#include "cameras.h"
+#include "camerasupport.h"
+#include "commandline.h"
+#include "jsontext.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <ostream>
+
+namespace ColorCalibrate {
+namespace {
+
+struct ListedCamera
+{
+    QString name;
+    QString model;
+    QString sfnc;
+    bool isSupported;
+    QString backend;
+};
+
+/// What only an open camera tells is asked of it in passing.
+ListedCamera describe(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera)
+{
+    const bool wasOpen = camera->isOpen();
+    const bool isOpen = wasOpen || camera->open();
+    const auto parameters = isOpen ? camera->parameterCollection() : nullptr;
+    const ListedCamera listed{
+        camera->displayName(), camera->modelName(),
+        parameters ? parameters->sfncVersion().toString() : QString(),
+        ColorCalibration::isCameraSupported(camera, cameras.parameterService()),
+        QStringLiteral("emulation")};
+    if (!wasOpen)
+        camera->close();
+    return listed;
+}
+
+QJsonObject toJson(const ListedCamera& camera)
+{
+    return {{QStringLiteral("name"), camera.name},
+            {QStringLiteral("model"), camera.model},
+            {QStringLiteral("sfnc"), camera.sfnc},
+            {QStringLiteral("supported"), camera.isSupported},
+            {QStringLiteral("backend"), camera.backend}};
+}
+
+std::string toRow(const ListedCamera& camera)
+{
+    return QStringLiteral("%1 %2 %3 %4\n")
+        .arg(camera.name, -40)
+        .arg(camera.sfnc, -7)
+        .arg(camera.isSupported ? QStringLiteral("yes") : QStringLiteral("no"), -10)
+        .arg(camera.backend)
+        .toStdString();
+}
+
+} // namespace
+
+void listCommand(const QStringList& arguments, const Streams& streams)
+{
+    CommandLine line(QStringLiteral("list [options]"),
+                     QStringLiteral("Lists the cameras that can be seen, and whether they can be "
+                                    "calibrated."));
+    line.addFlag(QStringLiteral("json"),
+                 QStringLiteral("Print [{\"name\", \"model\", \"sfnc\", \"supported\", "
+                                "\"backend\"}, ...]."));
+    if (!line.parse(arguments, 0, streams.out))
+        return;
+
+    const ToolCameras cameras;
+    QJsonArray array;
+    std::string rows = QStringLiteral("%1 SFNC    Supported  Backend\n")
+                           .arg(QStringLiteral("Name"), -40)
+                           .toStdString();
+    for (const Cameras::HostCameraPtr& camera : cameras.all()) {
+        const ListedCamera listed = describe(cameras, camera);
+        array.append(toJson(listed));
+        rows += toRow(listed);
+    }
+    if (line.isSet(QStringLiteral("json")))
+        streams.out << toJsonText(array).toStdString() << "\n";
+    else
+        streams.out << rows;
+}
+
+} // namespace ColorCalibrate

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+// Sees to it that a camera is given back as it was.
+#include "settingsguard.h"
+
+#include "command.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <exception>
+
+namespace ColorCalibrate {
+namespace {
+
+const QString cameraNodeMap = QStringLiteral("@CameraDevice");
+
+/// Without the comments, which carry the time.
+QStringList settingLines(const QString& text)
+{
+    QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    lines.erase(
+        std::remove_if(lines.begin(), lines.end(),
+                       [](const QString& line) { return line.startsWith(QLatin1Char('#')); }),
+        lines.end());
+    return lines;
+}
+
+/// The first setting that is not as it was.
+QString firstDifference(const QStringList& wanted, const QStringList& found)
+{
+    for (int i = 0; i < wanted.size(); ++i)
+        if (i >= found.size() || wanted.at(i) != found.at(i))
+            return wanted.at(i).section(QLatin1Char('\t'), 0, 0);
+    return found.size() > wanted.size() ? found.at(wanted.size()) : QString();
+}
+
+} // namespace
+
+SettingsGuard::SettingsGuard(const Cameras::HostCameraPtr& camera)
+    : m_camera(camera)
+{
+    if (!camera->open())
+        throw CommandError(QStringLiteral("the camera \"%1\" could not be opened: %2")
+                               .arg(camera->displayName(), camera->lastErrorText()));
+    try {
+        m_settings = readSettings();
+    } catch (const std::exception& error) {
+        camera->close();
+        throw CommandError(QStringLiteral("the settings of the camera \"%1\" cannot be read: %2")
+                               .arg(camera->displayName(), QString::fromUtf8(error.what())));
+    }
+}
+
+SettingsGuard::~SettingsGuard()
+{
+    m_camera->close();
+}
+
+QString SettingsGuard::readSettings() const
+{
+    const auto parameters = m_camera->parameterCollection();
+    if (!parameters)
+        throw CommandError(QStringLiteral("the connection is lost"));
+    QString text;
+    parameters->saveFeatures(text, cameraNodeMap);
+    return text;
+}
+
+QString SettingsGuard::restore()
+{
+    QString problem;
+    try {
+        const QStringList wanted = settingLines(m_settings);
+        if (settingLines(readSettings()) != wanted) {
+            QString ignoredErrors;
+            m_camera->parameterCollection()->loadFeatures(m_settings, ignoredErrors, cameraNodeMap);
+        }
+        const QString difference = firstDifference(wanted, settingLines(readSettings()));
+        if (difference.isEmpty())
+            return QStringLiteral("; the camera's settings are as they were");
+        problem = QStringLiteral("%1 is not what it was").arg(difference);
+    } catch (const std::exception& error) {
+        problem = QString::fromUtf8(error.what());
+    }
+    return QStringLiteral(
+               "; THE CAMERA'S SETTINGS COULD NOT BE RESTORED (%1): load a user set or a "
+               "settings file before the camera is used")
+        .arg(problem);
+}
+
+} // namespace ColorCalibrate

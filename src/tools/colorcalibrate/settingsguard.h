@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+// Sees to it that a camera is given back as it was.
+#pragma once
+
+#include "hostcamera.h"
+
+#include <QString>
+
+namespace ColorCalibrate {
+
+/// Opens a camera for the tool and keeps its settings as they are before anybody touches them.
+/// Closes the camera at its end. Thread-bound.
+class SettingsGuard
+{
+public:
+    /// \throws CommandError  the camera cannot be opened, or its settings cannot be read
+    explicit SettingsGuard(const Cameras::HostCameraPtr& camera);
+    ~SettingsGuard();
+    SettingsGuard(const SettingsGuard&) = delete;
+    SettingsGuard& operator=(const SettingsGuard&) = delete;
+
+    /// Writes the settings back where they have changed, and compares.
+    /// \return  a remark for the user behind the message of a failure: that all is as it was, or,
+    ///          so that it cannot be overlooked, what is not
+    QString restore();
+
+private:
+    QString readSettings() const;
+
+    Cameras::HostCameraPtr m_camera;
+    QString m_settings;
+};
+
+} // namespace ColorCalibrate

@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: Apache-2.0
+// User sets outlive the camera that saved them.
+#include "emulationtest.h"
+#include "genicamexception.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace Cameras::Emulation {
+namespace {
+
+using ::GenICam::RuntimeException;
+
+class UserSetsTest : public EmulationTest
+{
+protected:
+    static void choose(EmulatedCamera& camera, const char* name, const char* entry)
+    {
+        camera.parameterCollection()
+            ->enumerationParameter(QString::fromLatin1(name))
+            ->setValue(QString::fromLatin1(entry));
+    }
+    static void execute(EmulatedCamera& camera, const char* name)
+    {
+        camera.parameterCollection()->commandParameter(QString::fromLatin1(name))->execute();
+    }
+    static void save(EmulatedCamera& camera, const char* set)
+    {
+        choose(camera, "UserSetSelector", set);
+        execute(camera, "UserSetSave");
+    }
+    static void load(EmulatedCamera& camera, const char* set)
+    {
+        choose(camera, "UserSetSelector", set);
+        execute(camera, "UserSetLoad");
+    }
+    static Core::ParameterCollection::FloatParameterPtr gain(EmulatedCamera& camera)
+    {
+        return camera.parameterCollection()->floatParameter(QStringLiteral("Gain"));
+    }
+    QString file(const CameraModel& model) const
+    {
+        return folder() + QLatin1Char('/') + model.serialNumber + QStringLiteral(".json");
+    }
+    void writeFile(const QByteArray& text) const
+    {
+        QFile out(file(smallModel()));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(text);
+    }
+};
+
+TEST_F(UserSetsTest, ASavedSetComesBackInAnotherCameraObject)
+{
+    {
+        const auto camera = openCamera(smallModel());
+        gain(*camera)->setValue(7.5);
+        choose(*camera, "BalanceRatioSelector", "Blue");
+        camera->parameterCollection()
+            ->floatParameter(QStringLiteral("BalanceRatio"))
+            ->setValue(2.25);
+        choose(*camera, "PixelFormat", "BGR8");
+        save(*camera, "UserSet2");
+    }
+    const auto camera = openCamera(smallModel());
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+    load(*camera, "UserSet2");
+    EXPECT_EQ(gain(*camera)->value(), 7.5);
+    choose(*camera, "BalanceRatioSelector", "Blue");
+    EXPECT_EQ(
+        camera->parameterCollection()->floatParameter(QStringLiteral("BalanceRatio"))->value(),
+        2.25);
+    EXPECT_EQ(
+        camera->parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"))->value(),
+        QStringLiteral("BGR8"));
+}
+
+TEST_F(UserSetsTest, TheCameraComesUpWithItsDefaultSet)
+{
+    const auto camera = openCamera(smallModel());
+    gain(*camera)->setValue(4.0);
+    save(*camera, "UserSet1");
+    choose(*camera, "UserSetDefault", "UserSet1");
+    gain(*camera)->setValue(9.0);
+    camera->close();
+    ASSERT_TRUE(camera->open());
+    EXPECT_EQ(gain(*camera)->value(), 4.0);
+
+    const auto other = openCamera(smallModel());
+    EXPECT_EQ(gain(*other)->value(), 4.0);
+    EXPECT_EQ(other->parameterCollection()
+                  ->enumerationParameter(QStringLiteral("UserSetDefault"))
+                  ->value(),
+              QStringLiteral("UserSet1"));
+}
+
+TEST_F(UserSetsTest, WhatWasNotSavedIsGoneAfterClosing)
+{
+    const auto camera = openCamera(smallModel());
+    gain(*camera)->setValue(4.0);
+    camera->close();
+    ASSERT_TRUE(camera->open());
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+}
+
+TEST_F(UserSetsTest, TheFactorySetsCannotBeOverwritten)
+{
+    const auto camera = openCamera(smallModel());
+    gain(*camera)->setValue(4.0);
+    EXPECT_THROW(save(*camera, "Default"), RuntimeException);
+    load(*camera, "Default");
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+}
+
+TEST_F(UserSetsTest, ASetThatWasNeverSavedHoldsTheFactorysValues)
+{
+    const auto camera = openCamera(smallModel());
+    gain(*camera)->setValue(4.0);
+    load(*camera, "UserSet3");
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+}
+
+TEST_F(UserSetsTest, SetsDoNotMix)
+{
+    const auto camera = openCamera(smallModel());
+    gain(*camera)->setValue(1.0);
+    save(*camera, "UserSet1");
+    gain(*camera)->setValue(2.0);
+    save(*camera, "UserSet2");
+    load(*camera, "UserSet1");
+    EXPECT_EQ(gain(*camera)->value(), 1.0);
+    load(*camera, "UserSet2");
+    EXPECT_EQ(gain(*camera)->value(), 2.0);
+}
+
+TEST_F(UserSetsTest, TwoModelsHaveTheirOwn)
+{
+    const auto plain = openCamera(smallModel(FeatureNames::SecondGeneration));
+    gain(*plain)->setValue(1.0);
+    save(*plain, "UserSet1");
+    const auto maker = openCamera(smallModel(FeatureNames::SecondGenerationMaker));
+    load(*maker, "UserSet1");
+    EXPECT_EQ(gain(*maker)->value(), 0.0);
+}
+
+TEST_F(UserSetsTest, DamagedFilesHarmNothing)
+{
+    for (const QByteArray& text :
+         {QByteArray(), QByteArray("{"), QByteArray("[1,2]"), QByteArray(100000, '\0'),
+          QByteArray(R"({"UserSetDefault": "UserSet9", "UserSets": 3})"),
+          QByteArray(R"({"UserSetDefault": "UserSet1", "UserSets": {"UserSet1":
+              {"Gain": [99], "Width": [0], "OffsetX": [40], "PixelFormat": [12], "Gamma": ["x"],
+               "BalanceRatio": [1, 2], "UserSetSave": [1], "Nothing": [1], "BlackLevel": 3}}})")}) {
+        writeFile(text);
+        const auto camera = openCamera(smallModel());
+        const auto features = camera->parameterCollection();
+        EXPECT_EQ(gain(*camera)->value(), 0.0);
+        EXPECT_EQ(features->integerParameter(QStringLiteral("Width"))->value(), 96);
+        EXPECT_EQ(features->integerParameter(QStringLiteral("OffsetX"))->value(), 0);
+        EXPECT_EQ(features->enumerationParameter(QStringLiteral("PixelFormat"))->value(),
+                  QStringLiteral("RGB8"));
+        EXPECT_EQ(features->floatParameter(QStringLiteral("Gamma"))->value(), 1.0);
+    }
+}
+
+TEST_F(UserSetsTest, AFolderThatCannotBeWrittenIsReported)
+{
+    QDir(folder()).removeRecursively();
+    QFile blocker(folder());
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly)); // a file where the folder should be
+    const auto camera = openCamera(smallModel());
+    EXPECT_THROW(save(*camera, "UserSet1"), RuntimeException);
+    EXPECT_THROW(choose(*camera, "UserSetDefault", "UserSet1"), RuntimeException);
+    EXPECT_EQ(camera->parameterCollection()
+                  ->enumerationParameter(QStringLiteral("UserSetDefault"))
+                  ->value(),
+              QStringLiteral("Default"));
+    QFile::remove(folder());
+}
+
+TEST_F(UserSetsTest, TheLookUpTableIsSavedToo)
+{
+    {
+        const auto camera = openCamera(smallModel());
+        const auto features = camera->parameterCollection();
+        features->integerParameter(QStringLiteral("LUTIndex"))->setValue(4095, true);
+        features->integerParameter(QStringLiteral("LUTValue"))->setValue(17, true);
+        save(*camera, "UserSet1");
+    }
+    const auto camera = openCamera(smallModel());
+    const auto features = camera->parameterCollection();
+    features->integerParameter(QStringLiteral("LUTIndex"))->setValue(4095, true);
+    EXPECT_EQ(features->integerParameter(QStringLiteral("LUTValue"))->value(), 4095);
+    load(*camera, "UserSet1");
+    EXPECT_EQ(features->integerParameter(QStringLiteral("LUTValue"))->value(), 17);
+}
+
+} // namespace
+} // namespace Cameras::Emulation

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: Apache-2.0
+// What must hold when settings are loaded from text.
+#include "testcamera.h"
+
+#include <QStringList>
+
+#include <random>
+
+using FeatureStreamReader = TestCamera;
+
+TEST_F(FeatureStreamReader, AppliesOneFeatureALine)
+{
+    EXPECT_EQ(load("# a comment\nGain\t2.25\nWidth\t644\nExposureAuto\tOnce\nLutEnable\t1\n"
+                   "DeviceName\tleft camera\n"_q),
+              QString());
+    EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 2.25);
+    EXPECT_EQ(camera->integerParameter("Width"_q)->value(), 644);
+    EXPECT_EQ(camera->enumerationParameter("ExposureAuto"_q)->value(), "Once"_q);
+    EXPECT_TRUE(camera->booleanParameter("LutEnable"_q)->value());
+    EXPECT_TRUE(savedLines().contains("DeviceName\tleft camera\n"_q));
+}
+
+TEST_F(FeatureStreamReader, SkipsWhatCannotBeAppliedAndSaysWhere)
+{
+    EXPECT_EQ(load("NoSuch\t1\n"
+                   "Gain 2\n"
+                   "Gain\t99\n"
+                   "Width\twide\n"
+                   "ExposureAuto\tNever\n"
+                   "LutEnable\ttrue\n"
+                   "Temperature\t20\n"
+                   "Save\t1\n"
+                   "Gamma\tnan\n"
+                   "\n"
+                   "Level\t-7\n"_q),
+              "Line 1: the camera has no feature \"NoSuch\".\n"
+              "Line 2: \"Gain 2\" has no tab and no value.\n"
+              "Line 3: Gain: 99 is above the maximum 24.\n"
+              "Line 4: Width: an integer is expected.\n"
+              "Line 5: ExposureAuto: there is no entry \"Never\".\n"
+              "Line 6: LutEnable: 0 or 1 is expected.\n"
+              "Line 7: Temperature: cannot be written, only read.\n"
+              "Line 8: Save: has no value.\n"
+              "Line 9: Gamma: the value is not a finite number.\n"_q);
+    EXPECT_EQ(camera->integerParameter("Level"_q)->value(), -7);
+    EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 1.5);
+    EXPECT_EQ(port->word(Register::save), 0U);
+}
+
+TEST_F(FeatureStreamReader, ReplacesOldErrors)
+{
+    QString errors = "old"_q;
+    camera->loadFeatures("Gain\t2\n"_q, errors, "@CameraDevice"_q);
+    EXPECT_EQ(errors, QString());
+}
+
+TEST_F(FeatureStreamReader, TakesLinesAsOtherSystemsWriteThem)
+{
+    EXPECT_EQ(load(QChar(QChar::ByteOrderMark) + "# x\r\nGain\t2.5\r\nExposureAuto\tOnce"_q),
+              QString());
+    EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 2.5);
+    EXPECT_EQ(camera->enumerationParameter("ExposureAuto"_q)->value(), "Once"_q);
+}
+
+TEST_F(FeatureStreamReader, TextAfterASecondTabBelongsToTheValue)
+{
+    EXPECT_EQ(load("DeviceName\ta\tb\n"_q), QString());
+    EXPECT_TRUE(savedLines().contains("DeviceName\ta\tb\n"_q));
+    EXPECT_NE(load("Gain\t2\t3\n"_q), QString());
+}
+
+TEST_F(FeatureStreamReader, ReportsWhatTheDeviceRefuses)
+{
+    port->readOnly.insert(Register::gain);
+    EXPECT_EQ(load("Gain\t2\nWidth\t320\n"_q), "Line 1: Gain: write protected.\n"_q);
+    EXPECT_EQ(port->word(Register::width), 320U);
+}
+
+TEST_F(FeatureStreamReader, RestoresAllThatWasSaved)
+{
+    port->setWord(Register::lutEnable, 1);
+    port->setWord(Register::pixelFormat, 12);
+    port->setWord(Register::lutIndex, 4);
+    port->setDouble(Register::gain, 1.0 / 3.0);
+    port->setFloat(Register::gamma, 4.1F);
+    port->setWord(Register::exposureRaw, 29);
+    camera->enumerationParameter("TransformValueSelector"_q)->setValue("Gain02"_q);
+    const QString saved = savedLines();
+    const auto registers = port->bytes();
+
+    for (std::uint64_t index = 0; index < 3; ++index)
+        port->setFloat(Register::balanceRatio + 4 * index, 7.0F);
+    for (std::uint64_t index = 0; index < 6; ++index)
+        port->setFloat(Register::transform + 4 * index, -1.0F);
+    EXPECT_EQ(load("Gain\t7\nGamma\t2\nWidth\t320\nOffsetX\t10\nExposureTime\t5\n"
+                   "ExposureAuto\tContinuous\nPixelFormat\tMono8\nLutIndex\t0\nLutEnable\t0\n"
+                   "Level\t9\nBalanceRatioSelector\tBlue\nTransformSelector\tRGBtoRGB\n"
+                   "TransformValueSelector\tGain01\nDeviceName\tx\n"_q),
+              QString());
+    ASSERT_NE(savedLines(), saved);
+
+    EXPECT_EQ(load(saved), QString());
+    EXPECT_EQ(savedLines(), saved);
+    EXPECT_EQ(port->bytes(), registers);
+}
+
+TEST_F(FeatureStreamReader, RestoresLimitsThatDependOnEachOther)
+{
+    port->setWord(Register::width, 1920);
+    const QString wide = savedLines();
+    port->setWord(Register::width, 100);
+    port->setWord(Register::offsetX, 1800);
+    const QString narrow = savedLines();
+
+    EXPECT_EQ(load(wide), QString());
+    EXPECT_EQ(port->word(Register::width), 1920U);
+    EXPECT_EQ(port->word(Register::offsetX), 0U);
+    EXPECT_EQ(load(narrow), QString());
+    EXPECT_EQ(port->word(Register::width), 100U);
+    EXPECT_EQ(port->word(Register::offsetX), 1800U);
+}
+
+TEST_F(FeatureStreamReader, RestoresAFeatureThatALaterLineUnlocks)
+{
+    const QString saved = savedLines();
+    ASSERT_LT(saved.indexOf("ExposureTime"_q), saved.indexOf("ExposureAuto"_q));
+    port->setWord(Register::exposureRaw, 5);
+    port->setWord(Register::exposureAuto, 2);
+    EXPECT_EQ(load(saved), QString());
+    EXPECT_EQ(port->word(Register::exposureRaw), 1000U);
+}
+
+TEST_F(FeatureStreamReader, KeepsValuesOfASelectorThatCouldNotBeSet)
+{
+    EXPECT_EQ(load("BalanceRatioSelector\tRed\nBalanceRatio\t2\n"
+                   "BalanceRatioSelector\tGreen\nBalanceRatio\t3\n"
+                   "BalanceRatioSelector\tBlue\nBalanceRatio\t4\n"_q),
+              "Line 3: BalanceRatioSelector: Green is not available with the camera's present "
+              "settings.\n"
+              "Line 4: BalanceRatio: skipped, as BalanceRatioSelector could not be set.\n"_q);
+    camera->enumerationParameter("BalanceRatioSelector"_q)->setValue("Red"_q);
+    EXPECT_EQ(camera->floatParameter("BalanceRatio"_q)->value(), 2.0);
+}
+
+TEST_F(FeatureStreamReader, GarbageHarmsNothing)
+{
+    const auto registers = port->bytes();
+    EXPECT_EQ(load(QString()), QString());
+    EXPECT_EQ(load("\n\n\r\n"_q), QString());
+    EXPECT_NE(load(QString(5'000'000, QLatin1Char('x'))), QString());
+    EXPECT_NE(load(QString(1'000'000, QChar(0))), QString());
+    EXPECT_NE(load(QStringLiteral("Gain\0\t7\n")), QString());
+    std::mt19937 random(7);
+    QString noise;
+    for (int index = 0; index < 1'000'000; ++index)
+        noise.append(QChar(static_cast<ushort>(random() & 0xff)));
+    EXPECT_NE(load(noise), QString());
+    EXPECT_EQ(port->bytes(), registers);
+}
+
+TEST_F(FeatureStreamReader, KeepsTheListOfErrorsReadable)
+{
+    QString many;
+    for (int index = 0; index < 100'000; ++index)
+        many += "NoSuch\t1\n"_q;
+    const QString errors = load(many);
+    EXPECT_EQ(errors.count(QLatin1Char('\n')), 1001);
+    EXPECT_TRUE(errors.endsWith("And 99000 more lines.\n"_q));
+    EXPECT_LT(load(QString(1000, QChar(1))).size(), 100);
+}
+
+TEST_F(FeatureStreamReader, ThrowsWhenTheConnectionIsLostOnTheWay)
+{
+    port->onWrite = [this](std::uint64_t) {
+        map->disconnect();
+    };
+    EXPECT_EQ(refusalOf([&] { load("Gain\t2\nWidth\t320\n"_q); }),
+              "The connection to the camera is lost.");
+}

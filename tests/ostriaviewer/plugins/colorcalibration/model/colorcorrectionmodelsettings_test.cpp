@@ -1,0 +1,329 @@
+// SPDX-License-Identifier: Apache-2.0
+// Tests of the model's settings: neutral state, backups, exposure and gain, the grid's position.
+#include "expectedwrites.h"
+#include "modeltest.h"
+
+#include <QBuffer>
+#include <QPointF>
+
+#include <cmath>
+#include <limits>
+
+using namespace ColorCalibration;
+
+namespace {
+
+std::string text(const QStringList& lines)
+{
+    return lines.join(QLatin1Char('\n')).toStdString();
+}
+
+ColorAdjustment neutralAdjustment()
+{
+    ColorAdjustment adjustment;
+    adjustment = 0, 0, 0, 0, 0, 0, 1, 1, 1, 1, 1, 1;
+    return adjustment;
+}
+
+const QStringList neutralHsbcAndLut{
+    "TvrHue = 0",      "TvrSaturation = 1",       "TvrBrightness = 0",
+    "TvrContrast = 0", "LUTSelector = Luminance", "LUTEnable = false verified"};
+
+TEST_F(ModelTest, NeutralSettingsOfANewCameraHaveTheirOrder)
+{
+    ASSERT_TRUE(open());
+    m_camera->grabbing = true;
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.SetNeutralSettings());
+    EXPECT_FALSE(m_camera->grabbing);
+    EXPECT_EQ(text(writes()), text(QStringList{"BlackLevelSelector = All", "BlackLevel = 0",
+                                               "Gamma = 1", "LightSourcePreset = Off"} +
+                                   gainWrites(dlib::identity_matrix<double>(3)) +
+                                   QStringList{"LightSourcePreset = Off"} + neutralHsbcAndLut +
+                                   sectorWrites(neutralAdjustment()) +
+                                   balanceWrites("BalanceRatio", 1.0, 1.0, 1.0) +
+                                   QStringList{"DemosaicingMode = Simple"} + autoFunctionWrites()));
+}
+
+TEST_F(ModelTest, NeutralSettingsOfAnOldCameraHaveTheirOrder)
+{
+    use(oldCamera());
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.SetNeutralSettings());
+    EXPECT_EQ(
+        text(writes()),
+        text(QStringList{"BlackLevelSelector = All", "BlackLevelRaw = 0 verified",
+                         "GammaSelector = User", "Gamma = 1", "GammaEnable = false verified",
+                         "ProcessedRawEnable = true verified", "LightSourceSelector = Custom"} +
+             gainWrites(dlib::identity_matrix<double>(3)) + neutralHsbcAndLut +
+             QStringList{"ColorAdjustmentEnable = false verified"} +
+             balanceWrites("BalanceRatioAbs", 1.0, 1.0, 1.0) +
+             QStringList{"DemosaicingMode = Simple"} + autoFunctionWrites()));
+}
+
+TEST_F(ModelTest, BackupsStopGrabbingAndComeBack)
+{
+    ASSERT_TRUE(open());
+    m_camera->grabbing = true;
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false)) << "an empty backup restores nothing";
+    EXPECT_FALSE(m_camera->grabbing);
+    EXPECT_TRUE(m_model.CreateSettingsBackup(false));
+    m_camera->parameters().addFloat("Gamma", 7.0);
+    EXPECT_TRUE(m_model.CreateSettingsBackup(true));
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 0.25);
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(true));
+    EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 7.0);
+}
+
+TEST_F(ModelTest, BackupsEndWithTheCamera)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.Close());
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_TRUE(writes().isEmpty());
+}
+
+TEST_F(ModelTest, SettingsAreLoadedFromTextAndDevice)
+{
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.LoadSettings("Gamma\t3\nNoSuchFeature\t1\n"));
+    QByteArray bytes("Gamma\t5\n");
+    QBuffer device(&bytes);
+    device.open(QIODevice::ReadOnly);
+    EXPECT_TRUE(m_model.LoadSettingsFromDevice(&device));
+    EXPECT_FALSE(m_model.LoadSettingsFromDevice(nullptr));
+    EXPECT_EQ(writes(), (QStringList{"load @CameraDevice: Gamma\t3\nNoSuchFeature\t1\n",
+                                     "load @CameraDevice: Gamma\t5\n"}));
+    EXPECT_TRUE(logTexts().isEmpty());
+}
+
+TEST_F(ModelTest, MonoImageAndAutoFunctionsReachTheCamera)
+{
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    m_model.ActivateMonoImage();
+    m_model.DisableAutoFunctions();
+    EXPECT_EQ(text(writes()),
+              text(QStringList{"try PixelFormat = Mono8", "try PixelFormat = Mono12"} +
+                   autoFunctionWrites()));
+}
+
+TEST_F(ModelTest, ExposureTimeIsReadAndWrittenAsItIs)
+{
+    ASSERT_TRUE(open());
+    double lowest = 0.0;
+    double value = 0.0;
+    double highest = 0.0;
+    m_camera->features().forget();
+    ASSERT_TRUE(m_model.GetExposureTimeRange(lowest, value, highest));
+    EXPECT_EQ(lowest, 10.0);
+    EXPECT_EQ(value, 1000.0);
+    EXPECT_EQ(highest, 100000.0);
+    EXPECT_EQ(m_camera->features().journal(),
+              (QStringList{"read minimum of ExposureTime", "read maximum of ExposureTime",
+                           "read value of ExposureTime"}));
+    EXPECT_TRUE(m_model.SetExposureTime(123.25));
+    EXPECT_EQ(m_model.GetExposureTime(), 123.25);
+}
+
+TEST_F(ModelTest, ExposureTimeOfOldCamerasHasTheirName)
+{
+    use(oldCamera());
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.SetExposureTime(50.0));
+    EXPECT_EQ(writes(), QStringList{"ExposureTimeAbs = 50"});
+}
+
+TEST_F(ModelTest, GainPrefersTheFloatParameter)
+{
+    ASSERT_TRUE(open());
+    double lowest = 0.0;
+    double value = 0.0;
+    double highest = 0.0;
+    m_camera->features().forget();
+    ASSERT_TRUE(m_model.GetGainRange(lowest, value, highest));
+    EXPECT_EQ(highest, 24.0);
+    EXPECT_TRUE(m_model.SetGain(2.5));
+    EXPECT_EQ(m_model.GetGain(), 2.5);
+    EXPECT_EQ(m_camera->features().journal(),
+              (QStringList{"read minimum of Gain", "read maximum of Gain", "read value of Gain",
+                           "Gain = 2.5", "read value of Gain"}));
+}
+
+TEST_F(ModelTest, GainHasAnOtherNameOnSomeCameras)
+{
+    m_camera->features().remove("Gain");
+    m_camera->parameters().addFloat("GainAbs", 6.0);
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_model.GetGain(), 6.0);
+}
+
+TEST_F(ModelTest, RawGainIsScaledByAHundred)
+{
+    use(oldCamera());
+    ASSERT_TRUE(open());
+    double lowest = 0.0;
+    double value = 0.0;
+    double highest = 0.0;
+    ASSERT_TRUE(m_model.GetGainRange(lowest, value, highest));
+    EXPECT_EQ(lowest, 1.0);
+    EXPECT_EQ(value, 3.0);
+    EXPECT_EQ(highest, 24.0);
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.SetGain(5.999));
+    EXPECT_EQ(writes(), QStringList{"GainRaw = 599 verified"}) << "cut, not rounded";
+    EXPECT_EQ(m_model.GetGain(), 5.99);
+}
+
+TEST_F(ModelTest, ParametersThatCannotBeUsedGiveTheFailureValue)
+{
+    struct Case
+    {
+        QSharedPointer<FakeCamera> camera;
+        QStringList features;
+    };
+    for (const Case& one : {Case{newCamera(), {"Gain", "ExposureTime"}},
+                            Case{oldCamera(), {"GainRaw", "ExposureTimeAbs"}}}) {
+        use(one.camera);
+        ASSERT_TRUE(open());
+        for (const QString& name : one.features)
+            m_camera->features().change(name, [](FakeFeature& feature) {
+                feature.readable = false;
+                feature.writable = false;
+            });
+        double a = 7.0;
+        double b = 7.0;
+        double c = 7.0;
+        EXPECT_FALSE(m_model.GetExposureTimeRange(a, b, c));
+        EXPECT_FALSE(m_model.GetGainRange(a, b, c));
+        EXPECT_EQ(a + b + c, 21.0) << "nothing is handed out";
+        EXPECT_EQ(m_model.GetExposureTime(), -1.0);
+        EXPECT_EQ(m_model.GetGain(), -1.0);
+        EXPECT_FALSE(m_model.SetExposureTime(20.0));
+        EXPECT_FALSE(m_model.SetGain(2.0));
+        EXPECT_FALSE(m_model.StoreDetectedExposureAndGain());
+        EXPECT_TRUE(m_model.Close());
+    }
+    EXPECT_TRUE(logTexts().isEmpty());
+}
+
+TEST_F(ModelTest, ValuesThatTheCameraRefusesFailWithOneEntry)
+{
+    ASSERT_TRUE(open());
+    EXPECT_FALSE(m_model.SetExposureTime(1e9));
+    EXPECT_FALSE(m_model.SetGain(std::numeric_limits<double>::quiet_NaN()));
+    EXPECT_EQ(logTexts(),
+              (QStringList{"2 ColorCorrectionModelImpl::SetExposureTime: ExposureTime is out of "
+                           "range",
+                           "2 ColorCorrectionModelImpl::SetGain: Gain is out of range"}));
+}
+
+TEST_F(ModelTest, RestoreBeforeStoreWritesNothing)
+{
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_FALSE(m_model.RestoreDetectedExposureAndGain());
+    EXPECT_TRUE(writes().isEmpty());
+}
+
+TEST_F(ModelTest, DetectedValuesComeBackWithoutTheAutomaticFunctions)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.StoreDetectedExposureAndGain());
+    m_camera->parameters().addFloat("Gain", 20.0, 0.0, 24.0);
+    m_camera->parameters().addFloat("ExposureTime", 77.0, 10.0, 1e6);
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.RestoreDetectedExposureAndGain());
+    EXPECT_EQ(writes(), (QStringList{"try ExposureAuto = Off", "try GainAuto = Off", "Gain = 3",
+                                     "ExposureTime = 1000"}));
+}
+
+TEST_F(ModelTest, DetectedValuesAreThoseOfTheOpenCamera)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.StoreDetectedExposureAndGain());
+    ASSERT_TRUE(m_model.Close());
+    EXPECT_FALSE(m_model.RestoreDetectedExposureAndGain());
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_FALSE(m_model.RestoreDetectedExposureAndGain());
+    EXPECT_TRUE(writes().isEmpty());
+}
+
+TEST_F(ModelTest, ResultsOfTheRestoringSettersAreIgnored)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.StoreDetectedExposureAndGain());
+    m_camera->features().change("Gain", [](FakeFeature& one) { one.writable = false; });
+    EXPECT_TRUE(m_model.RestoreDetectedExposureAndGain());
+}
+
+TEST_F(ModelTest, ACameraModelSeenForTheFirstTimeGetsTheMiddleOfTheImage)
+{
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_model.GetGridPosition(), TrapezoidPoints({12, 8}, {108, 8}, {12, 72}, {108, 72}));
+}
+
+TEST_F(ModelTest, TheGridIsKeptAsSharesOfTheImagePerCameraModel)
+{
+    ASSERT_TRUE(open());
+    m_model.SetGridPosition(TrapezoidPoints({30, 20}, {90, 24}, {36, 60}, {96, 64}));
+    ASSERT_TRUE(m_model.Close());
+    QSettings settings;
+    const QString group("ColCalPlugin/GridPosition Fake 100/");
+    EXPECT_EQ(settings.value(group + "TopLeft").toPointF(), QPointF(0.25, 0.25));
+    EXPECT_EQ(settings.value(group + "TopRight").toPointF(), QPointF(0.75, 0.3));
+    EXPECT_EQ(settings.value(group + "BottomRight").toPointF(), QPointF(0.8, 0.8));
+    EXPECT_EQ(settings.value(group + "BottomLeft").toPointF(), QPointF(0.3, 0.75));
+
+    const auto another = newCamera();
+    another->parameters().addInteger("Width", 240);
+    use(another);
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_model.GetGridPosition(), TrapezoidPoints({60, 20}, {180, 24}, {72, 60}, {192, 64}))
+        << "shares carry over to another size";
+    ASSERT_TRUE(m_model.Close());
+
+    use(newCamera());
+    m_camera->model = "Fake 200";
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_model.GetGridPosition(), TrapezoidPoints({12, 8}, {108, 8}, {12, 72}, {108, 72}));
+}
+
+TEST_F(ModelTest, AGridThatCannotBeUsedFallsBackToTheMiddle)
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const QString group("ColCalPlugin/GridPosition Fake 100/");
+    for (const QVariant& bad :
+         {QVariant("nonsense"), QVariant(QPointF(nan, 0.5)), QVariant(QPointF(0.5, 1e300)),
+          QVariant(QPointF(-std::numeric_limits<double>::infinity(), 0.0))}) {
+        QSettings().setValue(group + "TopLeft", bad);
+        ASSERT_TRUE(open());
+        EXPECT_EQ(m_model.GetGridPosition().upperLeft(), QPoint(12, 8));
+        ASSERT_TRUE(m_model.Close());
+    }
+}
+
+TEST_F(ModelTest, WithoutAnImageSizeTheGridStaysAndNothingIsStored)
+{
+    const TrapezoidPoints outline({1, 2}, {3, 4}, {5, 6}, {7, 8});
+    m_model.SetGridPosition(outline);
+    m_camera->features().remove("Height");
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_model.GetGridPosition(), outline);
+    ASSERT_TRUE(m_model.Close());
+    m_camera->parameters().addInteger("Height", 0);
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.Close());
+    EXPECT_TRUE(QSettings().allKeys().isEmpty());
+    EXPECT_TRUE(logTexts().isEmpty());
+}
+
+} // namespace

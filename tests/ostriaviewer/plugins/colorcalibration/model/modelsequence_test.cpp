@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: Apache-2.0
+// Runs the wizard's order of calls and lets each call to the camera fail once.
+#include "modeltest.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <stdexcept>
+#include <tuple>
+
+namespace {
+
+enum class Fault {
+    Refusal,         ///< the call throws, the next ones work
+    Loss,            ///< the connection breaks during the call
+    LossOnItsThread, ///< the same, told by a thread of the camera's
+};
+
+class ModelSequence : public ModelTest
+{
+protected:
+    bool calibrate()
+    {
+        return open() && m_model.StopGrabbing() && m_model.CreateSettingsBackup(false) &&
+               m_model.CreateSettingsBackup(true) && m_model.SetNeutralSettings() &&
+               m_model.ExecuteWhitebalance() && (m_model.ActivateMonoImage(), true) &&
+               (m_model.DisableAutoFunctions(), true) && m_model.StoreDetectedExposureAndGain() &&
+               m_model.RestoreSettingsBackup(true) && m_model.RestoreDetectedExposureAndGain() &&
+               m_model.ApplyInitialCameraImageAndPatchValues() && m_model.SetNeutralSettings() &&
+               m_model.RestoreDetectedExposureAndGain() && m_model.ApplyInitialColorPatchValues() &&
+               m_model.ExecuteCalibrationAndApply();
+    }
+};
+
+class ModelSequenceTest : public ModelSequence,
+                          public testing::WithParamInterface<std::tuple<bool, Fault>>
+{
+protected:
+    ModelSequenceTest()
+    {
+        if (std::get<bool>(GetParam()))
+            use(oldCamera());
+    }
+
+    void fail(Fault fault)
+    {
+        if (fault == Fault::Loss)
+            m_camera->loseConnection();
+        if (fault == Fault::LossOnItsThread) {
+            std::thread camera([this] { m_camera->loseConnection(); });
+            camera.join();
+        }
+        throw std::runtime_error("fault of the test");
+    }
+
+    /// Lets one call fail. \return  whether there was one with this number
+    bool runWithFaultAt(int number, Fault fault)
+    {
+        int count = 0;
+        QSettings().clear();
+        m_camera->features().beforeCall = [&](const QString&) {
+            if (count++ == number)
+                fail(fault);
+        };
+        if (!calibrate())
+            m_model.RestoreSettingsBackup(false);
+        m_model.Close();
+        m_camera->features().beforeCall = nullptr;
+        QCoreApplication::processEvents();
+        return count > number;
+    }
+
+    /// Every entry must be one that is written down for some operation.
+    void expectKnownWords()
+    {
+        static const QStringList messages{"Error: Failed to close camera.",
+                                          "Error: Failed to grab image.",
+                                          "Error: Set neutral camera settings failed.",
+                                          "Error: Backup of camera settings failed.",
+                                          "Error: Restore of camera settings failed.",
+                                          "Calibration failed.",
+                                          "Whitebalance failed!",
+                                          "Failed to restore old grid position."};
+        static const QRegularExpression function(
+            "^ColorCorrectionModelImpl::\\w+: ?(fault of the test|The camera is closed.*|A value "
+            "for the camera is not a finite number\\.|\\w+ "
+            "(refuses to be written|cannot be read))$");
+        for (const LogEntry& entry : m_log.entries())
+            EXPECT_TRUE(entry.level == 0 || messages.contains(entry.text) ||
+                        function.match(entry.text).hasMatch())
+                << entry.text.toStdString();
+    }
+};
+
+TEST_P(ModelSequenceTest, RunsToItsEndWithoutAFault)
+{
+    EXPECT_TRUE(calibrate());
+    EXPECT_TRUE(m_model.Close());
+    EXPECT_TRUE(logTexts().isEmpty());
+}
+
+TEST_P(ModelSequenceTest, SurvivesAFaultAtEachCall)
+{
+    const Fault fault = std::get<Fault>(GetParam());
+    int number = 0;
+    bool reached = true;
+    for (; reached; ++number) {
+        SCOPED_TRACE(number);
+        ASSERT_NO_THROW(reached = runWithFaultAt(number, fault));
+        ASSERT_EQ(m_control.handles, 0);
+        ASSERT_FALSE(m_camera->open);
+        ASSERT_FALSE(m_model.StopGrabbing()) << "the model is closed";
+    }
+    EXPECT_GT(number, 100) << "the sequence has that many calls at least";
+    expectKnownWords();
+}
+
+TEST_F(ModelSequence, ARefusalLeavesTheCameraAsItWas)
+{
+    for (const auto& camera : {oldCamera(), newCamera()})
+        for (const char* feature : {"LUTSelector", "BalanceRatioSelector", "DemosaicingMode"}) {
+            use(camera);
+            ASSERT_TRUE(open());
+            QString before;
+            m_camera->parameters().saveFeatures(before, "@CameraDevice");
+            ASSERT_TRUE(m_model.Close());
+            m_camera->features().change(feature, [](FakeFeature& one) { one.refuses = true; });
+            EXPECT_FALSE(calibrate()) << feature;
+            EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+            ASSERT_TRUE(m_model.Close());
+            m_camera->features().change(feature, [](FakeFeature& one) { one.refuses = false; });
+            QString after;
+            m_camera->parameters().saveFeatures(after, "@CameraDevice");
+            EXPECT_EQ(after.toStdString(), before.toStdString()) << feature;
+        }
+}
+
+std::string nameOf(const testing::TestParamInfo<ModelSequenceTest::ParamType>& test)
+{
+    const std::string generation = std::get<bool>(test.param) ? "Old" : "New";
+    switch (std::get<Fault>(test.param)) {
+    case Fault::Refusal:
+        return generation + "Refusal";
+    case Fault::Loss:
+        return generation + "Loss";
+    default:
+        return generation + "LossOnItsThread";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cameras, ModelSequenceTest,
+                         testing::Combine(testing::Bool(),
+                                          testing::Values(Fault::Refusal, Fault::Loss,
+                                                          Fault::LossOnItsThread)),
+                         nameOf);
+
+} // namespace

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: Apache-2.0
+// "list" and "calibrate" on the emulated cameras.
+#include "calibrationsequence.h"
+#include "cameras.h"
+#include "command.h"
+#include "commandtest.h"
+#include "emulatedcamera.h"
+#include "settingsguard.h"
+
+#include <QColor>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+
+#include <ostream>
+
+using namespace ColorCalibrate;
+using Cameras::Emulation::EmulatedCamera;
+
+namespace {
+
+class CalibrateCommand : public CommandTest
+{
+protected:
+    CalibrateCommand() { QStandardPaths::setTestModeEnabled(true); }
+    ~CalibrateCommand() override { QStandardPaths::setTestModeEnabled(false); }
+
+    static QJsonArray listed()
+    {
+        const Outcome outcome = runTool({QStringLiteral("list"), QStringLiteral("--json")});
+        EXPECT_EQ(outcome.code, 0) << outcome.err;
+        return QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).array();
+    }
+
+    static QStringList namesOf(bool supported)
+    {
+        QStringList names;
+        for (const QJsonValue& camera : listed())
+            if (camera.toObject().value(QStringLiteral("supported")).toBool() == supported)
+                names.append(camera.toObject().value(QStringLiteral("name")).toString());
+        return names;
+    }
+
+    static Outcome calibrate(const QString& camera, const QStringList& options = {})
+    {
+        return runTool(
+            QStringList{QStringLiteral("calibrate"), QStringLiteral("--camera"), camera} + options);
+    }
+
+    static QJsonObject calibrateJson(const QString& camera, const QStringList& options = {})
+    {
+        const Outcome outcome = calibrate(camera, options + QStringList{QStringLiteral("--json")});
+        EXPECT_EQ(outcome.code, 0) << outcome.err;
+        return QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).object();
+    }
+};
+
+/// One camera, with the settings that it has before anybody touches them, run through the sequence.
+class FaultyCamera : public CalibrateCommand, public testing::WithParamInterface<const char*>
+{
+protected:
+    FaultyCamera()
+    {
+        m_camera = m_cameras.all().at(1).dynamicCast<EmulatedCamera>();
+        EXPECT_TRUE(m_camera->open());
+        // Bright enough to be calibrated as it stands.
+        m_camera->parameterCollection()
+            ->floatParameter(QStringLiteral("ExposureTime"))
+            ->setValue(20000.0);
+        m_model.SetCameraStatusService(m_cameras.statusService());
+        m_model.SetCameraControlService(m_cameras.controlService());
+    }
+
+    QString settings() const
+    {
+        QString text;
+        m_camera->parameterCollection()->saveFeatures(text, QStringLiteral("@CameraDevice"));
+        return text.section(QLatin1Char('\n'), 4);
+    }
+
+    QString runAndFail(const std::function<bool()>& isCancelled = [] { return false; })
+    {
+        CalibrationSequence sequence(
+            m_model, [this](const QString& step) { m_steps.append(step); }, isCancelled);
+        SequenceOptions options;
+        options.adjustExposure = false;
+        try {
+            sequence.run(m_camera, options);
+        } catch (const CommandError& error) {
+            return QString::fromUtf8(error.what());
+        }
+        return {};
+    }
+
+    ToolCameras m_cameras;
+    QSharedPointer<EmulatedCamera> m_camera;
+    ColorCalibration::ColorCorrectionModel m_model;
+    QStringList m_steps;
+};
+
+} // namespace
+
+TEST_F(CalibrateCommand, ListsCamerasThatCanAndCannotBeCalibrated)
+{
+    EXPECT_GE(namesOf(true).size(), 3);
+    EXPECT_GE(namesOf(false).size(), 1);
+    for (const QJsonValue& camera : listed())
+        EXPECT_EQ(
+            camera.toObject().keys(),
+            QStringList({QStringLiteral("backend"), QStringLiteral("model"), QStringLiteral("name"),
+                         QStringLiteral("sfnc"), QStringLiteral("supported")}));
+    const Outcome table = runTool({QStringLiteral("list")});
+    EXPECT_EQ(table.code, 0);
+    for (const QString& name : namesOf(true) + namesOf(false))
+        EXPECT_TRUE(QString::fromStdString(table.out).contains(name)) << table.out;
+}
+
+TEST_F(CalibrateCommand, BringsEveryCameraNearTheChart)
+{
+    for (const QString& camera : namesOf(true)) {
+        SCOPED_TRACE(camera.toStdString());
+        const QJsonObject json = calibrateJson(camera);
+        const auto meanDeltaE = [&](const char* when) {
+            return json.value(QLatin1String(when))
+                .toObject()
+                .value(QStringLiteral("meanDeltaE"))
+                .toDouble(1e9);
+        };
+        EXPECT_LE(meanDeltaE("after"), 3.0);
+        EXPECT_LE(meanDeltaE("after"), meanDeltaE("before") / 3.0);
+        EXPECT_EQ(json.value(QStringLiteral("camera")).toString(), camera);
+        EXPECT_EQ(json.value(QStringLiteral("grid")).toArray().size(), 4);
+        EXPECT_EQ(json.value(QStringLiteral("gamma")).toDouble(), 0.45);
+        EXPECT_EQ(json.value(QStringLiteral("whiteBalance")).toArray().size(), 3);
+    }
+}
+
+TEST_F(CalibrateCommand, KeepsGraysGray)
+{
+    for (const QString& camera : namesOf(true)) {
+        const Outcome outcome = calibrate(camera);
+        ASSERT_EQ(outcome.code, 0) << outcome.err;
+        double deltaC = 0.0;
+        int rows = 0;
+        for (const QString& line : QString::fromStdString(outcome.out).split(QLatin1Char('\n'))) {
+            const QStringList fields = line.simplified().split(QLatin1Char(' '));
+            if (fields.size() != 8 || fields.first().toInt() < 19)
+                continue;
+            deltaC += fields.last().toDouble();
+            ++rows;
+        }
+        EXPECT_EQ(rows, 6) << outcome.out;
+        EXPECT_LE(deltaC / 6.0, 1.5) << camera.toStdString();
+    }
+}
+
+TEST_F(CalibrateCommand, IsQuietWhereNobodyLooksOn)
+{
+    EXPECT_EQ(calibrate(namesOf(true).first()).err, "");
+}
+
+TEST_F(CalibrateCommand, RefusesCamerasItCannotCalibrateOrFind)
+{
+    expectFailure(calibrate(namesOf(false).first()), 1, {QStringLiteral("cannot be calibrated")});
+    expectFailure(calibrate(QStringLiteral("no such camera")), 1,
+                  {QStringLiteral("no such camera"), namesOf(true).first()});
+    expectFailure(runTool({QStringLiteral("calibrate")}), 2, {QStringLiteral("--camera")});
+    expectFailure(
+        calibrate(QStringLiteral("x"), {QStringLiteral("--exposure"), QStringLiteral("so")}), 2,
+        {QStringLiteral("--exposure")});
+    expectFailure(calibrate(QStringLiteral("x"), {QStringLiteral("--grid"), QStringLiteral("1,2")}),
+                  2, {QStringLiteral("four are expected")});
+    expectFailure(calibrate(namesOf(true).first(),
+                            {QStringLiteral("--settings"), QStringLiteral("/no/such/file.cst")}),
+                  1, {QStringLiteral("/no/such/file.cst")});
+}
+
+TEST_F(CalibrateCommand, SaysSoWhereThereIsNoChart)
+{
+    QImage scene(320, 200, QImage::Format_RGB32);
+    scene.fill(QColor(120, 140, 90));
+    ASSERT_TRUE(scene.save(path(QStringLiteral("green.png"))));
+    const QStringList green{QStringLiteral("--scene"), path(QStringLiteral("green.png"))};
+    const QStringList grid{QStringLiteral("--grid"),
+                           QStringLiteral("300,200 1600,200 300,1000 1600,1000")};
+    const QString camera = namesOf(true).first();
+    expectFailure(calibrate(camera, green + grid), 1,
+                  {QStringLiteral("settings are as they were")});
+    scene.fill(Qt::black);
+    ASSERT_TRUE(scene.save(path(QStringLiteral("black.png"))));
+    expectFailure(
+        calibrate(camera,
+                  grid + QStringList{QStringLiteral("--exposure"), QStringLiteral("keep"),
+                                     QStringLiteral("--scene"), path(QStringLiteral("black.png"))}),
+        1, {QStringLiteral("settings are as they were")});
+    expectFailure(calibrate(camera, {QStringLiteral("--grid"),
+                                     QStringLiteral("10,10 300,10 10,200 300,200")}),
+                  1, {QStringLiteral("grid"), QStringLiteral("settings are as they were")});
+}
+
+TEST_P(FaultyCamera, IsGivenBackAsItWasWhenAFeatureRefuses)
+{
+    const QString before = settings();
+    m_camera->refuseWrites(QLatin1String(GetParam()));
+    const QString message = runAndFail();
+    EXPECT_FALSE(message.isEmpty());
+    EXPECT_TRUE(message.contains(QLatin1String(GetParam()))) << message.toStdString();
+    m_camera->refuseWrites(QLatin1String(GetParam()), -1);
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+    EXPECT_TRUE(m_camera->isOpen());
+}
+
+INSTANTIATE_TEST_SUITE_P(Features, FaultyCamera,
+                         testing::Values("BlackLevel", "Gamma", "LUTEnable", "ColorAdjustmentHue",
+                                         "ColorAdjustmentSaturation", "BalanceRatio",
+                                         "DemosaicingMode"));
+
+TEST_F(FaultyCamera, IsGivenBackAsItWasWhereverItIsCancelled)
+{
+    const QString before = settings();
+    ASSERT_EQ(runAndFail().toStdString(), "");
+    const int steps = m_steps.size();
+    EXPECT_GE(steps, 12);
+    ASSERT_TRUE(m_model.RestoreSettingsBackup(false));
+    ASSERT_TRUE(m_model.Close());
+    for (int last = 0; last < steps; ++last) {
+        m_steps.clear();
+        EXPECT_EQ(runAndFail([&] { return m_steps.size() > last; }), QStringLiteral("cancelled"));
+        EXPECT_EQ(settings().toStdString(), before.toStdString()) << "after step " << last;
+    }
+}
+
+TEST_F(FaultyCamera, IsReportedWhenItsConnectionBreaksAtAnyImage)
+{
+    for (int images = 1; images <= 5; ++images) {
+        m_camera->faults().loseConnectionAfter(images);
+        const QString message = runAndFail();
+        EXPECT_FALSE(message.isEmpty()) << images;
+        EXPECT_FALSE(m_camera->isOpen());
+        m_camera->reconnect();
+        ASSERT_TRUE(m_camera->open());
+        m_camera->parameterCollection()
+            ->floatParameter(QStringLiteral("ExposureTime"))
+            ->setValue(20000.0);
+    }
+}
+
+TEST_F(FaultyCamera, IsReportedWhenItDeliversNothing)
+{
+    const QString before = settings();
+    m_camera->faults().loseFrames(-1);
+    EXPECT_TRUE(runAndFail().contains(QLatin1String("delivered no image")));
+    m_camera->faults().loseFrames(0);
+    m_camera->faults().failFrames(-1);
+    EXPECT_TRUE(runAndFail().contains(QLatin1String("delivered no image")));
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+TEST_F(FaultyCamera, IsRefusedWhileSomebodyElseHasIt)
+{
+    const auto handle = m_camera->takeExclusiveAccess();
+    ASSERT_TRUE(handle);
+    EXPECT_TRUE(runAndFail().contains(QLatin1String("another program")));
+}
+
+TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)
+{
+    m_camera->close();
+    SettingsGuard guard(m_camera);
+    EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were")));
+    const auto gamma = m_camera->parameterCollection()->floatParameter(QStringLiteral("Gamma"));
+    const double before = gamma->value();
+    gamma->setValue(before + 0.5);
+    EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were")));
+    EXPECT_EQ(gamma->value(), before);
+    gamma->setValue(before + 0.5);
+    m_camera->refuseWrites(QStringLiteral("Gamma"));
+    const QString remark = guard.restore();
+    EXPECT_TRUE(remark.contains(QLatin1String("COULD NOT BE RESTORED"))) << remark.toStdString();
+    EXPECT_TRUE(remark.contains(QLatin1String("Gamma"))) << remark.toStdString();
+    m_camera->loseConnection();
+    EXPECT_TRUE(guard.restore().contains(QLatin1String("COULD NOT BE RESTORED")));
+}
