@@ -54,32 +54,6 @@ bool isKnownFormat(const QByteArray& format)
     return format == "png" || format == "tiff" || format == "jpeg" || format == "bmp";
 }
 
-QImage decode(QByteArray& data, const QString& fileName)
-{
-    const DecoderOutput silenced;
-    QBuffer buffer(&data);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QByteArray format = reader.canRead() ? reader.format() : QByteArray();
-    if (!isKnownFormat(format))
-        fail(fileName, QStringLiteral("this is no image of a known format; PNG, TIFF, JPEG and BMP "
-                                      "are read"));
-    const QSize size = reader.size();
-    if (qint64{size.width()} * size.height() > mostPixels)
-        fail(fileName, QStringLiteral("the image of %1 x %2 pixels is too large")
-                           .arg(size.width())
-                           .arg(size.height()));
-    const QImage image = reader.read();
-    if (image.isNull())
-        fail(fileName,
-             QStringLiteral("the image is damaged or truncated (%1)").arg(reader.errorString()));
-    if (!isComplete(data, format))
-        fail(fileName, QStringLiteral("the image is truncated"));
-    return image;
-}
-
 bool isTransparent(const QImage& image)
 {
     if (!image.hasAlphaChannel())
@@ -151,8 +125,33 @@ bool hasSixteenBits(const QImage& image)
 
 QImage readImage(const QString& fileName)
 {
-    QByteArray data = readFile(fileName);
-    return decode(data, fileName);
+    return readImageData(readFile(fileName), fileName);
+}
+
+QImage readImageData(QByteArray data, const QString& name)
+{
+    const DecoderOutput silenced;
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    const QByteArray format = reader.canRead() ? reader.format() : QByteArray();
+    if (!isKnownFormat(format))
+        fail(name, QStringLiteral("this is no image of a known format; PNG, TIFF, JPEG and BMP "
+                                  "are read"));
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > mostPixels)
+        fail(name, QStringLiteral("the image of %1 x %2 pixels is too large")
+                       .arg(size.width())
+                       .arg(size.height()));
+    const QImage image = reader.read();
+    if (image.isNull())
+        fail(name,
+             QStringLiteral("the image is damaged or truncated (%1)").arg(reader.errorString()));
+    if (!isComplete(data, format))
+        fail(name, QStringLiteral("the image is truncated"));
+    return image;
 }
 
 COstriaImage toCameraImage(const QImage& image, const QString& fileName)

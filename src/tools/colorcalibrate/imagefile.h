@@ -4,6 +4,7 @@
 
 #include "ostriaimage.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -14,6 +15,11 @@ namespace ColorCalibrate {
 /// \throws CommandError  naming the file and what is wrong: it cannot be opened, is no image, is
 ///         truncated, or has more than 2^28 pixels or 2^30 bytes
 QImage readImage(const QString& fileName);
+
+/// The same of a file's content.
+/// \param name  of the file, for messages
+/// \throws CommandError  as above, as far as it concerns the content
+QImage readImageData(QByteArray data, const QString& name);
 
 /// The image at its own bit depth, RGB8 or RGB16, for measuring.
 /// \param fileName  for messages

@@ -199,7 +199,7 @@ TEST_F(ComputeCommand, PrintsWhatTheReadmeShows)
     QFile readme(QStringLiteral(EXAMPLES_DIR "/../README.md"));
     ASSERT_TRUE(readme.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(readme.readAll());
-    const QString sample = text.section(QStringLiteral("```"), 3, 3);
+    const QString sample = text.section(QStringLiteral("```"), 7, 7);
     QFile gridFile(QStringLiteral(EXAMPLES_DIR "/chart-16bit.grid"));
     ASSERT_TRUE(gridFile.open(QIODevice::ReadOnly));
     const Outcome measured =

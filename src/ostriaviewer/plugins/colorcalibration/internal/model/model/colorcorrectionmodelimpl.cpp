@@ -125,8 +125,12 @@ void ColorCorrectionModelImpl::attachHandle(const CameraPtr& camera, const Camer
     connect(m_justify.get(), &CameraJustify::AutoBrightnessFinished, this,
             &ColorCorrectionModelImpl::AutoAdjustGray80PercentPatchFinished);
     connectParameterSignals();
-    connect(handle.data(), &ICamera::cameraConnectionLost, this,
-            &ColorCorrectionModelImpl::onConnectionLost);
+    // The news may still be under way when this camera is closed and the next one is open.
+    const unsigned opening = ++m_openings;
+    connect(handle.data(), &ICamera::cameraConnectionLost, this, [this, opening] {
+        if (opening == m_openings)
+            onConnectionLost();
+    });
     restoreLastGridPosition();
 }
 

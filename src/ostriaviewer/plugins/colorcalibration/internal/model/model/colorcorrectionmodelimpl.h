@@ -16,6 +16,7 @@
 #include <QRecursiveMutex>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 
 namespace ColorCalibration {
@@ -122,6 +123,7 @@ private:
     QPointer<ConvertingImageCamera> m_imageCamera;
     bool m_attachedToOpenCamera = false;
     bool m_connectionLost = false;
+    std::atomic_uint m_openings{0};
     std::shared_ptr<CameraJustify> m_justify;
     /// Guards the pointer m_justify alone, for those who must not wait for a grab.
     mutable QMutex m_justifyMutex;
