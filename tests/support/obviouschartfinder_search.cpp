@@ -46,11 +46,85 @@ QPoint truncated(float x, float y)
     return {static_cast<int>(x), static_cast<int>(y)};
 }
 
+QVector<QPoint> samplePoints(int x, int y, int p)
+{
+    QVector<QPoint> points;
+    for (int r = -1; r <= 1; ++r)
+        for (int c = -1; c <= 1; ++c)
+            points.append(truncated(roundf(float(p) * float(c) + float(x)),
+                                    roundf(float(p) * float(r) + float(y))));
+    return points;
+}
+
+std::vector<float> valuesAt(const dlib::matrix<float>& values, const QVector<QPoint>& points)
+{
+    std::vector<float> result;
+    for (const QPoint& point : points)
+        result.push_back(values(point.x(), point.y()));
+    return result;
+}
+
 float distance(const QPoint& a, const QPoint& b)
 {
     return static_cast<float>(
         std::sqrt(std::pow(double(a.x() - b.x()), 2) + std::pow(double(a.y() - b.y()), 2)));
 }
+
+const int Row[9] = {0, 2, 2, 3, 3, 1, 1, 0, 2};
+const int Column[9] = {1, 3, 1, 0, 1, 0, 5, 5, 5};
+
+/// The nine slots of the walk over the chart, and the model of the grid that was fitted last.
+class Walk
+{
+public:
+    explicit Walk(const QVector<QPoint>& block)
+    {
+        for (int k = 0; k < 9; ++k)
+            store(k, block[k]);
+    }
+
+    void store(int k, const QPoint& point)
+    {
+        m_x[k] = float(point.x());
+        m_y[k] = float(point.y());
+    }
+
+    QPoint slot(int k) const { return truncated(m_x[k], m_y[k]); }
+
+    void fit(int count)
+    {
+        dlib::matrix<float> M(count, count < 5 ? 3 : 4);
+        dlib::matrix<float> x(count, 1);
+        dlib::matrix<float> y(count, 1);
+        for (int k = 0; k < count; ++k) {
+            dlib::set_rowm(M, k) = terms(Row[k], Column[k], M.nc());
+            x(k) = m_x[k];
+            y(k) = m_y[k];
+        }
+        const dlib::matrix<float> W = dlib::pinv(M);
+        m_cx = W * x;
+        m_cy = W * y;
+    }
+
+    QPoint predict(int row, int column) const
+    {
+        const dlib::matrix<float> q = terms(row, column, m_cx.nr());
+        return truncated(dlib::matrix<float>(q * m_cx)(0), dlib::matrix<float>(q * m_cy)(0));
+    }
+
+private:
+    static dlib::matrix<float> terms(int row, int column, long columns)
+    {
+        dlib::matrix<float> q(1, 4);
+        q = 1, float(row), float(column), float(row * column);
+        return dlib::colm(q, dlib::range(0, columns - 1));
+    }
+
+    float m_x[9] = {};
+    float m_y[9] = {};
+    dlib::matrix<float> m_cx;
+    dlib::matrix<float> m_cy;
+};
 
 } // namespace
 
@@ -73,19 +147,9 @@ QVector<QPoint> findAnchorBlock(const QImage& image)
         const int e = static_cast<int>(std::round(1.5 * p));
         for (int x = 2 * p; x < w - 2 * p; x += q) {
             for (int y = e; y < h - e; y += q) {
-                QVector<QPoint> points;
-                std::vector<float> a;
-                std::vector<float> b;
-                for (int r = -1; r <= 1; ++r) {
-                    for (int c = -1; c <= 1; ++c) {
-                        const float px = roundf(float(p) * float(c) + float(x));
-                        const float py = roundf(float(p) * float(r) + float(y));
-                        points.append(truncated(px, py));
-                        a.push_back(A(points.last().x(), points.last().y()));
-                        b.push_back(B(points.last().x(), points.last().y()));
-                    }
-                }
-                const float score = similarity(a, ratiosA) * similarity(b, ratiosB);
+                const QVector<QPoint> points = samplePoints(x, y, p);
+                const float score = similarity(valuesAt(A, points), ratiosA) *
+                                    similarity(valuesAt(B, points), ratiosB);
                 if (score > bestScore) {
                     bestScore = score;
                     best = points;
@@ -126,69 +190,27 @@ QPoint seekPatchCenter(const QImage& image, QPoint start, double radius, int sig
 QVector<QPoint> fitPatchCenters(const QImage& image, const QVector<QPoint>& block)
 {
     const QImage G = keepChannel(Green, image);
-    const int row[9] = {0, 2, 2, 3, 3, 1, 1, 0, 2};
-    const int column[9] = {1, 3, 1, 0, 1, 0, 5, 5, 5};
-    float X[9];
-    float Y[9];
-    const auto store = [&](int slot, const QPoint& point) {
-        X[slot] = float(point.x());
-        Y[slot] = float(point.y());
-    };
-    const auto slot = [&](int k) {
-        return truncated(X[k], Y[k]);
-    };
-    for (int k = 0; k < 9; ++k)
-        store(k, block[k]);
     const float twoDiagonals = std::sqrt(2.0F) + std::sqrt(2.0F);
+    Walk walk(block);
 
     const double r0 = 0.5 * distance(block[0], block[1]);
-    store(0, seekPatchCenter(G, block[0], r0, 1, 1));
-    store(1, seekPatchCenter(G, block[8], r0, 1, 1));
-    const float p1 = distance(slot(0), slot(1)) / twoDiagonals;
+    walk.store(0, seekPatchCenter(G, block[0], r0, 1, 1));
+    walk.store(1, seekPatchCenter(G, block[8], r0, 1, 1));
+    const float p1 = distance(walk.slot(0), walk.slot(1)) / twoDiagonals;
     const int longRays = static_cast<int>(std::round(0.4 * p1));
-    store(0, seekPatchCenter(G, slot(0), 0.5 * p1, 1, longRays));
-    store(1, seekPatchCenter(G, slot(1), 0.5 * p1, 1, longRays));
-    const float p2 = distance(slot(0), slot(1)) / twoDiagonals;
+    walk.store(0, seekPatchCenter(G, walk.slot(0), 0.5 * p1, 1, longRays));
+    walk.store(1, seekPatchCenter(G, walk.slot(1), 0.5 * p1, 1, longRays));
+    const float p2 = distance(walk.slot(0), walk.slot(1)) / twoDiagonals;
     const double R = 0.5 * p2;
-    store(2, seekPatchCenter(G, block[6], R, 1, 1));
-
-    dlib::matrix<float> cx;
-    dlib::matrix<float> cy;
+    walk.store(2, seekPatchCenter(G, block[6], R, 1, 1));
     for (int i = 3; i <= 8; ++i) {
-        dlib::matrix<float> M(i, i < 5 ? 3 : 4);
-        dlib::matrix<float> x(i, 1);
-        dlib::matrix<float> y(i, 1);
-        for (int k = 0; k < i; ++k) {
-            M(k, 0) = 1;
-            M(k, 1) = float(row[k]);
-            M(k, 2) = float(column[k]);
-            if (i >= 5)
-                M(k, 3) = float(row[k] * column[k]);
-            x(k) = X[k];
-            y(k) = Y[k];
-        }
-        const dlib::matrix<float> W = dlib::pinv(M);
-        cx = W * x;
-        cy = W * y;
-        dlib::matrix<float> q(1, cx.nr());
-        q(0) = 1;
-        q(1) = float(row[i]);
-        q(2) = float(column[i]);
-        if (i >= 5)
-            q(3) = float(row[i] * column[i]);
-        const QPoint predicted =
-            truncated(dlib::matrix<float>(q * cx)(0), dlib::matrix<float>(q * cy)(0));
-        store(i, seekPatchCenter(G, predicted, R, 1, 1));
+        walk.fit(i);
+        walk.store(i, seekPatchCenter(G, walk.predict(Row[i], Column[i]), R, 1, 1));
     }
 
     QVector<QPoint> centers;
-    for (int index = 0; index < 24; ++index) {
-        const int r = index / 6;
-        const int c = index % 6;
-        dlib::matrix<float> q(1, 4);
-        q = 1, float(r), float(c), float(r * c);
-        centers.append(truncated(dlib::matrix<float>(q * cx)(0), dlib::matrix<float>(q * cy)(0)));
-    }
+    for (int index = 0; index < 24; ++index)
+        centers.append(walk.predict(index / 6, index % 6));
     return centers;
 }
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // Which position the chart finder's scan keeps, and how it walks from there over the chart.
+#include "anchorsearch.h"
 #include "chartfinderalgorithm.h"
 
 #include "chartscene.h"
 #include "charttargets.h"
 
+#include <QPolygonF>
 #include <QTransform>
 
 #include <gtest/gtest.h>
@@ -74,6 +76,16 @@ double distance(const QPoint& a, const QPoint& b)
 }
 
 } // namespace
+
+TEST(ByteRatio, IsTheRoundedQuotientAndOneWithoutADenominator)
+{
+    EXPECT_EQ(byteRatio(51, 102), 0.5F);
+    EXPECT_EQ(byteRatio(0, 7), 0.0F);
+    EXPECT_EQ(byteRatio(255, 1), 255.0F);
+    EXPECT_FLOAT_EQ(byteRatio(1, 3), 1.0F / 3.0F);
+    EXPECT_EQ(byteRatio(200, 0), 1.0F);
+    EXPECT_EQ(byteRatio(0, 0), 1.0F);
+}
 
 TEST(FindAnchorBlock, FindsTheBlockAmongNothingElse)
 {
@@ -191,6 +203,29 @@ TEST(FitPatchCenters, FindsAllPatchesFromARoughBlock)
         for (int patch = 0; patch < 24; ++patch)
             EXPECT_LT(distance(centers[patch], straightCenter(patch)), 6.0) << patch;
     }
+}
+
+TEST(FitPatchCenters, FollowsColumnsThatSpread)
+{
+    // From 53 pixels a column above to 60 below: row and column act together, which an affine
+    // grid cannot follow.
+    ChartScene::Scene scene = straightScene();
+    scene.corners = {QPointF(120, 80), QPointF(440, 80), QPointF(100, 320), QPointF(460, 320)};
+    QTransform toImage;
+    ASSERT_TRUE(QTransform::quadToQuad(
+        QPolygonF({{0, 0}, {6, 0}, {6, 4}, {0, 4}}),
+        QPolygonF({scene.corners[0], scene.corners[1], scene.corners[3], scene.corners[2]}),
+        toImage));
+    const auto center = [&toImage](int patch) {
+        return toImage.map(QPointF(patch % 6 + 0.5, patch / 6 + 0.5)).toPoint();
+    };
+    QVector<QPoint> block;
+    for (int i = 0; i < 9; ++i)
+        block.append(center(i / 3 * 6 + i % 3 + 1));
+    const QImage smoothed = algorithm.boxBlur(ChartScene::render(scene), 5);
+    const QVector<QPoint> centers = algorithm.fitPatchCenters(smoothed, block);
+    for (int patch = 0; patch < 24; ++patch)
+        EXPECT_LT(distance(centers[patch], center(patch)), 9.0) << patch;
 }
 
 TEST(FitPatchCenters, PaysNoHeedToPatch17)
