@@ -4,6 +4,7 @@
 
 #include "colorcorrectionautochartfinder.h"
 #include "commandline.h"
+#include "grid.h"
 #include "gridpicture.h"
 #include "imagefile.h"
 #include "jsontext.h"
@@ -74,15 +75,12 @@ void findCommand(const QStringList& arguments, const Streams& streams)
 
     if (line.isSet(QStringLiteral("json")))
         streams.out << toJsonText(toJson(found, milliseconds)).toStdString() << "\n";
-    if (!found.valid)
-        throw CommandError(
-            QStringLiteral("%1: no chart was found; it must stand upright and fill a good part of "
-                           "the image")
-                .arg(line.positional(0)));
+    // Painted also where it is refused: then a look at it tells why.
     if (line.isSet(QStringLiteral("draw")))
         saveGridPicture(picture,
                         {found.upperLeft, found.upperRight, found.lowerLeft, found.lowerRight},
                         line.value(QStringLiteral("draw")));
+    toGrid(found, picture.size());
     if (!line.isSet(QStringLiteral("json")))
         streams.out << gridText(found) << "\n";
 }

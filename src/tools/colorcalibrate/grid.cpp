@@ -49,7 +49,8 @@ double turn(const QPoint& a, const QPoint& b, const QPoint& c)
     return abX * bcY - abY * bcX;
 }
 
-void requireShape(const TrapezoidPoints& grid, const QString& text)
+/// What is wrong with an outline, empty if nothing is.
+QString shapeProblem(const TrapezoidPoints& grid)
 {
     const std::array<QPoint, 4> round{grid.upperLeft(), grid.upperRight(), grid.lowerRight(),
                                       grid.lowerLeft()};
@@ -64,14 +65,14 @@ void requireShape(const TrapezoidPoints& grid, const QString& text)
         return value < 0.0;
     };
     if (std::any_of(turns.begin(), turns.end(), zero))
-        failGrid(text, QStringLiteral("has three corners on one line, which leaves patches "
-                                      "without area"));
+        return QStringLiteral("has three corners on one line, which leaves patches without area");
     if (std::all_of(turns.begin(), turns.end(), negative))
-        failGrid(text, QStringLiteral("is mirrored; the order is upper left, upper right, lower "
-                                      "left, lower right"));
+        return QStringLiteral("is mirrored; the order is upper left, upper right, lower left, "
+                              "lower right");
     if (std::any_of(turns.begin(), turns.end(), negative))
-        failGrid(text, QStringLiteral("crosses itself or is dented; the order is upper left, upper "
-                                      "right, lower left, lower right"));
+        return QStringLiteral("crosses itself or is dented; the order is upper left, upper right, "
+                              "lower left, lower right");
+    return {};
 }
 
 } // namespace
@@ -87,7 +88,9 @@ TrapezoidPoints parseGrid(const QString& text)
     for (const QString& word : words)
         points.append(parsePoint(word, text));
     const TrapezoidPoints grid(points.at(0), points.at(1), points.at(2), points.at(3));
-    requireShape(grid, text);
+    const QString problem = shapeProblem(grid);
+    if (!problem.isEmpty())
+        failGrid(text, problem);
     return grid;
 }
 
@@ -111,14 +114,29 @@ void requireInside(const TrapezoidPoints& grid, const QSize& image)
     }
 }
 
+TrapezoidPoints toGrid(const ColorCalibration::ColorCorrectionAutoChartFinderResult& found,
+                       const QSize& image)
+{
+    const TrapezoidPoints grid(found.upperLeft, found.upperRight, found.lowerLeft,
+                               found.lowerRight);
+    if (found.valid && shapeProblem(grid).isEmpty())
+        return grid;
+    constexpr double tallest = 3.0;
+    const bool isTall = image.height() > tallest * image.width();
+    throw CommandError(
+        isTall ? QStringLiteral("no chart was found in the image of %1 x %2 pixels; images so tall "
+                                "are not searched, cut it to what shows the chart")
+                     .arg(image.width())
+                     .arg(image.height())
+               : QStringLiteral("no chart was found in the image; it must stand upright and be at "
+                                "least a fifth of the image wide, or give its corners by hand"));
+}
+
 TrapezoidPoints findGrid(const QImage& image)
 {
-    const auto found = ColorCalibration::ColorCorrectionAutoChartFinder().findChart(
-        image.convertToFormat(QImage::Format_RGB32));
-    if (!found.valid)
-        throw CommandError(QStringLiteral("no chart was found in the image; it must stand upright "
-                                          "and fill a good part of it, or give its corners"));
-    return {found.upperLeft, found.upperRight, found.lowerLeft, found.lowerRight};
+    return toGrid(ColorCalibration::ColorCorrectionAutoChartFinder().findChart(
+                      image.convertToFormat(QImage::Format_RGB32)),
+                  image.size());
 }
 
 } // namespace ColorCalibrate

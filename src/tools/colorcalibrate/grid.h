@@ -2,6 +2,7 @@
 // The grid's outline as the user writes it.
 #pragma once
 
+#include "colorcorrectionautochartfinderresult.h"
 #include "trapezoidpoints.h"
 
 #include <QImage>
@@ -18,6 +19,12 @@ ColorCalibration::TrapezoidPoints parseGrid(const QString& text);
 
 /// \throws CommandError  a corner lies outside an image of this size
 void requireInside(const ColorCalibration::TrapezoidPoints& grid, const QSize& image);
+
+/// The corners that the chart finder has found.
+/// \param image  size of the image that was searched, for the message
+/// \throws CommandError  they are not valid, or cross or dent the outline
+ColorCalibration::TrapezoidPoints
+toGrid(const ColorCalibration::ColorCorrectionAutoChartFinderResult& found, const QSize& image);
 
 /// Looks for the chart in the image, as the wizard does.
 /// \throws CommandError  no chart was found

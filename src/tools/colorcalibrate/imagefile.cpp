@@ -145,6 +145,8 @@ QImage readImageData(QByteArray data, const QString& name)
         fail(name, QStringLiteral("the image of %1 x %2 pixels is too large")
                        .arg(size.width())
                        .arg(size.height()));
+    if (!isCheapToDecode(data, format))
+        fail(name, QStringLiteral("the image is stored in more passes than any camera writes"));
     const QImage image = reader.read();
     if (image.isNull())
         fail(name,

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Whether an image file has been cut off, for the formats whose decoders do not mind.
+// What the decoders do not mind: image files that were cut off, or are made to take minutes.
 #include "imagefilecompleteness.h"
 
 #include <QtEndian>
@@ -16,9 +16,17 @@ bool isRestartOrStuffing(uchar marker)
     return marker == 0x00 || marker == 0xFF || (marker >= 0xD0 && marker <= 0xD7);
 }
 
-/// Walks from marker to marker, so that an end inside of an embedded thumbnail does not count.
-bool isCompleteJpeg(const QByteArray& data)
+/// What a walk from marker to marker finds; what an embedded thumbnail holds does not count.
+struct JpegWalk
 {
+    bool reachesTheEnd = false;
+    int scans = 0;
+};
+
+JpegWalk walkJpeg(const QByteArray& data)
+{
+    constexpr uchar startOfScan = 0xDA;
+    JpegWalk walk;
     int at = 2; // behind the start of image
     while (at + 1 < data.size()) {
         const auto marker = static_cast<uchar>(data.at(at + 1));
@@ -26,13 +34,13 @@ bool isCompleteJpeg(const QByteArray& data)
             ++at;
             continue;
         }
-        if (marker == endOfImage)
-            return true;
-        if (at + 4 > data.size())
-            return false;
+        walk.scans += marker == startOfScan ? 1 : 0;
+        walk.reachesTheEnd = marker == endOfImage;
+        if (walk.reachesTheEnd || at + 4 > data.size())
+            return walk;
         at += 2 + qFromBigEndian<quint16>(data.constData() + at + 2);
     }
-    return false;
+    return walk;
 }
 
 /// What a BMP header says of the pixels behind it.
@@ -80,12 +88,18 @@ bool isCompletePng(const QByteArray& data)
 bool isComplete(const QByteArray& data, const QByteArray& format)
 {
     if (format == "jpeg")
-        return isCompleteJpeg(data);
+        return walkJpeg(data).reachesTheEnd;
     if (format == "bmp")
         return isCompleteBmp(data);
     if (format == "png")
         return isCompletePng(data);
     return true;
+}
+
+bool isCheapToDecode(const QByteArray& data, const QByteArray& format)
+{
+    constexpr int mostScans = 100;
+    return format != "jpeg" || walkJpeg(data).scans <= mostScans;
 }
 
 } // namespace ColorCalibrate

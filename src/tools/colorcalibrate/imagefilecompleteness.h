@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Whether an image file has been cut off, for the formats whose decoders do not mind.
+// What the decoders do not mind: image files that were cut off, or are made to take minutes.
 #pragma once
 
 #include <QByteArray>
@@ -12,5 +12,9 @@ namespace ColorCalibrate {
 /// \param format  as QImageReader names it; all but "jpeg", "bmp" and "png" are complete if they
 ///                decode
 bool isComplete(const QByteArray& data, const QByteArray& format);
+
+/// A JPEG file may ask for any number of passes over all its pixels, each of a few bytes: a small
+/// file then takes minutes. Files of cameras have a dozen at most.
+bool isCheapToDecode(const QByteArray& data, const QByteArray& format);
 
 } // namespace ColorCalibrate

@@ -199,6 +199,15 @@ TEST_F(ImageFile, IsNotFooledByTheEndOfAThumbnail)
     expectRefused(writeFile(QStringLiteral("cut.jpg"), content), "truncated");
 }
 
+TEST_F(ImageFile, RefusesAJpegMadeToTakeMinutes)
+{
+    // The same scan header again and again, before the end.
+    QByteArray content = contentOf(writeChart(QStringLiteral("a.jpg"), QImage::Format_RGB32, 256));
+    const QByteArray scan("\xFF\xDA\x00\x08\x01\x01\x00\x01\x05\x00", 10);
+    content.insert(content.size() - 2, scan.repeated(200));
+    expectRefused(writeFile(QStringLiteral("slow.jpg"), content), "passes");
+}
+
 TEST_F(ImageFile, TurnsAPhotographAsItsDataAsks)
 {
     QImage image(20, 10, QImage::Format_RGB32);
