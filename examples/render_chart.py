@@ -3,12 +3,16 @@
 """Renders the example picture: a chart as an uncalibrated camera sees it.
 
 usage: examples/render_chart.py            writes chart-16bit.png and chart-16bit.grid beside itself
+       examples/render_chart.py --corners "x,y x,y x,y x,y" --scale S --srgb FILE.png
+                                           writes another view of the chart, at S times the size
+                                           and with the curve that screens expect
 
 The picture is what a 12-bit camera with neutral settings delivers in a 16-bit file: linear, with
 the colours mixed by overlapping filters, under a light with a cast that falls off to one side,
 darker towards the corners, and noisy. The chart is turned a little and seen at an angle.
 """
 
+import argparse
 import math
 import random
 import struct
@@ -90,23 +94,32 @@ def camera_counts(colour, share, noise):
     return counts
 
 
-def render():
+def srgb_curve(count):
+    """12-bit counts with the sRGB curve."""
+    value = count / 4096.0
+    encoded = value * 12.92 if value <= 0.0031308 else 1.055 * value ** (1 / 2.4) - 0.055
+    return min(4095, round(encoded * 4096.0))
+
+
+def render(corners, scale, curve):
     noise = random.Random(SEED)
-    m = homography(CORNERS)
+    m = homography(corners)
     samples = ((0.25, 0.25), (0.75, 0.25), (0.25, 0.75), (0.75, 0.75))
     rows = []
-    for y in range(HEIGHT):
+    for row_index in range(int(HEIGHT * scale)):
+        y = row_index / scale
         row = bytearray(b"\0")
-        for x in range(WIDTH):
+        for column_index in range(int(WIDTH * scale)):
+            x = column_index / scale
             total = [0.0, 0.0, 0.0]
             for sx, sy in samples:
-                px, py = x + sx, y + sy
+                px, py = x + sx / scale, y + sy / scale
                 w = m[6] * px + m[7] * py + m[8]
                 colour = scene_colour((m[0] * px + m[1] * py + m[2]) / w,
                                       (m[3] * px + m[4] * py + m[5]) / w)
                 total = [t + c / 4.0 for t, c in zip(total, colour)]
             for count in camera_counts(total, light_at(x, y), noise):
-                row += struct.pack(">H", count << 4)
+                row += struct.pack(">H", curve(count) << 4)
         rows.append(bytes(row))
     return b"".join(rows)
 
@@ -116,14 +129,27 @@ def chunk(kind, data):
     return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
 
 
-def main():
-    here = Path(__file__).resolve().parent
-    header = struct.pack(">IIBBBBB", WIDTH, HEIGHT, 16, 2, 0, 0, 0)
-    pixels = zlib.compress(render(), 9)
-    (here / "chart-16bit.png").write_bytes(
+def write_png(path, corners, scale, curve):
+    size = int(WIDTH * scale), int(HEIGHT * scale)
+    header = struct.pack(">IIBBBBB", *size, 16, 2, 0, 0, 0)
+    pixels = zlib.compress(render(corners, scale, curve), 9)
+    path.write_bytes(
         b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", pixels) + chunk(b"IEND", b""))
-    grid = " ".join(f"{x},{y}" for x, y in CORNERS)
-    (here / "chart-16bit.grid").write_text(grid + "\n", encoding="utf-8")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("file", nargs="?", type=Path)
+    parser.add_argument("--corners", default=" ".join(f"{x},{y}" for x, y in CORNERS))
+    parser.add_argument("--scale", type=float, default=1.0)
+    parser.add_argument("--srgb", action="store_true")
+    options = parser.parse_args()
+    corners = [tuple(float(value) for value in point.split(",")) for point in options.corners.split()]
+    here = Path(__file__).resolve().parent
+    curve = srgb_curve if options.srgb else int
+    write_png(options.file or here / "chart-16bit.png", corners, options.scale, curve)
+    if not options.file:
+        (here / "chart-16bit.grid").write_text(options.corners + "\n", encoding="utf-8")
 
 
 if __name__ == "__main__":
