@@ -33,9 +33,10 @@ function(ostria_add_executable name)
     add_dependencies(programs ${name})
 endfunction()
 
-# A GoogleTest program; each of its tests becomes one ctest entry.
+# A GoogleTest program; each of its tests becomes one ctest entry. The label "realtime" keeps its
+# tests out of runs under sanitizers, SERIAL lets each run alone.
 function(ostria_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS;LABELS;ENVIRONMENT")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL" "" "SOURCES;DEPS;LABELS;ENVIRONMENT")
     _ostria_check_arguments(arg)
     if(NOT arg_LABELS)
         set(arg_LABELS unit)
@@ -53,7 +54,8 @@ function(ostria_add_test name)
         ${arg_ENVIRONMENT})
     gtest_discover_tests(${name}
         DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}")
+        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}"
+            RUN_SERIAL "${arg_SERIAL}")
 endfunction()
 
 # A Google Benchmark program.
