@@ -77,16 +77,6 @@ double distance(const QPoint& a, const QPoint& b)
 
 } // namespace
 
-TEST(ByteRatio, IsTheRoundedQuotientAndOneWithoutADenominator)
-{
-    EXPECT_EQ(byteRatio(51, 102), 0.5F);
-    EXPECT_EQ(byteRatio(0, 7), 0.0F);
-    EXPECT_EQ(byteRatio(255, 1), 255.0F);
-    EXPECT_FLOAT_EQ(byteRatio(1, 3), 1.0F / 3.0F);
-    EXPECT_EQ(byteRatio(200, 0), 1.0F);
-    EXPECT_EQ(byteRatio(0, 0), 1.0F);
-}
-
 TEST(FindAnchorBlock, FindsTheBlockAmongNothingElse)
 {
     QImage image = uniform(QSize(640, 480), QColor(90, 90, 90));
