@@ -5,7 +5,7 @@
 #include "anchorsearch.h"
 #include "patchcolors.h"
 #include "patchseeker.h"
-#include "saturated.h"
+#include "truncate.h"
 
 #include <array>
 #include <cmath>
@@ -82,7 +82,7 @@ public:
 
     QPoint at(const Cell& cell) const
     {
-        return {saturatedInt(evaluate(m_x, cell)), saturatedInt(evaluate(m_y, cell))};
+        return {truncateToInt(evaluate(m_x, cell)), truncateToInt(evaluate(m_y, cell))};
     }
 
 private:
@@ -115,7 +115,7 @@ QVector<QPoint> fitPatchCenters(const RgbBytes& image, const QVector<QPoint>& bl
 
     // Once more with the longer rays alone.
     const float pitch = diagonalPitch(points[0], points[1]);
-    const int longRays = saturatedInt(std::round(0.4 * pitch));
+    const int longRays = truncateToInt(std::round(0.4 * pitch));
     points[0] = seek(points[0], 0.5 * pitch, longRays);
     points[1] = seek(points[1], 0.5 * pitch, longRays);
 

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "rgbbytes.h"
-#include "saturated.h"
+#include "truncate.h"
 
 #include <QImage>
 #include <QPoint>
+
+#include <cmath>
 
 namespace ColorCalibration {
 
@@ -76,7 +78,7 @@ float weightedRaySum(const Green& green, QPoint start, int stepY, int stepX, int
 template <typename Green>
 QPoint seekPatchCenter(const Green& green, QPoint start, double radius, int sign, int firstStep)
 {
-    const qint64 last = qMin(saturatedInt(std::round(radius)), MaxSeekRadius);
+    const qint64 last = qMin(truncateToInt(std::round(radius)), MaxSeekRadius);
     QPoint point = start;
     const auto climb = [sign](float before, float after, int position) {
         if (before == after)
