@@ -158,6 +158,14 @@ TEST(FindAnchorBlock, ExaminesNothingWhereTheLargestPitchIsNotAboveTwentyPixels)
               blockAt(QPoint(40, 30), 20));
 }
 
+TEST(FindAnchorBlock, FindsNothingWhereNoScoreIsAboveTheOneToBeginWith)
+{
+    // Without red or without blue a correlation is 0 / 0.
+    const QVector<QPoint> none(9, QPoint(0, 0));
+    for (const QColor& color : {QColor(0, 200, 0), QColor(90, 200, 0), QColor(0, 200, 90)})
+        EXPECT_EQ(algorithm.findAnchorBlock(uniform(QSize(640, 480), color)), none);
+}
+
 TEST(FindAnchorBlock, TakesNoPixelOutsideOfAnySize)
 {
     for (int width = 118; width < 140; ++width)

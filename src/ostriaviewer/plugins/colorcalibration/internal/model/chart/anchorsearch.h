@@ -59,7 +59,9 @@ private:
 /// Slides the block over the image at the pitches of scanPitches. The best AnchorScore of all
 /// stands; among equals the larger pitch, then the smaller x, then the smaller y. Reentrant.
 /// \param image  the smoothed image
-/// \return  the nine patch centres in template order; all (0, 0) where nothing could be scored
+/// \return  the nine patch centres in template order; all (0, 0) where nothing could be scored or
+///          no score is above the one to begin with, the least positive normal float: an image of
+///          green alone, for instance
 QVector<QPoint> findAnchorBlock(const RgbBytes& image);
 
 } // namespace ColorCalibration

@@ -121,6 +121,7 @@ QVector<QPoint> fitPatchCenters(const RgbBytes& image, const QVector<QPoint>& bl
 
     const double radius = 0.5 * diagonalPitch(points[0], points[1]);
     points[2] = seek(block[6], radius, 1);
+    // The last slot is not sought: no model is fitted behind it, so it would change nothing.
     for (int i = 3; i < SlotCount - 1; ++i)
         points[std::size_t(i)] = seek(GridModel(points, i).at(FitOrder[std::size_t(i)]), radius, 1);
 
