@@ -51,9 +51,8 @@ public:
 
     /// The nine patch centres of columns 1 to 3 in the chart's rows 0 to 2 that match best.
     /// \param image  smoothed
-    /// \return  row by row; all (0, 0) where the image is too low or narrow to be searched, or
-    /// where
-    ///          no place is in the least like the block, as on green alone
+    /// \return  row by row; all (0, 0) where the image is too low or narrow to be searched,
+    ///          or no place is in the least like the block, as on green alone
     QVector<QPoint> findAnchorBlock(const QImage& image) const;
 
     /// The centres of all patches, from the nine of the anchor block.
