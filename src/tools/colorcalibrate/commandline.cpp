@@ -5,6 +5,15 @@
 #include <ostream>
 
 namespace ColorCalibrate {
+namespace {
+
+void requireNotEmpty(const QStringList& values, const QString& hint)
+{
+    if (values.contains(QString()))
+        throw CommandError(QStringLiteral("an argument is empty") + hint, WrongUsage);
+}
+
+} // namespace
 
 CommandLine::CommandLine(const QString& usage, const QString& description)
     : m_usage(usage)
@@ -43,6 +52,9 @@ bool CommandLine::parse(const QStringList& arguments, int positionals, std::ostr
         throw CommandError(
             QStringLiteral("\"%1\" is an argument too many").arg(given.at(positionals)) + hint,
             WrongUsage);
+    requireNotEmpty(given, hint);
+    for (const QString& name : m_parser.optionNames())
+        requireNotEmpty(m_parser.values(name), hint);
     return true;
 }
 

@@ -24,10 +24,8 @@ void computeCommand(const QStringList& arguments, const Streams& streams)
         return;
 
     const QString fileName = line.positional(0);
-    const QString name =
-        fileName == QLatin1String("-") ? QStringLiteral("standard input") : fileName;
     const Computation computation =
-        compute(parsePatchColors(readPatchText(fileName, streams.in), name));
+        compute(parsePatchColors(readPatchText(fileName, streams.in), displayName(fileName)));
     if (line.isSet(QStringLiteral("json")))
         streams.out << toJsonText(toJson(computation)).toStdString() << "\n";
     else

@@ -14,6 +14,7 @@
 #include <QRgba64>
 
 #include <cstring>
+#include <new>
 
 using Ostria::COstriaImage;
 using Ostria::PixelType;
@@ -54,11 +55,19 @@ bool isKnownFormat(const QByteArray& format)
     return format == "png" || format == "tiff" || format == "jpeg" || format == "bmp";
 }
 
+QImage converted(const QImage& image, QImage::Format format)
+{
+    QImage result = image.convertToFormat(format);
+    if (result.isNull())
+        throw std::bad_alloc();
+    return result;
+}
+
 bool isTransparent(const QImage& image)
 {
     if (!image.hasAlphaChannel())
         return false;
-    const QImage alpha = image.convertToFormat(QImage::Format_RGBA64);
+    const QImage alpha = converted(image, QImage::Format_RGBA64);
     for (int y = 0; y < alpha.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgba64*>(alpha.constScanLine(y));
         for (int x = 0; x < alpha.width(); ++x)
@@ -86,7 +95,7 @@ void requireColor(const QImage& image, const QString& fileName)
 
 COstriaImage toRgb16(const QImage& image)
 {
-    const QImage source = image.convertToFormat(QImage::Format_RGBX64);
+    const QImage source = converted(image, QImage::Format_RGBX64);
     COstriaImage target(PixelType::RGB16, source.width(), source.height());
     std::uint8_t* row = target.writableData();
     for (int y = 0; y < source.height(); ++y, row += target.stride()) {
@@ -101,7 +110,7 @@ COstriaImage toRgb16(const QImage& image)
 
 COstriaImage toRgb8(const QImage& image)
 {
-    const QImage source = image.convertToFormat(QImage::Format_RGB888);
+    const QImage source = converted(image, QImage::Format_RGB888);
     COstriaImage target(PixelType::RGB8, source.width(), source.height());
     std::uint8_t* row = target.writableData();
     for (int y = 0; y < source.height(); ++y, row += target.stride())
@@ -150,7 +159,8 @@ QImage readImageData(QByteArray data, const QString& name)
     const QImage image = reader.read();
     if (image.isNull())
         fail(name,
-             QStringLiteral("the image is damaged or truncated (%1)").arg(reader.errorString()));
+             QStringLiteral("the image is damaged, truncated or too large for the memory (%1)")
+                 .arg(reader.errorString()));
     if (!isComplete(data, format))
         fail(name, QStringLiteral("the image is truncated"));
     return image;

@@ -4,6 +4,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace ColorCalibrate {
@@ -73,8 +74,10 @@ bool isCompleteBmp(const QByteArray& data)
     if (layout.isRunLength)
         return true;
     const qint64 rowBytes = (layout.width * layout.bitsPerPixel + 31) / 32 * 4;
-    const auto pixelsAt = qFromLittleEndian<quint32>(data.constData() + 10);
-    return data.size() >= pixelsAt + rowBytes * layout.height;
+    // Decoders begin behind the headers where the field says less.
+    const qint64 behindHeaders = 14 + qint64{qFromLittleEndian<quint32>(data.constData() + 14)};
+    const qint64 pixelsAt = qFromLittleEndian<quint32>(data.constData() + 10);
+    return data.size() >= std::max(pixelsAt, behindHeaders) + rowBytes * layout.height;
 }
 
 bool isCompletePng(const QByteArray& data)

@@ -51,11 +51,9 @@ QJsonObject toJson(const ListedCamera& camera)
 
 std::string toRow(const ListedCamera& camera)
 {
-    return QStringLiteral("%1 %2 %3 %4\n")
-        .arg(camera.name, -40)
-        .arg(camera.sfnc, -7)
-        .arg(camera.isSupported ? QStringLiteral("yes") : QStringLiteral("no"), -10)
-        .arg(camera.backend)
+    const QString supported = camera.isSupported ? QStringLiteral("yes") : QStringLiteral("no");
+    return (camera.name.leftJustified(41) + camera.sfnc.leftJustified(8) +
+            supported.leftJustified(11) + camera.backend + QLatin1Char('\n'))
         .toStdString();
 }
 

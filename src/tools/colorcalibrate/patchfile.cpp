@@ -43,7 +43,8 @@ struct Place
 
     [[noreturn]] void fail(const QString& problem) const
     {
-        throw CommandError(QStringLiteral("%1, line %2: %3").arg(file).arg(line).arg(problem));
+        throw CommandError(
+            QStringLiteral("%1, line %2: %3").arg(file, QString::number(line), problem));
     }
 };
 
@@ -79,6 +80,11 @@ QList<QByteArray> linesOf(QByteArray text)
 
 } // namespace
 
+QString displayName(const QString& fileName)
+{
+    return fileName == QLatin1String("-") ? QStringLiteral("standard input") : fileName;
+}
+
 PatchColors parsePatchColors(const QByteArray& text, const QString& name)
 {
     const QList<QByteArray> lines = linesOf(text);
@@ -97,10 +103,9 @@ PatchColors parsePatchColors(const QByteArray& text, const QString& name)
             colors(i, channel) = parseChannel(fields.at(channel), channel, place);
     }
     if (lines.size() != PatchCount)
-        throw CommandError(QStringLiteral("%1 has %2 lines; the chart has %3 patches")
-                               .arg(name)
-                               .arg(lines.size())
-                               .arg(PatchCount));
+        throw CommandError(
+            QStringLiteral("%1 has %2 lines; the chart has %3 patches")
+                .arg(name, QString::number(lines.size()), QString::number(PatchCount)));
     return colors;
 }
 
@@ -124,7 +129,7 @@ QByteArray readPatchText(const QString& fileName, std::istream& standardInput)
     if (length > longestPatchText)
         throw CommandError(QStringLiteral("%1 is longer than any file of 24 patch colors; 24 lines "
                                           "\"R,G,B\" are expected")
-                               .arg(fileName));
+                               .arg(displayName(fileName)));
     text.truncate(static_cast<int>(length));
     return text;
 }

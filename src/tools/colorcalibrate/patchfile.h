@@ -11,6 +11,9 @@
 
 namespace ColorCalibrate {
 
+/// The name of a patch file as messages show it: "standard input" for "-".
+QString displayName(const QString& fileName);
+
 /// Reads 24 lines of three numbers, linear light on 0 to 255, separated by commas. Blanks around a
 /// number, a byte order mark, line ends of any system and empty lines at the end are accepted.
 /// \param name  of the file, for messages

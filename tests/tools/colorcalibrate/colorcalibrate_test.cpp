@@ -39,6 +39,16 @@ TEST(ColorCalibrateTool, SaysItInOneLineWhateverNamesHold)
                   2, {QStringLiteral("two?lines")});
 }
 
+TEST(ColorCalibrateTool, RefusesEmptyArguments)
+{
+    for (const char* subcommand : {"compute", "measure", "find"})
+        expectFailure(runTool({QLatin1String(subcommand), QString()}), 2,
+                      {QStringLiteral("an argument is empty")});
+    expectFailure(runTool({QStringLiteral("find"), QStringLiteral("a.png"),
+                           QStringLiteral("--draw"), QString()}),
+                  2, {QStringLiteral("an argument is empty")});
+}
+
 TEST(ColorCalibrateTool, RunsAsAProgramInAPipe)
 {
     QProcess program;

@@ -157,6 +157,15 @@ TEST_F(ImageFile, RefusesATruncatedBmpWithTheOldHeader)
     expectRefused(writeFile(QStringLiteral("cut.bmp"), whole.left(whole.size() - 1)), "truncated");
 }
 
+TEST_F(ImageFile, RefusesATruncatedBmpThatDoesNotSayWhereItsPixelsAre)
+{
+    QByteArray content = contentOf(writeChart(QStringLiteral("a.bmp"), QImage::Format_RGB32, 256));
+    content.replace(10, 4, QByteArray(4, '\0'));
+    EXPECT_NO_THROW(cameraImage(writeFile(QStringLiteral("whole.bmp"), content)));
+    content.chop(50);
+    expectRefused(writeFile(QStringLiteral("cut.bmp"), content), "truncated");
+}
+
 TEST_F(ImageFile, RefusesAPalette)
 {
     expectRefused(writeChart(QStringLiteral("a.png"), QImage::Format_Indexed8, 256), "palette");

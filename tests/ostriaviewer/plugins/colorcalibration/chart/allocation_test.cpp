@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Measuring and converting take as many blocks from the heap for large images as for small ones.
+// Measuring and converting take as many blocks by operator new for large images as for small ones;
+// what OpenCV takes by its own allocator is not counted.
 #include "allocationcounter.h"
 #include "imageformatconverter.h"
 #include "patchmeasurement.h"

@@ -198,6 +198,10 @@ TEST(WeightedRaySum, TakesTheLongestRaysAndTheFarthestStarts)
     EXPECT_EQ(algorithm.weightedRaySum(image, QPoint(0, 0), 0, 1, least), 0.0F);
     // Without a step the same pixel is taken again and again: 3 + 2 + 1.
     EXPECT_FLOAT_EQ(algorithm.weightedRaySum(image, QPoint(0, 0), 0, 0, 3), 6.0F);
+    // At most from 32767 down to 1, which is 32767 * 32768 / 2 but for the rounding of the sum.
+    const float resting = algorithm.weightedRaySum(image, QPoint(0, 0), 0, 0, 32767);
+    EXPECT_NEAR(resting, 536854528.0F, 1e5F);
+    EXPECT_EQ(algorithm.weightedRaySum(image, QPoint(0, 0), 0, 0, most), resting);
 }
 
 TEST(SeekPatchCenter, ClimbsToTheMiddleOfABrightPatch)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The chart finder's memory beyond the image stays within its bound, whatever the image.
+#include "boxsmoothing.h"
 #include "colorcorrectionautochartfinder.h"
 
 #include "heapmeter.h"
@@ -46,6 +47,24 @@ TEST_P(ChartFinderMemory, StaysBelow16Megabytes)
 
 INSTANTIATE_TEST_SUITE_P(AllFormats, ChartFinderMemory,
                          testing::Range(int(QImage::Format_Mono), int(QImage::NImageFormats)));
+
+TEST(BoxSmoothingMemory, IsWhatTheContractSays)
+{
+    if (!HeapMeter::isAvailable())
+        GTEST_SKIP() << "this C library's heap cannot be counted";
+    const auto peakOf = [](const QSize& size, int radius) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        HeapMeter::restart();
+        smooth(image, radius);
+        return double(HeapMeter::peakBytes());
+    };
+    // Bytes of the result, of the window's rows, and of the second pass with the sums.
+    const double few = 20'000.0;
+    EXPECT_NEAR(peakOf(QSize(3000, 1), 1000), 3000.0 * (3 + 24 + 207), few);
+    EXPECT_NEAR(peakOf(QSize(3000, 100), 5), 3000.0 * (300 + 24 * 11 + 207), few);
+    EXPECT_NEAR(peakOf(QSize(3000, 40), 1000), 3000.0 * (120 + 24 * 40 + 207), few);
+}
 
 TEST(HeapMeter, CountsWhatIsAllocated)
 {

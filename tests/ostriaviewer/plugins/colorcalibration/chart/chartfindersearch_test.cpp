@@ -5,6 +5,7 @@
 
 #include "chartscene.h"
 #include "charttargets.h"
+#include "pixelrows.h"
 
 #include <QPolygonF>
 #include <QTransform>
@@ -75,17 +76,13 @@ double distance(const QPoint& a, const QPoint& b)
     return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
-} // namespace
-
-TEST(ByteRatio, IsTheRoundedQuotientAndOneWithoutADenominator)
+float scoreOf(const QImage& image, const QVector<QPoint>& block)
 {
-    EXPECT_EQ(byteRatio(51, 102), 0.5F);
-    EXPECT_EQ(byteRatio(0, 7), 0.0F);
-    EXPECT_EQ(byteRatio(255, 1), 255.0F);
-    EXPECT_FLOAT_EQ(byteRatio(1, 3), 1.0F / 3.0F);
-    EXPECT_EQ(byteRatio(200, 0), 1.0F);
-    EXPECT_EQ(byteRatio(0, 0), 1.0F);
+    const QPoint& middle = block[4];
+    return AnchorScore().at(toRgbBytes(image), middle.x(), middle.y(), block[5].x() - middle.x());
 }
+
+} // namespace
 
 TEST(FindAnchorBlock, FindsTheBlockAmongNothingElse)
 {
@@ -130,17 +127,22 @@ TEST(FindAnchorBlock, KeepsTheOneVisitedFirstOfTwoEqualBlocks)
 
 TEST(FindAnchorBlock, GoesOnAfterAHighScore)
 {
-    // The large block alone is good enough to be found; the small one, visited later, is perfect.
+    // The large block alone is found with a high score; the small one, visited later, is perfect.
     QImage image = uniform(QSize(640, 480), QColor(90, 90, 90));
     drawBlock(image, QPoint(220, 200), 90, QColor(140, 40, 40));
     const QVector<QPoint> large = algorithm.findAnchorBlock(image);
     ASSERT_LT(distance(large[4], QPoint(220, 200)), 45.0);
     ASSERT_GT(distance(large[0], large[1]), 70.0);
+    const float score = scoreOf(image, large);
+    EXPECT_GT(score, 0.8F);
 
     drawBlock(image, QPoint(520, 390), 45);
     const QVector<QPoint> small = algorithm.findAnchorBlock(image);
     EXPECT_LT(distance(small[4], QPoint(520, 390)), 22.5 * std::sqrt(2.0));
     EXPECT_LT(distance(small[0], small[1]), 50.0);
+    EXPECT_EQ(scoreOf(image, large), score);
+    EXPECT_GT(scoreOf(image, small), score);
+    EXPECT_NEAR(scoreOf(image, small), 1.0F, 1e-3F);
 }
 
 TEST(FindAnchorBlock, ExaminesNothingWhereTheLargestPitchIsNotAboveTwentyPixels)
@@ -154,6 +156,14 @@ TEST(FindAnchorBlock, ExaminesNothingWhereTheLargestPitchIsNotAboveTwentyPixels)
     // 81 / 4 is 20.25: one scale, pitch 20.
     EXPECT_EQ(algorithm.findAnchorBlock(uniform(QSize(640, 81), color)),
               blockAt(QPoint(40, 30), 20));
+}
+
+TEST(FindAnchorBlock, FindsNothingWhereNoScoreIsAboveTheOneToBeginWith)
+{
+    // Without red or without blue a correlation is 0 / 0.
+    const QVector<QPoint> none(9, QPoint(0, 0));
+    for (const QColor& color : {QColor(0, 200, 0), QColor(90, 200, 0), QColor(0, 200, 90)})
+        EXPECT_EQ(algorithm.findAnchorBlock(uniform(QSize(640, 480), color)), none);
 }
 
 TEST(FindAnchorBlock, TakesNoPixelOutsideOfAnySize)
@@ -183,14 +193,14 @@ TEST(FindAnchorBlock, IsNotMovedByTheLevelOfTheLight)
 
 TEST(FindAnchorBlock, DoesNotTurnTheChart)
 {
-    const QImage upright = ChartScene::render(straightScene());
+    const QImage upright = algorithm.boxBlur(ChartScene::render(straightScene()), 5);
     const QImage turned = upright.transformed(QTransform().rotate(180));
-    const QVector<QPoint> block = algorithm.findAnchorBlock(algorithm.boxBlur(turned, 5));
-    // Whatever it is, it is no block that runs from right to left where the turned one lies.
-    EXPECT_LT(block[0].x(), block[2].x());
-    EXPECT_LT(block[0].y(), block[6].y());
-    const QPoint turnedMiddle = QPoint(639, 479) - straightCenter(8);
-    EXPECT_GT(distance(block[4], turnedMiddle), 30.0);
+    const QVector<QPoint> found = algorithm.findAnchorBlock(upright);
+    EXPECT_LT(distance(found[4], straightCenter(8)), 30.0);
+    const QVector<QPoint> block = algorithm.findAnchorBlock(turned);
+    EXPECT_GT(distance(block[4], QPoint(639, 479) - straightCenter(8)), 30.0);
+    // What is taken for the block instead is less like it.
+    EXPECT_LT(scoreOf(turned, block), 0.95F * scoreOf(upright, found));
 }
 
 TEST(FitPatchCenters, FindsAllPatchesFromARoughBlock)

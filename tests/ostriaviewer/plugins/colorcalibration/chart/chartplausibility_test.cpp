@@ -62,10 +62,20 @@ TEST(IsPlausibleChart, RefusesNegativeCoordinates)
     EXPECT_FALSE(isPlausibleWith([](Result& r) { r.lowerLeft.setY(-1); }));
 }
 
-TEST(IsPlausibleChart, RefusesALowerLeftCornerOnTheUpperBorder)
+TEST(IsLowerLeftWithin, RefusesTheUpperBorderButNothingAboveIt)
 {
-    EXPECT_FALSE(isPlausibleWith([](Result& r) { r.lowerLeft.setY(0); }));
-    EXPECT_FALSE(isPlausibleChart({{10, 0}, {500, 0}, {10, 0}, {500, 400}, false}, imageSize));
+    EXPECT_FALSE(isLowerLeftWithin(QPoint(5, 0), imageSize));
+    EXPECT_TRUE(isLowerLeftWithin(QPoint(5, -1), imageSize));
+    EXPECT_TRUE(isLowerLeftWithin(QPoint(5, 1), imageSize));
+}
+
+TEST(IsLowerLeftWithin, IncludesTheOtherBorders)
+{
+    EXPECT_TRUE(isLowerLeftWithin(QPoint(0, 480), imageSize));
+    EXPECT_TRUE(isLowerLeftWithin(QPoint(640, 480), imageSize));
+    EXPECT_FALSE(isLowerLeftWithin(QPoint(-1, 480), imageSize));
+    EXPECT_FALSE(isLowerLeftWithin(QPoint(641, 480), imageSize));
+    EXPECT_FALSE(isLowerLeftWithin(QPoint(0, 481), imageSize));
 }
 
 TEST(IsPlausibleChart, RefusesCornersInAnotherOrder)

@@ -6,7 +6,6 @@
 #include "pixelrows.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 
@@ -18,9 +17,7 @@ constexpr double SmallestPitch = 20.0;
 constexpr double SmallestPitchShare = 0.125;
 constexpr double ScaleFactor = 0.75;
 
-using Ratios = std::array<float, AnchorPatchCount>;
-
-float sumOfSquares(const Ratios& ratios)
+float sumOfSquares(const AnchorRatios& ratios)
 {
     float sum = 0.0F;
     for (const float ratio : ratios)
@@ -28,34 +25,10 @@ float sumOfSquares(const Ratios& ratios)
     return sum;
 }
 
-/// The ratios of one colour pair over the block, and how like them a sample is.
-class RatioTemplate
+QPoint cell(int i, int x, int y, int pitch)
 {
-public:
-    /// \param numerator, denominator  columns of the chart's target colours
-    RatioTemplate(int numerator, int denominator)
-    {
-        const PatchColors targets = ChartTargets().TargetColors();
-        for (int i = 0; i < AnchorPatchCount; ++i) {
-            const int patch = i / 3 * PatchColumns + i % 3 + 1;
-            m_ratios[std::size_t(i)] =
-                static_cast<float>(targets(patch, numerator) / targets(patch, denominator));
-        }
-        m_energy = sumOfSquares(m_ratios);
-    }
-
-    float similarity(const Ratios& sample) const
-    {
-        float product = 0.0F;
-        for (std::size_t i = 0; i < sample.size(); ++i)
-            product += sample[i] * m_ratios[i];
-        return product / std::sqrt(sumOfSquares(sample) * m_energy);
-    }
-
-private:
-    Ratios m_ratios{};
-    float m_energy = 0.0F;
-};
+    return {x + pitch * (i % 3 - 1), y + pitch * (i / 3 - 1)};
+}
 
 /// The best position so far. Only a strictly better one replaces it.
 class BlockScan
@@ -84,22 +57,9 @@ public:
     }
 
 private:
-    static QPoint cell(int i, int x, int y, int pitch)
-    {
-        return {x + pitch * (i % 3 - 1), y + pitch * (i / 3 - 1)};
-    }
-
     void evaluate(int x, int y, int pitch)
     {
-        Ratios redGreen;
-        Ratios blueGreen;
-        for (int i = 0; i < AnchorPatchCount; ++i) {
-            const QPoint point = cell(i, x, y, pitch);
-            const unsigned char* rgb = m_image.pixel(point.x(), point.y());
-            redGreen[std::size_t(i)] = byteRatio(rgb[0], rgb[1]);
-            blueGreen[std::size_t(i)] = byteRatio(rgb[2], rgb[1]);
-        }
-        const float score = m_redGreen.similarity(redGreen) * m_blueGreen.similarity(blueGreen);
+        const float score = m_score.at(m_image, x, y, pitch);
         if (score > m_bestScore) {
             m_bestScore = score;
             m_bestX = x;
@@ -109,8 +69,7 @@ private:
     }
 
     const RgbBytes& m_image;
-    RatioTemplate m_redGreen{0, 1};
-    RatioTemplate m_blueGreen{2, 1};
+    AnchorScore m_score;
     float m_bestScore = std::numeric_limits<float>::min();
     int m_bestX = 0;
     int m_bestY = 0;
@@ -127,16 +86,68 @@ float byteRatio(unsigned char numerator, unsigned char denominator)
     return static_cast<float>(fractions[numerator] / fractions[denominator]);
 }
 
-QVector<QPoint> findAnchorBlock(const RgbBytes& image)
+AnchorRatios templateRatios(int numerator, int denominator)
 {
-    const double largest = std::min(image.width / 6.0, image.height * 0.25);
+    const PatchColors targets = ChartTargets().TargetColors();
+    AnchorRatios ratios{};
+    for (int i = 0; i < AnchorPatchCount; ++i) {
+        const int patch = i / 3 * PatchColumns + i % 3 + 1;
+        ratios[std::size_t(i)] =
+            static_cast<float>(targets(patch, numerator) / targets(patch, denominator));
+    }
+    return ratios;
+}
+
+std::vector<int> scanPitches(int width, int height)
+{
+    const double largest = std::min(width / 6.0, height * 0.25);
     const double smallest = std::max(SmallestPitch, largest * SmallestPitchShare);
-    BlockScan scan(image);
+    std::vector<int> pitches;
     if (largest > smallest) {
         const double scales = std::ceil(std::log(largest / smallest) / -std::log(ScaleFactor));
         for (int s = 0; s < static_cast<int>(scales); ++s)
-            scan.scan(static_cast<int>(std::lround(std::pow(ScaleFactor, s) * largest)));
+            pitches.push_back(static_cast<int>(std::lround(std::pow(ScaleFactor, s) * largest)));
     }
+    return pitches;
+}
+
+AnchorScore::AnchorScore()
+    : m_redGreen(makeTemplate(0, 1))
+    , m_blueGreen(makeTemplate(2, 1))
+{}
+
+AnchorScore::Template AnchorScore::makeTemplate(int numerator, int denominator)
+{
+    const AnchorRatios ratios = templateRatios(numerator, denominator);
+    return {ratios, sumOfSquares(ratios)};
+}
+
+float AnchorScore::similarity(const Template& target, const AnchorRatios& sample)
+{
+    float product = 0.0F;
+    for (std::size_t i = 0; i < sample.size(); ++i)
+        product += sample[i] * target.ratios[i];
+    return product / std::sqrt(sumOfSquares(sample) * target.energy);
+}
+
+float AnchorScore::at(const RgbBytes& image, int x, int y, int pitch) const
+{
+    AnchorRatios redGreen;
+    AnchorRatios blueGreen;
+    for (int i = 0; i < AnchorPatchCount; ++i) {
+        const QPoint point = cell(i, x, y, pitch);
+        const unsigned char* rgb = image.pixel(point.x(), point.y());
+        redGreen[std::size_t(i)] = byteRatio(rgb[0], rgb[1]);
+        blueGreen[std::size_t(i)] = byteRatio(rgb[2], rgb[1]);
+    }
+    return similarity(m_redGreen, redGreen) * similarity(m_blueGreen, blueGreen);
+}
+
+QVector<QPoint> findAnchorBlock(const RgbBytes& image)
+{
+    BlockScan scan(image);
+    for (const int pitch : scanPitches(image.width, image.height))
+        scan.scan(pitch);
     return scan.block();
 }
 

@@ -54,11 +54,11 @@ public:
     RowWindow(const QImage& image, int radius)
         : m_rows(image)
         , m_lanes(std::size_t(image.width()) * RgbBytes::Channels)
-        , m_held(std::size_t(2 * radius + 1), -1)
+        , m_held(std::size_t(std::min(2 * radius + 1, image.height())), -1)
         , m_samples(m_held.size() * m_lanes)
     {}
 
-    /// The row nearest to y. Stays valid until 2 * radius + 1 other rows were asked for.
+    /// The row nearest to y. Stays valid until a row further than 2 * radius from it is asked for.
     const double* row(int y)
     {
         const int nearest = std::clamp(y, 0, m_rows.height() - 1);

@@ -8,7 +8,7 @@
 #include "patchgridfit.h"
 #include "patchseeker.h"
 #include "pixelrows.h"
-#include "saturated.h"
+#include "truncate.h"
 
 #include <array>
 #include <cmath>
@@ -68,7 +68,7 @@ QVector<QPoint> ChartFinderAlgorithm::locateCorners(const QImage& image) const
     const QVector<QPoint> block = ColorCalibration::findAnchorBlock(smoothed);
     QVector<QPoint> corners = outerCorners(ColorCalibration::fitPatchCenters(smoothed, block));
     for (QPoint& corner : corners)
-        corner = QPoint(saturatedInt(corner.x() * factor), saturatedInt(corner.y() * factor));
+        corner = QPoint(truncateToInt(corner.x() * factor), truncateToInt(corner.y() * factor));
     return corners;
 }
 
@@ -136,8 +136,8 @@ QVector<QPoint> ChartFinderAlgorithm::outerCorners(const QVector<QPoint>& center
         const QPoint& center = centers[patch];
         const double halfX = std::abs(double(center.x()) - centers[xNeighbour].x()) / 2.0;
         const double halfY = std::abs(double(center.y()) - centers[yNeighbour].y()) / 2.0;
-        return QPoint(saturatedInt(center.x() + signX * halfX),
-                      saturatedInt(center.y() + signY * halfY));
+        return QPoint(truncateToInt(center.x() + signX * halfX),
+                      truncateToInt(center.y() + signY * halfY));
     };
     return {corner(0, -1, 1, -1, 6), corner(5, 1, 4, -1, 11), corner(18, -1, 19, 1, 12),
             corner(23, 1, 22, 1, 17)};

@@ -30,7 +30,7 @@ public:
     /// The whole search. The image is neither copied nor changed.
     /// \return  the chart's outer corners in pixels of the image: upper left, upper right, lower
     ///          left, lower right. They may lie outside, and are somewhere if there is no chart.
-    ///          All (0, 0) where nothing could be scored; empty where the image is too tall.
+    ///          All (0, 0) where findAnchorBlock finds nothing; empty where the image is too tall.
     QVector<QPoint> locateCorners(const QImage& image) const;
 
     /// Mean over 2 * radius + 1 samples along each column and then along each row.
@@ -51,7 +51,8 @@ public:
 
     /// The nine patch centres of columns 1 to 3 in the chart's rows 0 to 2 that match best.
     /// \param image  smoothed
-    /// \return  row by row; all (0, 0) where the image is too low or narrow to be searched
+    /// \return  row by row; all (0, 0) where the image is too low or narrow to be searched,
+    ///          or no place is in the least like the block, as on green alone
     QVector<QPoint> findAnchorBlock(const QImage& image) const;
 
     /// The centres of all patches, from the nine of the anchor block.
@@ -73,6 +74,8 @@ public:
 
     /// Sum of green on 0 to 1 along a ray of length pixels, weighted by length at its start down
     /// to 1 at its end. Pixels outside the image count as 0.
+    /// \param length  where both steps are 0, taken as 32767 if it is larger: such a ray never
+    ///                leaves its pixel
     float weightedRaySum(const QImage& image, const QPoint& start, int stepY, int stepX,
                          int length) const;
 };

@@ -12,14 +12,13 @@ bool isWithin(const QPoint& point, const QSize& size)
            point.y() <= size.height();
 }
 
-/// The lower left corner's y is held against 0 alone: a negative one falls at the order below.
+} // namespace
+
 bool isLowerLeftWithin(const QPoint& point, const QSize& size)
 {
     return point.x() >= 0 && point.y() != 0 && point.x() <= size.width() &&
            point.y() <= size.height();
 }
-
-} // namespace
 
 bool isPlausibleChart(const ColorCorrectionAutoChartFinderResult& corners, const QSize& size)
 {

@@ -5,7 +5,7 @@
 #include "anchorsearch.h"
 #include "patchcolors.h"
 #include "patchseeker.h"
-#include "saturated.h"
+#include "truncate.h"
 
 #include <array>
 #include <cmath>
@@ -82,7 +82,7 @@ public:
 
     QPoint at(const Cell& cell) const
     {
-        return {saturatedInt(evaluate(m_x, cell)), saturatedInt(evaluate(m_y, cell))};
+        return {truncateToInt(evaluate(m_x, cell)), truncateToInt(evaluate(m_y, cell))};
     }
 
 private:
@@ -115,12 +115,13 @@ QVector<QPoint> fitPatchCenters(const RgbBytes& image, const QVector<QPoint>& bl
 
     // Once more with the longer rays alone.
     const float pitch = diagonalPitch(points[0], points[1]);
-    const int longRays = saturatedInt(std::round(0.4 * pitch));
+    const int longRays = truncateToInt(std::round(0.4 * pitch));
     points[0] = seek(points[0], 0.5 * pitch, longRays);
     points[1] = seek(points[1], 0.5 * pitch, longRays);
 
     const double radius = 0.5 * diagonalPitch(points[0], points[1]);
     points[2] = seek(block[6], radius, 1);
+    // The last slot is not sought: no model is fitted behind it, so it would change nothing.
     for (int i = 3; i < SlotCount - 1; ++i)
         points[std::size_t(i)] = seek(GridModel(points, i).at(FitOrder[std::size_t(i)]), radius, 1);
 

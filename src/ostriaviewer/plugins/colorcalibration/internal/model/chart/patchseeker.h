@@ -3,15 +3,20 @@
 #pragma once
 
 #include "rgbbytes.h"
-#include "saturated.h"
+#include "truncate.h"
 
 #include <QImage>
 #include <QPoint>
+
+#include <cmath>
 
 namespace ColorCalibration {
 
 /// No seek makes more steps than this.
 inline constexpr int MaxSeekRadius = 32767;
+
+/// No ray that stays on its pixel is longer than this.
+inline constexpr int MaxRestingLength = 32767;
 
 /// Green of an image of bytes, 0 to 1. The image is lent.
 class GreenOfBytes
@@ -54,9 +59,12 @@ RaySpan raySpan(int start, int step, int size, int length);
 
 /// Sum over i below length of green at start + i * (stepX, stepY), times the weight length - i,
 /// rounded to float after each term. Pixels outside the image count as 0 and cost nothing.
+/// \param length  taken as MaxRestingLength where both steps are 0 and it is larger
 template <typename Green>
 float weightedRaySum(const Green& green, QPoint start, int stepY, int stepX, int length)
 {
+    if (stepX == 0 && stepY == 0)
+        length = qMin(length, MaxRestingLength);
     const RaySpan spanX = raySpan(start.x(), stepX, green.width(), length);
     const RaySpan spanY = raySpan(start.y(), stepY, green.height(), length);
     const qint64 end = qMin(spanX.end, spanY.end);
@@ -76,7 +84,7 @@ float weightedRaySum(const Green& green, QPoint start, int stepY, int stepX, int
 template <typename Green>
 QPoint seekPatchCenter(const Green& green, QPoint start, double radius, int sign, int firstStep)
 {
-    const qint64 last = qMin(saturatedInt(std::round(radius)), MaxSeekRadius);
+    const qint64 last = qMin(truncateToInt(std::round(radius)), MaxSeekRadius);
     QPoint point = start;
     const auto climb = [sign](float before, float after, int position) {
         if (before == after)
