@@ -20,6 +20,7 @@
 #include <QFile>
 #include <QJsonObject>
 
+#include <exception>
 #include <ostream>
 
 using namespace ColorCalibration;
@@ -128,6 +129,8 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
         report.result = sequence.run(camera, options);
     } catch (const CommandError& error) {
         throw CommandError(QString::fromUtf8(error.what()) + guard.restore(), error.code());
+    } catch (const std::exception& error) {
+        throw CommandError(QString::fromUtf8(error.what()) + guard.restore());
     }
     report.settings = model.LastCalibration();
     report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));

@@ -56,7 +56,7 @@ SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceO
         requireChart(result);
         stopIfCancelled();
         return result;
-    } catch (const CommandError&) {
+    } catch (...) {
         m_model.StopGrabbing();
         m_model.RestoreSettingsBackup(false);
         m_model.Close();

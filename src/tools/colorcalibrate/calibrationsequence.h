@@ -44,7 +44,7 @@ public:
                         std::function<bool()> isCancelled);
 
     /// The camera stays open and calibrated.
-    /// \throws CommandError  after the camera was given back
+    /// \throws CommandError, and whatever else ends it, after the camera was given back
     SequenceResult run(const Core::CameraPoolComponents::CameraPtr& camera,
                        const SequenceOptions& options);
 

@@ -56,7 +56,7 @@ PatchColors measure(const Ostria::COstriaImage& image, const TrapezoidPoints& gr
 void measureCommand(const QStringList& arguments, const Streams& streams)
 {
     CommandLine line(
-        QStringLiteral("measure IMAGE --grid \"x,y x,y x,y x,y\" [options]"),
+        QStringLiteral("measure IMAGE --grid auto|\"x,y x,y x,y x,y\" [options]"),
         QStringLiteral("Measures the 24 patches of an image of the chart: 8- or 16-bit "
                        "PNG or TIFF, JPEG, BMP.\nPrints 24 lines \"R,G,B\" of 0 to "
                        "255, as \"colorcalibrate compute\" reads them."));

@@ -13,6 +13,7 @@
 #include <QJsonObject>
 #include <QStandardPaths>
 
+#include <new>
 #include <ostream>
 
 using namespace ColorCalibrate;
@@ -229,6 +230,21 @@ TEST_F(FaultyCamera, IsGivenBackAsItWasWhereverItIsCancelled)
         EXPECT_EQ(runAndFail([&] { return m_steps.size() > last; }), QStringLiteral("cancelled"));
         EXPECT_EQ(settings().toStdString(), before.toStdString()) << "after step " << last;
     }
+}
+
+TEST_F(FaultyCamera, IsGivenBackAsItWasWhenTheProgramRunsOutOfMemory)
+{
+    const QString before = settings();
+    int stepsLeft = 6; // neutral settings and white balance are written by then
+    CalibrationSequence sequence(
+        m_model,
+        [&](const QString& /*step*/) {
+            if (--stepsLeft == 0)
+                throw std::bad_alloc();
+        },
+        [] { return false; });
+    EXPECT_THROW(sequence.run(m_camera, SequenceOptions()), std::bad_alloc);
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
 }
 
 TEST_F(FaultyCamera, IsReportedWhenItsConnectionBreaksAtAnyImage)
