@@ -9,11 +9,16 @@ function(_ostria_check_arguments prefix)
     endif()
 endfunction()
 
-# A static library. Its folder is its include directory, so headers are found by their bare name.
+# A library, static unless SHARED. Its folder is its include directory, so headers are found by their
+# bare name.
 function(ostria_add_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;PUBLIC_DEPS;PRIVATE_DEPS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SHARED" "" "SOURCES;PUBLIC_DEPS;PRIVATE_DEPS")
     _ostria_check_arguments(arg)
-    add_library(${name} STATIC ${arg_SOURCES})
+    set(kind STATIC)
+    if(arg_SHARED)
+        set(kind SHARED)
+    endif()
+    add_library(${name} ${kind} ${arg_SOURCES})
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC_DEPS}
         PRIVATE $<BUILD_INTERFACE:ostria_compiler> ${arg_PRIVATE_DEPS})
@@ -33,10 +38,24 @@ function(ostria_add_executable name)
     add_dependencies(programs ${name})
 endfunction()
 
+# A plugin of the viewer, in the plugins folder.
+function(ostria_add_plugin name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS")
+    _ostria_check_arguments(arg)
+    add_library(${name} MODULE ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS})
+    set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}"
+        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/plugins")
+    add_dependencies(programs ${name})
+endfunction()
+
 # A GoogleTest program; each of its tests becomes one ctest entry. The label "realtime" keeps its
-# tests out of runs under sanitizers, SERIAL lets each run alone.
+# tests out of runs under sanitizers, SERIAL lets each run alone, DISPLAY gives each a screen and
+# settings of its own, for programs that open windows.
 function(ostria_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL" "" "SOURCES;DEPS;LABELS;ENVIRONMENT")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY" ""
+        "SOURCES;DEPS;LABELS;ENVIRONMENT")
     _ostria_check_arguments(arg)
     if(NOT arg_LABELS)
         set(arg_LABELS unit)
@@ -50,8 +69,14 @@ function(ostria_add_test name)
     set(environment
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
         "UBSAN_OPTIONS=print_stacktrace=1"
-        "QT_QPA_PLATFORM=offscreen"
         ${arg_ENVIRONMENT})
+    if(arg_DISPLAY)
+        list(APPEND environment "QT_QPA_PLATFORM=xcb")
+        set_target_properties(${name} PROPERTIES
+            CROSSCOMPILING_EMULATOR "${PROJECT_SOURCE_DIR}/scripts/with-display")
+    else()
+        list(APPEND environment "QT_QPA_PLATFORM=offscreen")
+    endif()
     gtest_discover_tests(${name}
         DISCOVERY_TIMEOUT 120
         PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}"

@@ -35,11 +35,31 @@ LAYERS = {
         "src/ostriaviewer/core",
         f"{PLUGIN}/internal/model/calibration",
     ],
+    f"{PLUGIN}/internal/model/report": [
+        "src/ostria",
+        "src/ostriaviewer/core",
+        f"{PLUGIN}/internal/model/calibration",
+        f"{PLUGIN}/internal/model/chart",
+    ],
     f"{PLUGIN}/internal/model/model": [
         "src/ostria",
         "src/ostriaviewer/core",
         f"{PLUGIN}/internal/model/calibration",
         f"{PLUGIN}/internal/model/chart",
+        f"{PLUGIN}/internal/model/report",
+    ],
+    f"{PLUGIN}/internal/ui": [
+        "src/ostria",
+        "src/ostriaviewer/core",
+        f"{PLUGIN}/internal/model/calibration",
+        f"{PLUGIN}/internal/model/chart",
+        f"{PLUGIN}/internal/model/model",
+        f"{PLUGIN}/internal/model/report",
+    ],
+    PLUGIN: [
+        "src/ostriaviewer/core",
+        f"{PLUGIN}/internal/model/model",
+        f"{PLUGIN}/internal/ui",
     ],
     "src/tools/colorcalibrate": [
         "src/ostria",
@@ -51,6 +71,7 @@ LAYERS = {
         f"{PLUGIN}/internal/model/calibration",
         f"{PLUGIN}/internal/model/chart",
         f"{PLUGIN}/internal/model/model",
+        f"{PLUGIN}/internal/model/report",
     ],
 }
 

@@ -2,6 +2,8 @@
 // The host's exception.
 #pragma once
 
+#include "coreexport.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -10,7 +12,7 @@
 namespace Core::Exception {
 
 /// What the host's services throw. Reentrant.
-class BaseException : public std::exception
+class OSTRIAVIEWER_CORE_EXPORT BaseException : public std::exception
 {
 public:
     explicit BaseException(const QString& message);

@@ -2,12 +2,14 @@
 // Errors of the feature layer.
 #pragma once
 
+#include "coreexport.h"
+
 #include <stdexcept>
 
 namespace GenICam {
 
 /// A feature cannot be used as it was asked to. The message names the feature and the reason.
-class RuntimeException : public std::runtime_error
+class OSTRIAVIEWER_CORE_EXPORT RuntimeException : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;

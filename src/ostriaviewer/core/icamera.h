@@ -2,6 +2,7 @@
 // A camera as it is used.
 #pragma once
 
+#include "coreexport.h"
 #include "grabresult.h"
 #include "icamerainfo.h"
 #include "iparametercollection.h"
@@ -16,7 +17,7 @@ namespace Core::CameraPoolComponents {
 /// A handle that the camera control service gave out carries exclusive rights: as long as it lives,
 /// nobody else gets one, and grabbing by others is refused. Its end gives the rights back.
 /// Thread-safe.
-class ICamera : public QObject
+class OSTRIAVIEWER_CORE_EXPORT ICamera : public QObject
 {
     Q_OBJECT
 

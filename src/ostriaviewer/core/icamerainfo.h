@@ -2,6 +2,8 @@
 // What can be known of a device without opening it.
 #pragma once
 
+#include "coreexport.h"
+
 #include <QMetaType>
 #include <QSharedPointer>
 #include <QString>
@@ -9,7 +11,7 @@
 namespace Core::CameraPoolComponents {
 
 /// Anything that the host shows by a name.
-class IBaseInfo
+class OSTRIAVIEWER_CORE_EXPORT IBaseInfo
 {
 public:
     IBaseInfo() = default;
@@ -21,11 +23,11 @@ public:
 };
 
 /// Anything that can be selected in the device selector.
-class IDeviceBaseInfo : public IBaseInfo
+class OSTRIAVIEWER_CORE_EXPORT IDeviceBaseInfo : public IBaseInfo
 {};
 
 /// A camera. The host's object behind it also is an ICamera. Thread-safe.
-class ICameraInfo : public IDeviceBaseInfo
+class OSTRIAVIEWER_CORE_EXPORT ICameraInfo : public IDeviceBaseInfo
 {
 public:
     virtual QString modelName() const = 0;

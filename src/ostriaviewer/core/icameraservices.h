@@ -2,6 +2,7 @@
 // The services around the cameras that the host knows.
 #pragma once
 
+#include "coreexport.h"
 #include "icamera.h"
 #include "icamerainfo.h"
 #include "iservice.h"
@@ -16,7 +17,7 @@ using Core::CameraPoolComponents::CameraPtr;
 using Core::CameraPoolComponents::DeviceBaseInfoPtr;
 
 /// Tells of devices being opened. Thread-bound: GUI thread.
-class IDeviceStatusService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT IDeviceStatusService : public Core::Service::IService
 {
     Q_OBJECT
 
@@ -28,7 +29,7 @@ protected:
 };
 
 /// Tells what cameras are doing. Queries are thread-safe.
-class ICameraStatusService : public IDeviceStatusService
+class OSTRIAVIEWER_CORE_EXPORT ICameraStatusService : public IDeviceStatusService
 {
     Q_OBJECT
 
@@ -54,7 +55,7 @@ struct DeviceGroup
 };
 
 /// Lists the cameras that can be seen. Thread-safe.
-class ICameraEnumerationService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT ICameraEnumerationService : public Core::Service::IService
 {
     Q_OBJECT
 
@@ -66,7 +67,7 @@ protected:
 };
 
 /// Stops what runs. Thread-bound: GUI thread.
-class ICameraStreamControlService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT ICameraStreamControlService : public Core::Service::IService
 {
     Q_OBJECT
 
@@ -78,7 +79,7 @@ protected:
 };
 
 /// Opens and closes cameras. Thread-safe.
-class ICameraControlService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT ICameraControlService : public Core::Service::IService
 {
     Q_OBJECT
 

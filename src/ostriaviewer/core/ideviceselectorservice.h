@@ -2,13 +2,14 @@
 // Which device the user has selected.
 #pragma once
 
+#include "coreexport.h"
 #include "icamerainfo.h"
 #include "iservice.h"
 
 namespace Plugin::CameraSelector {
 
 /// Thread-bound: GUI thread.
-class IDeviceSelectorService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT IDeviceSelectorService : public Core::Service::IService
 {
     Q_OBJECT
 

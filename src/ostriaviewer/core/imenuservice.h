@@ -2,6 +2,7 @@
 // The host's menus.
 #pragma once
 
+#include "coreexport.h"
 #include "iservice.h"
 
 #include <QAction>
@@ -11,7 +12,7 @@
 namespace Plugin::AppCore {
 
 /// Names a command, a menu, a group in a menu, or a context.
-class CId
+class OSTRIAVIEWER_CORE_EXPORT CId
 {
 public:
     explicit CId(const QString& name)
@@ -27,7 +28,7 @@ private:
 };
 
 /// Where in the host a command can be used.
-class CContext
+class OSTRIAVIEWER_CORE_EXPORT CContext
 {
 public:
     explicit CContext(const CId& id)
@@ -41,7 +42,7 @@ private:
 };
 
 /// An action that is registered under an id. Owned by the host. Thread-bound: GUI thread.
-class ICommand
+class OSTRIAVIEWER_CORE_EXPORT ICommand
 {
 public:
     ICommand() = default;
@@ -54,7 +55,7 @@ public:
 };
 
 /// A menu with groups, in which commands stand. Owned by the host. Thread-bound: GUI thread.
-class IActionContainer
+class OSTRIAVIEWER_CORE_EXPORT IActionContainer
 {
 public:
     IActionContainer() = default;
@@ -67,7 +68,7 @@ public:
 };
 
 /// Thread-bound: GUI thread.
-class IMenuService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT IMenuService : public Core::Service::IService
 {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 // The message log that the user sees.
 #pragma once
 
+#include "coreexport.h"
 #include "iservice.h"
 #include "logging.h"
 
@@ -11,7 +12,7 @@
 namespace Plugin::MessageLogCore {
 
 /// Thread-bound: GUI thread.
-class IMessageLogService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT IMessageLogService : public Core::Service::IService
 {
     Q_OBJECT
 

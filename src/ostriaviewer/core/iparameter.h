@@ -2,6 +2,8 @@
 // A camera's features as parameters of five kinds.
 #pragma once
 
+#include "coreexport.h"
+
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -15,7 +17,7 @@ namespace Core::ParameterCollection {
 /// GenICam::RuntimeException with the feature's name and the reason: not there, not readable or
 /// writable now, out of range, refused by the camera, connection lost. A write that throws has
 /// changed nothing that the caller did not ask for. Thread-safe.
-class IParameter : public QObject
+class OSTRIAVIEWER_CORE_EXPORT IParameter : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +50,7 @@ protected:
     using QObject::QObject;
 };
 
-class IFloatParameter : public IParameter
+class OSTRIAVIEWER_CORE_EXPORT IFloatParameter : public IParameter
 {
     Q_OBJECT
 
@@ -73,7 +75,7 @@ protected:
     using IParameter::IParameter;
 };
 
-class IIntegerParameter : public IParameter
+class OSTRIAVIEWER_CORE_EXPORT IIntegerParameter : public IParameter
 {
     Q_OBJECT
 
@@ -92,7 +94,7 @@ protected:
     using IParameter::IParameter;
 };
 
-class IBooleanParameter : public IParameter
+class OSTRIAVIEWER_CORE_EXPORT IBooleanParameter : public IParameter
 {
     Q_OBJECT
 
@@ -114,7 +116,7 @@ struct EnumerationEntry
     bool isSettable;     ///< whether it can be chosen with the camera's present settings
 };
 
-class IEnumerationParameter : public IParameter
+class OSTRIAVIEWER_CORE_EXPORT IEnumerationParameter : public IParameter
 {
     Q_OBJECT
 
@@ -135,7 +137,7 @@ protected:
     using IParameter::IParameter;
 };
 
-class ICommandParameter : public IParameter
+class OSTRIAVIEWER_CORE_EXPORT ICommandParameter : public IParameter
 {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 // All features of a camera by name.
 #pragma once
 
+#include "coreexport.h"
 #include "iparameter.h"
 
 #include <QSharedPointer>
@@ -23,7 +24,7 @@ using CommandParameterPtr = QSharedPointer<ICommandParameter>;
 /// by a bar are alternatives: the first that the camera has counts. A feature that the camera does
 /// not have, or that is of another kind, gives an empty parameter, never a null pointer. Parameters
 /// may outlive the collection; after the camera is closed they throw. Thread-safe.
-class IParameterCollection
+class OSTRIAVIEWER_CORE_EXPORT IParameterCollection
 {
 public:
     IParameterCollection() = default;

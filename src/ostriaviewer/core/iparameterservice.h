@@ -2,6 +2,7 @@
 // Access to the features of any camera.
 #pragma once
 
+#include "coreexport.h"
 #include "icamerainfo.h"
 #include "iparametercollection.h"
 #include "iservice.h"
@@ -9,7 +10,7 @@
 namespace Plugin::ParameterCollectionPool {
 
 /// Thread-safe.
-class IParameterService : public Core::Service::IService
+class OSTRIAVIEWER_CORE_EXPORT IParameterService : public Core::Service::IService
 {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 // A plugin of the host.
 #pragma once
 
+#include "coreexport.h"
 #include "serviceregistry.h"
 
 #include <QObject>
@@ -17,7 +18,7 @@ namespace Core::Plugin {
 /// What the host calls of a plugin, in this order: setServiceRegistry, initialize and
 /// extensionsInitialized when it loads; checkPluginClosability and aboutToUninitialize when it
 /// ends. No exception may leave any of them. Thread-bound: GUI thread.
-class IPlugin : public QObject
+class OSTRIAVIEWER_CORE_EXPORT IPlugin : public QObject
 {
     Q_OBJECT
 
@@ -47,7 +48,7 @@ protected:
 };
 
 /// A plugin whose texts are translated.
-class ALocalizedPlugin : public IPlugin
+class OSTRIAVIEWER_CORE_EXPORT ALocalizedPlugin : public IPlugin
 {
     Q_OBJECT
 

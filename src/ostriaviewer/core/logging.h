@@ -2,6 +2,8 @@
 // The log of host and plugins: entries with a level and a category.
 #pragma once
 
+#include "coreexport.h"
+
 #include <QString>
 
 #include <functional>
@@ -15,21 +17,21 @@ enum ELogLevel { Debug = 0, Information = 1, Warning = 2, Error = 3, Fatal = 4 }
 using CatId = int;
 
 /// The number of the category with this name; the same name gives the same number. Thread-safe.
-CatId getCatId(const QString& name);
+OSTRIAVIEWER_CORE_EXPORT CatId getCatId(const QString& name);
 
 /// The name of a category, empty for a number that getCatId never gave. Thread-safe.
-QString categoryName(CatId category);
+OSTRIAVIEWER_CORE_EXPORT QString categoryName(CatId category);
 
 /// Writes one entry to the sink. Thread-safe.
 /// Without a sink, entries go to Qt's logging under the category's name, where levels 0 to 3 are
 /// debug, info, warning and critical, and level 4 is critical too, as it must not end the process.
-void createLogEntry(ELogLevel level, CatId category, const QString& text);
+OSTRIAVIEWER_CORE_EXPORT void createLogEntry(ELogLevel level, CatId category, const QString& text);
 
 /// Receives every entry, on the thread that writes it. Must be thread-safe and must not log.
 using LogSink = std::function<void(ELogLevel level, const QString& category, const QString& text)>;
 
 /// Installs a sink, or with an empty one removes it. Thread-safe.
 /// \return the sink installed before, so that it can be put back
-LogSink installLogSink(LogSink sink);
+OSTRIAVIEWER_CORE_EXPORT LogSink installLogSink(LogSink sink);
 
 } // namespace Core::Logging

@@ -2,6 +2,7 @@
 // Where the host's services are found.
 #pragma once
 
+#include "coreexport.h"
 #include "iservice.h"
 
 #include <QList>
@@ -11,7 +12,7 @@
 namespace Core::Service {
 
 /// The list of all services. Thread-safe.
-class CServiceRegistry
+class OSTRIAVIEWER_CORE_EXPORT CServiceRegistry
 {
 public:
     /// \return  false if it is null or stands in the list already
