@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calibrationinterface.h"
+#include "calibrationresultsinterface.h"
 #include "calibrationsettings.h"
 #include "camerainterface.h"
 #include "colorcalibrationv1.h"
@@ -29,7 +30,10 @@ class ChartDiscriminator;
 /// Thread-safe: every operation takes the recursive mutex. Signals are emitted on the caller's
 /// thread, changes of parameters and the loss of the camera on the thread that the object lives in.
 /// The thread that this object is runs an idle event loop.
-class ColorCorrectionModelImpl : public QThread, public CameraInterface, public CalibrationInterface
+class ColorCorrectionModelImpl : public QThread,
+                                 public CameraInterface,
+                                 public CalibrationInterface,
+                                 public CalibrationResultsInterface
 {
     Q_OBJECT
 
@@ -80,6 +84,12 @@ public:
     bool RestoreDetectedExposureAndGain() override;
     bool StoreDetectedExposureAndGain() override;
 
+    QJsonObject GetCalibrationResultsJson() override;
+    QJsonObject GetAvailableUserSetsJson() override;
+    bool StoreSettingsInUserSet(const QString& name, bool setAsDefault) override;
+    bool SaveSettingsToFile(const QString& folder) override;
+    bool SaveSummaryToFile(const QString& folder) override;
+
 signals:
     void Gray80PercentHitRateChanged(double value) override;
     void ExposureTimeValueChanged(double value) override;
@@ -119,6 +129,7 @@ private:
     bool grabAndMeasure(Image& target, bool triggered);
     int collectColors(QVector<QColor>& out, bool grabImage);
     void writeCalibration();
+    QJsonArray userSets() const;
 
     QPointer<ConvertingImageCamera> m_imageCamera;
     bool m_attachedToOpenCamera = false;
