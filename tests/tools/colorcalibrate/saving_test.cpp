@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What "calibrate" saves, and what it says of what it cannot save.
 #include "cameras.h"
+#include "command.h"
 #include "commandtest.h"
 
 #include <QDir>
@@ -9,7 +10,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
@@ -50,36 +50,39 @@ protected:
     QStringList savedFiles() const
     {
         QStringList files;
-        QDirIterator each(m_folder.path(), QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories);
         while (each.hasNext())
             files.append(QFileInfo(each.next()).fileName());
         files.sort();
         return files;
     }
 
-    static QString featureOf(const QString& feature)
+    /// What the camera stands at when the next program opens it.
+    struct Start
+    {
+        QString userSet;
+        double gamma = 0.0;
+    };
+
+    static Start nextStart()
     {
         const ToolCameras cameras;
         const auto found = cameras.find(camera);
         EXPECT_TRUE(found->open());
-        QString text;
-        found->parameterCollection()->saveFeatures(text, QStringLiteral("@CameraDevice"));
+        const auto features = found->parameterCollection();
+        const Start start{features->enumerationParameter(QStringLiteral("UserSetDefault"))->value(),
+                          features->floatParameter(QStringLiteral("Gamma"))->value()};
         found->close();
-        for (const QString& line : text.split(QLatin1Char('\n')))
-            if (line.startsWith(feature + QLatin1Char('\t')))
-                return line.section(QLatin1Char('\t'), 1);
-        return {};
+        return start;
     }
-
-    QTemporaryDir m_folder;
 };
 
 } // namespace
 
 TEST_F(Saving, WritesSettingsAndSummary)
 {
-    const Outcome outcome = calibrate({QStringLiteral("--save-settings"), m_folder.path(),
-                                       QStringLiteral("--save-summary"), m_folder.path()});
+    const Outcome outcome = calibrate({QStringLiteral("--save-settings"), folder.path(),
+                                       QStringLiteral("--save-summary"), folder.path()});
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     EXPECT_EQ(
         savedFiles(),
@@ -90,8 +93,8 @@ TEST_F(Saving, WritesSettingsAndSummary)
 
 TEST_F(Saving, MakesTheFolderThatIsNamed)
 {
-    const QString folder = m_folder.filePath(QStringLiteral("new/Patient \"Ä\" 画像"));
-    const Outcome outcome = calibrate({QStringLiteral("--save-settings"), folder});
+    const QString made = path(QStringLiteral("new/Patient \"Ä\" 画像"));
+    const Outcome outcome = calibrate({QStringLiteral("--save-settings"), made});
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("Calibrated.cst")});
 }
@@ -112,27 +115,29 @@ TEST_F(Saving, TellsTheResultsObject)
 
 TEST_F(Saving, TheCameraComesUpCalibratedFromItsDefaultUserSet)
 {
-    EXPECT_EQ(featureOf(QStringLiteral("UserSetDefault")), QStringLiteral("Default"));
-    const QString before = featureOf(QStringLiteral("Gamma"));
+    const Start before = nextStart();
+    EXPECT_EQ(before.userSet, QStringLiteral("Default"));
     const Outcome outcome = calibrate(
         {QStringLiteral("--user-set"), QStringLiteral("UserSet2"), QStringLiteral("--default")});
     ASSERT_EQ(outcome.code, 0) << outcome.err;
-    EXPECT_EQ(featureOf(QStringLiteral("UserSetDefault")), QStringLiteral("UserSet2"));
     const double calibrated = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out))
                                   .object()
                                   .value(QStringLiteral("gamma"))
                                   .toDouble();
-    EXPECT_NEAR(featureOf(QStringLiteral("Gamma")).toDouble(), calibrated, 0.01);
-    EXPECT_NE(featureOf(QStringLiteral("Gamma")), before);
+    const Start after = nextStart();
+    EXPECT_EQ(after.userSet, QStringLiteral("UserSet2"));
+    EXPECT_NEAR(after.gamma, calibrated, 0.01);
+    EXPECT_NE(after.gamma, before.gamma);
 }
 
 TEST_F(Saving, AUserSetThatIsNotTheDefaultWaitsToBeLoaded)
 {
-    const QString before = featureOf(QStringLiteral("Gamma"));
+    const Start before = nextStart();
     const Outcome outcome = calibrate({QStringLiteral("--user-set"), QStringLiteral("UserSet1")});
     ASSERT_EQ(outcome.code, 0) << outcome.err;
-    EXPECT_EQ(featureOf(QStringLiteral("UserSetDefault")), QStringLiteral("Default"));
-    EXPECT_EQ(featureOf(QStringLiteral("Gamma")), before);
+    const Start after = nextStart();
+    EXPECT_EQ(after.userSet, QStringLiteral("Default"));
+    EXPECT_EQ(after.gamma, before.gamma);
 }
 
 TEST_F(Saving, NamesTheUserSetsThatThereAreBeforeItTouchesTheCamera)
@@ -145,7 +150,7 @@ TEST_F(Saving, NamesTheUserSetsThatThereAreBeforeItTouchesTheCamera)
 
 TEST_F(Saving, RefusesFoldersItCannotUseBeforeItTouchesTheCamera)
 {
-    QFile file(m_folder.filePath(QStringLiteral("file")));
+    QFile file(path(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const Outcome outcome = calibrate({QStringLiteral("--save-summary"), file.fileName()});
     EXPECT_EQ(outcome.code, WorkFailed);
@@ -156,7 +161,7 @@ TEST_F(Saving, RefusesFoldersItCannotUseBeforeItTouchesTheCamera)
 
 TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
 {
-    QFile file(m_folder.filePath(QStringLiteral("file")));
+    QFile file(path(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     const Outcome outcome = calibrate(
         {QStringLiteral("--save-settings"), file.fileName() + QStringLiteral("/below"),
@@ -164,5 +169,5 @@ TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
     EXPECT_EQ(outcome.code, WorkFailed);
     EXPECT_THAT(outcome.err, HasSubstr("the camera is calibrated and stays so"));
     EXPECT_THAT(outcome.err, HasSubstr("file/below"));
-    EXPECT_EQ(featureOf(QStringLiteral("UserSetDefault")), QStringLiteral("UserSet3"));
+    EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
 }
