@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Wizard, BundledPicture,
                                          Picture{":/ColCal/icons/cct_icon_22x22", 22, 22},
                                          Picture{":/ColCal/imageslider", 16, 16},
                                          Picture{":/ColCal/singleshot", 16, 16},
-                                         Picture{":/ColCal/step1Toolbg", 260, 96},
+                                         Picture{":/ColCal/step1Toolbg", 260, 80},
                                          Picture{":/ColCal/targetpointer", 12, 56},
                                          Picture{":/ColCal/targetvalue", 128, 70},
                                          Picture{":/ColCal/tavrin-logo", 283, 92}));
