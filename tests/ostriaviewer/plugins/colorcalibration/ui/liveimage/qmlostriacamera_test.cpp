@@ -200,7 +200,7 @@ TEST_F(QmlOstriaCamera, GoesOnAtANewSizeWithoutCountingAsStarted)
 
     // Not running: now a single grab takes the place of the continuous worker.
     m_item->singleGrab();
-    ASSERT_TRUE(eventually([&] { return m_camera.triggered().back(); }));
+    ASSERT_TRUE(eventually([&]() -> bool { return m_camera.triggered().back(); }));
 }
 
 TEST_F(QmlOstriaCamera, RestartsItsWorkerAtAStartAfterTheSizeChanged)

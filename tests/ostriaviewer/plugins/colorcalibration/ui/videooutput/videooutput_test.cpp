@@ -76,9 +76,8 @@ TEST_F(LiveImageOnScreen, ShowsNoFrameThatIsPartOfTwoImages)
 {
     m_camera.answerAll([](int number) { return plain(number % 2 ? red : blue, QSize(160, 120)); });
     m_item->startGrab();
-    ASSERT_TRUE(eventually([&] {
-        return m_window->isUniform(m_window->seen()) && m_window->seen().pixel(middle) != white;
-    }));
+    ASSERT_TRUE(eventually(
+        [&] { return isUniform(m_window->seen()) && m_window->seen().pixel(middle) != white; }));
     QSet<QRgb> colors;
     for (int i = 0; i < 60 || colors.size() < 2; ++i) {
         const QImage seen = m_window->seen();
