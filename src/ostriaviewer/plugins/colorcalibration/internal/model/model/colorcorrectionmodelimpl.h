@@ -12,6 +12,7 @@
 #include "iparametercollection.h"
 #include "patchcolors.h"
 
+#include <QJsonArray>
 #include <QMutex>
 #include <QPointer>
 #include <QRecursiveMutex>
@@ -22,6 +23,7 @@
 
 namespace ColorCalibration {
 
+class CalibrationResult;
 class CameraJustify;
 class ChartDiscriminator;
 
@@ -130,6 +132,10 @@ private:
     int collectColors(QVector<QColor>& out, bool grabImage);
     void writeCalibration();
     QJsonArray userSets() const;
+    QJsonObject collectResults();
+
+    /// \return  false if there are none and they cannot be fetched
+    bool haveResults();
 
     QPointer<ConvertingImageCamera> m_imageCamera;
     bool m_attachedToOpenCamera = false;
@@ -148,6 +154,9 @@ private:
     QVector<QColor> m_initialColors;
     CalibrationSettings m_settings;
     bool m_srgbGammaApplied = false;
+    std::unique_ptr<CalibrationResult> m_result;
+    /// What was fetched last; empty before, and again from the next calibration on.
+    QJsonObject m_resultsObject;
     Image m_initialImage;
     Image m_latestImage;
     double m_detectedGain = -1.0;

@@ -3,8 +3,10 @@
 #include "colorcorrectionmodelimpl.h"
 
 #include "baseexception.h"
+#include "calibrationresult.h"
 #include "camerajustify.h"
 #include "guarded.h"
+#include "patchresults.h"
 
 #include <QJsonArray>
 #include <QMutexLocker>
@@ -15,7 +17,40 @@ namespace ColorCalibration {
 
 QJsonObject ColorCorrectionModelImpl::GetCalibrationResultsJson()
 {
-    return {};
+    const QMutexLocker lock(&m_mutex);
+    return guarded("Get calibration results failed.",
+                   "ColorCorrectionModelImpl::GetCalibrationResultsJson", QJsonObject(), [this] {
+                       if (!isCameraOpen())
+                           return QJsonObject();
+                       m_resultsObject = collectResults();
+                       return m_resultsObject;
+                   });
+}
+
+QJsonObject ColorCorrectionModelImpl::collectResults()
+{
+    QVector<QColor> targets;
+    GetTargetColorPatchValues(targets);
+    QVector<QColor> current;
+    GetCurrentColorPatchValues(current);
+    const PatchResults patches = patchResults(m_initialColors, targets, current);
+
+    m_imageCamera->StopGrabbing();
+    const QString original = justify().BackupText(false);
+    const QString calibrated = justify().SaveFeaturesToString();
+    m_result->SetOriginalSettings(original);
+    m_result->SetCalibratedSettings(calibrated);
+    QJsonObject results = m_result->SettingsToJson();
+    results.insert(QStringLiteral("Colors"), patches.colors);
+    results.insert(QStringLiteral("PreciseColors"), patches.preciseColors);
+    return results;
+}
+
+bool ColorCorrectionModelImpl::haveResults()
+{
+    if (m_resultsObject.isEmpty())
+        GetCalibrationResultsJson();
+    return !m_resultsObject.isEmpty();
 }
 
 QJsonObject ColorCorrectionModelImpl::GetAvailableUserSetsJson()
@@ -58,14 +93,20 @@ bool ColorCorrectionModelImpl::StoreSettingsInUserSet(const QString& name, bool 
 
 bool ColorCorrectionModelImpl::SaveSettingsToFile(const QString& folder)
 {
-    Q_UNUSED(folder)
-    return false;
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::SaveSettingsToFile", false, [&] {
+        return isCameraOpen() && haveResults() && m_result->SaveSettingsFile(folder);
+    });
 }
 
 bool ColorCorrectionModelImpl::SaveSummaryToFile(const QString& folder)
 {
-    Q_UNUSED(folder)
-    return false;
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::SaveSummaryToFile", false, [&] {
+        return isCameraOpen() && haveResults() &&
+               m_result->SaveSummary(folder, m_initialImage.toQImage(), m_latestImage.toQImage(),
+                                     m_resultsObject);
+    });
 }
 
 } // namespace ColorCalibration
