@@ -22,6 +22,17 @@ int show(const ParsedArguments& parsed)
     return isFailure ? 2 : 0;
 }
 
+// Qt would end the program with words for programmers.
+bool hasScreen()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+#else
+    return true;
+#endif
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -38,6 +49,11 @@ int main(int argc, char** argv)
         const ParsedArguments early = Viewer::parseArguments(QCoreApplication::arguments());
         if (early.action == ParsedArguments::ShowText)
             return show(early);
+    }
+    if (!hasScreen()) {
+        std::cerr << "ostriaviewer: there is no screen, as neither DISPLAY nor WAYLAND_DISPLAY is "
+                     "set. Start it from a desktop, or use colorcalibrate in the terminal.\n";
+        return 1;
     }
     const QApplication application(argc, argv);
     const ParsedArguments parsed = Viewer::parseArguments(QCoreApplication::arguments());

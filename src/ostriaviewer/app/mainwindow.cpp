@@ -33,6 +33,8 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     , m_commands(new CameraCommands(parts.cameras, parts.selector, this))
     , m_selectorPanel(new CameraSelectorPanel(parts.cameras, parts.selector, this))
     , m_session(new LiveSession(parts.cameras, parts.selector, *m_view, this))
+    , m_recording(new RecordingCommands(parts.cameras, *m_commands, parts.settings, this))
+    , m_features(new FeaturePanel(parts.cameras, parts.selector, this))
     , m_menu(new MainMenu(*menuBar(), parts.menus, *m_commands, *m_view, this))
     , m_tools(addToolBar(QString()))
 {
@@ -45,13 +47,14 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     m_cameraDock = addPanel(Qt::LeftDockWidgetArea, "camerasPanel", m_selectorPanel);
     m_messageDock = addPanel(Qt::BottomDockWidgetArea, "messagesPanel",
                              new MessageLogPanel(&parts.messages, this));
+    m_featureDock = addPanel(Qt::RightDockWidgetArea, "featuresPanel", m_features);
     makeToolBar();
     makeStatusBar();
     publishContextMenu();
     makeConnections();
     retranslate();
     resize(1200, 800);
-    resizeDocks({m_cameraDock}, {280}, Qt::Horizontal);
+    resizeDocks({m_cameraDock, m_featureDock}, {280, 300}, Qt::Horizontal);
     resizeDocks({m_messageDock}, {170}, Qt::Vertical);
 }
 
@@ -78,7 +81,10 @@ void MainWindow::makeToolBar()
     m_tools->addSeparator();
     m_tools->addActions(
         {m_commands->startAction(), m_commands->stopAction(), m_commands->singleAction()});
+    m_tools->addAction(m_recording->recordAction());
     m_menu->addToView(m_tools->toggleViewAction());
+    m_menu->addToCamera(m_recording->recordAction());
+    m_menu->addToCamera(m_recording->folderAction());
 }
 
 void MainWindow::makeStatusBar()
@@ -110,6 +116,10 @@ void MainWindow::makeConnections()
     connect(m_commands, &CameraCommands::failed, this, &MainWindow::showFailure);
     connect(m_menu, &MainMenu::savePictureRequested, this, &MainWindow::savePicture);
     connect(m_menu, &MainMenu::quitRequested, this, &QWidget::close);
+    connect(&m_parts.selector, &DeviceSelectorService::selectionChanged, m_recording,
+            &RecordingCommands::update);
+    connect(m_recording, &RecordingCommands::folderRequested, this,
+            &MainWindow::chooseRecordingFolder);
     connect(m_view, &LiveView::pixelHovered, this, &MainWindow::showPixel);
     connect(m_view, &LiveView::scaleChanged, this, &MainWindow::showScale);
     connect(m_session, &LiveSession::rateMeasured, this, &MainWindow::showRate);
@@ -164,6 +174,14 @@ void MainWindow::savePicture()
         showFailure(tr("%1 could not be written. Choose another folder or another kind of file, "
                        "or make room on the disk.")
                         .arg(QDir::toNativeSeparators(file)));
+}
+
+void MainWindow::chooseRecordingFolder()
+{
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Recording Folder"), m_recording->folder());
+    if (!folder.isEmpty())
+        m_recording->setFolder(folder);
 }
 
 void MainWindow::showPixel(const QPoint& pixel)
@@ -224,8 +242,10 @@ void MainWindow::retranslate()
     m_view->setAccessibleName(tr("Live view"));
     m_cameraDock->setWindowTitle(tr("Cameras"));
     m_messageDock->setWindowTitle(tr("Messages"));
+    m_featureDock->setWindowTitle(tr("Features"));
     m_tools->setWindowTitle(tr("Camera tools"));
     m_commands->retranslate();
+    m_recording->retranslate();
     m_menu->retranslate();
     m_session->retranslate();
     showScale();

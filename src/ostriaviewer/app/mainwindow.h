@@ -6,11 +6,13 @@
 #include "cameralist.h"
 #include "cameraselectorpanel.h"
 #include "deviceselectorservice.h"
+#include "featurepanel.h"
 #include "livesession.h"
 #include "liveview.h"
 #include "mainmenu.h"
 #include "menuservice.h"
 #include "messagelogmodel.h"
+#include "recordingcommands.h"
 #include "viewersettings.h"
 
 #include <QDockWidget>
@@ -50,6 +52,8 @@ public:
     MainMenu& menu() { return *m_menu; }
     LiveView& liveView() { return *m_view; }
     LiveSession& session() { return *m_session; }
+    RecordingCommands& recording() { return *m_recording; }
+    FeaturePanel& features() { return *m_features; }
 
     /// Adds a panel that can be moved, hidden and shown by the View menu.
     /// \param name    of the panel in the remembered layout
@@ -72,6 +76,7 @@ private:
     void makeConnections();
     void publishContextMenu();
     void savePicture();
+    void chooseRecordingFolder();
     void showPixel(const QPoint& pixel);
     void showScale();
     void showRate(double perSecond);
@@ -84,10 +89,13 @@ private:
     CameraCommands* m_commands;
     CameraSelectorPanel* m_selectorPanel;
     LiveSession* m_session;
+    RecordingCommands* m_recording;
+    FeaturePanel* m_features;
     MainMenu* m_menu;
     QToolBar* m_tools;
     QDockWidget* m_cameraDock;
     QDockWidget* m_messageDock;
+    QDockWidget* m_featureDock;
     QLabel* m_pixel;
     QLabel* m_rate;
     QLabel* m_scale;

@@ -157,7 +157,7 @@ QString PluginManager::load(const PluginMetaData& data, const QString& language)
 {
     auto loader = std::make_unique<QPluginLoader>(data.file);
     loader->setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
-    auto* plugin = qobject_cast<IPlugin*>(loader->instance());
+    auto* plugin = dynamic_cast<IPlugin*>(loader->instance());
     if (!plugin) {
         const QString reason =
             loader->isLoaded() ? tr("Its main class is not what it says.") : loader->errorString();

@@ -70,6 +70,14 @@ void ViewerApplication::makeConnections()
     connect(menu, &MainMenu::aboutRequested, this, &ViewerApplication::showAbout);
     connect(&m_window->commands(), &CameraCommands::failed, this,
             [this](const QString& text) { m_log->addOwn(Core::Logging::Error, text); });
+    connect(&m_window->recording(), &RecordingCommands::reported, this,
+            [this](const QString& text, bool isFailure) {
+                m_log->addOwn(isFailure ? Core::Logging::Error : Core::Logging::Information, text);
+                if (isFailure)
+                    m_window->showFailure(text);
+            });
+    connect(&m_window->features(), &FeaturePanel::refused, this,
+            [this](const QString& reason) { warn(reason); });
     connect(&m_window->session(), &LiveSession::frameFailed, this,
             [this](const HostCameraPtr& camera, const QString& reason) {
                 warn(tr("A picture of %1 failed: %2").arg(camera->displayName(), reason));

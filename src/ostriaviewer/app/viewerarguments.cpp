@@ -20,7 +20,8 @@ ParsedArguments parseArguments(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         tr("Shows the pictures of cameras, and what plugins do with them."));
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  tr("Show this text."));
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption scene(QStringLiteral("scene"),
                                    tr("Let the emulated cameras see this image."), tr("image"));
@@ -28,7 +29,7 @@ ParsedArguments parseArguments(const QStringList& arguments)
                                      tr("Load plugins from this folder alone."), tr("folder"));
     const QCommandLineOption camera(
         QStringLiteral("camera"), tr("Open this camera and show its picture at once."), tr("name"));
-    parser.addOptions({scene, plugins, camera});
+    parser.addOptions({help, scene, plugins, camera});
 
     ParsedArguments result;
     const bool isUnderstood = parser.parse(arguments);
