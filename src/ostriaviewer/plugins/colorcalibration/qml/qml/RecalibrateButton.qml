@@ -9,21 +9,21 @@ Button {
     objectName: "recalibrateButton"
 
     /// The page that holds it, with setEnabled and toolTipStandard.
-    property Item page
+    property Item owner
 
     width: 2 * mButtonWidth + margin
     height: mButtonHeight
     style: buttonStyle
     text: tAutoCalibration
     visible: qmlModelInterface.useAutoCalibration
-    onHoveredChanged: hovered ? Utility.showToolTip(page, button, width / 2, height / 2,
+    onHoveredChanged: hovered ? Utility.showToolTip(owner, button, width / 2, height / 2,
                                                     tAutoCalibrationToolTip)
                               : Utility.hideToolTip()
 
     function start() {
-        page.setEnabled(false)
+        owner.setEnabled(false)
         if (!qmlModelInterface.autoAdjustGray80PercentPatch()) {
-            page.setEnabled(true)
+            owner.setEnabled(true)
             modelError.text = tAutoAdjustValuesImpossible
         }
     }

@@ -218,7 +218,7 @@ Item {
         anchors.right: parent.right
         anchors.bottom: singleShot.top
         anchors.bottomMargin: margin
-        page: page
+        owner: page
         onClicked: start()
     }
 
