@@ -62,6 +62,7 @@ function cleanUpQml() {
 }
 
 // Calibrates again with the grid and the brightness as they are; the settings come back if it fails.
+// Returns whether it succeeded.
 function autoCalibrate() {
     var errorText = ""
     if (!qmlModelInterface.applyInitialCameraImageAndPatchValues())
@@ -83,11 +84,12 @@ function autoCalibrate() {
         success = false
     }
     if (success)
-        return
+        return true
     console.log("Calibration process failed: Restore camera settings.")
     qmlModelInterface.restoreSettingsBackup()
     modelError.text = errorText
     modelError.open()
+    return false
 }
 
 function setPageEnabled(enabled) {
