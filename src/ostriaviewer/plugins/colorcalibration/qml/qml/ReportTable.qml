@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+// A table of calibration results: one of several in the same place, of which one is shown.
+import QtQuick 2.6
+import QtQuick.Controls 1.4
+
+TableView {
+    id: table
+
+    /// Place of the report in the list of reports, and the one that is chosen there.
+    property int index
+    property int shownIndex
+
+    visible: index === shownIndex
+    frameVisible: false
+    selectionMode: SelectionMode.SingleSelection
+
+    function scrollSideways(step) {
+        var rightmost = Math.max(0, flickableItem.contentWidth - viewport.width)
+        flickableItem.contentX = Math.max(0, Math.min(rightmost, flickableItem.contentX + step))
+    }
+
+    Keys.onLeftPressed: scrollSideways(-mTableColumnMinWidth)
+    Keys.onRightPressed: scrollSideways(mTableColumnMinWidth)
+    // The view keeps this key to itself as soon as a row is current.
+    Keys.onReturnPressed: navigation.jumpNext()
+
+    rowDelegate: Rectangle {
+        height: 1.8 * mDefaultPixelSize
+        color: styleData.selected ? cTavrinGrey
+                                  : styleData.alternate ? palette.alternateBase : palette.base
+    }
+
+    itemDelegate: Item {
+        implicitWidth: value.implicitWidth + margin
+
+        Text {
+            id: value
+            anchors.fill: parent
+            anchors.leftMargin: margin / 2
+            verticalAlignment: Text.AlignVCenter
+            elide: styleData.elideMode
+            color: palette.text
+            font.pixelSize: mDefaultPixelSize
+            text: styleData.value !== undefined ? styleData.value : ""
+        }
+    }
+
+    headerDelegate: Rectangle {
+        implicitWidth: title.implicitWidth + margin
+        height: 2 * mDefaultPixelSize
+        color: cTavrinLightGrey
+
+        Text {
+            id: title
+            anchors.fill: parent
+            anchors.leftMargin: margin / 2
+            verticalAlignment: Text.AlignVCenter
+            elide: Text.ElideRight
+            color: palette.text
+            font.pixelSize: mDefaultPixelSize
+            text: styleData.value
+        }
+
+        Rectangle {
+            anchors.right: parent.right
+            width: 1
+            height: parent.height
+            color: cStepColorLight
+        }
+    }
+
+    SystemPalette {
+        id: palette
+    }
+
+    Rectangle {
+        objectName: "frame"
+        parent: table
+        anchors.fill: parent
+        z: 1
+        color: "transparent"
+        border.width: 1
+        border.color: table.activeFocus ? "black" : cTavrinBorderGrey
+    }
+}
