@@ -13,6 +13,7 @@
 #include "patchcolorconversion.h"
 #include "patchdeltas.h"
 #include "patchtable.h"
+#include "saving.h"
 #include "settingsguard.h"
 #include "settingstext.h"
 #include "terminal.h"
@@ -59,8 +60,10 @@ void addOptions(CommandLine& line)
     line.addOption(QStringLiteral("scene"),
                    QStringLiteral("What emulated cameras see instead of the chart."),
                    QStringLiteral("image"));
+    addSavingOptions(line);
     line.addFlag(QStringLiteral("json"),
-                 QStringLiteral("Print camera, grid, Delta E before and after, and settings."));
+                 QStringLiteral("Print camera, grid, Delta E before and after, settings, and the "
+                                "results object that \"colorcalibrate report\" reads."));
 }
 
 SequenceOptions readOptions(const CommandLine& line)
@@ -105,26 +108,24 @@ void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
 }
 
 Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera,
-                 const SequenceOptions& options, std::ostream& err)
+                 const SequenceOptions& options, SavingOptions saving, std::ostream& err)
 {
     Report report;
     report.camera = camera->displayName();
     SettingsGuard guard(camera);
     requireSupported(cameras, camera);
+    resolveUserSet(camera, saving);
     report.sfnc = camera->parameterCollection()->sfncVersion().toString();
 
     const Interruption interruption;
     ColorCorrectionModel model;
     model.SetCameraStatusService(cameras.statusService());
     model.SetCameraControlService(cameras.controlService());
-    const bool showProgress = isStandardErrorTerminal();
-    CalibrationSequence sequence(
-        model,
-        [&](const QString& step) {
-            if (showProgress)
-                err << step.toStdString() << std::endl;
-        },
-        [] { return Interruption::isRequested(); });
+    const auto progress = [&err, isShown = isStandardErrorTerminal()](const QString& step) {
+        if (isShown)
+            err << step.toStdString() << std::endl;
+    };
+    CalibrationSequence sequence(model, progress, [] { return Interruption::isRequested(); });
     try {
         report.result = sequence.run(camera, options);
     } catch (const CommandError& error) {
@@ -135,6 +136,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     report.settings = model.LastCalibration();
     report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
     report.after = deltasToTargets(toPatchColors(report.result.currentColors, true));
+    saveOutcome(model, saving, progress);
     model.Close();
     return report;
 }
@@ -162,6 +164,7 @@ QJsonObject toJson(const Report& report)
     json.insert(QStringLiteral("grid"), gridJson(report.result.grid));
     json.insert(QStringLiteral("before"), deltasJson(report.before));
     json.insert(QStringLiteral("after"), deltasJson(report.after));
+    json.insert(QStringLiteral("results"), report.result.results);
     return json;
 }
 
@@ -190,8 +193,9 @@ void calibrateCommand(const QStringList& arguments, const Streams& streams)
         return;
     const QString name = line.requiredValue(QStringLiteral("camera"));
     const SequenceOptions options = readOptions(line);
+    const SavingOptions saving = readSavingOptions(line);
     const ToolCameras cameras = makeCameras(line);
-    const Report report = calibrate(cameras, cameras.find(name), options, streams.err);
+    const Report report = calibrate(cameras, cameras.find(name), options, saving, streams.err);
     if (line.isSet(QStringLiteral("json")))
         streams.out << toJsonText(toJson(report)).toStdString() << "\n";
     else

@@ -220,6 +220,13 @@ SequenceResult CalibrationSequence::measureOutcome()
                    result.initialColors.size() == ColorCalibration::PatchCount;
         },
         "the patches could not be measured; is the whole chart in the image, and large enough?");
+    step(
+        "Collecting the results",
+        [&] {
+            result.results = m_model.GetCalibrationResultsJson();
+            return !result.results.isEmpty();
+        },
+        "the settings before and after calibration could not be read");
     result.grid = m_model.GetGridPosition();
     return result;
 }

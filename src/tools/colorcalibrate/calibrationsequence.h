@@ -7,6 +7,7 @@
 #include "icamera.h"
 
 #include <QColor>
+#include <QJsonObject>
 #include <QString>
 #include <QVector>
 
@@ -27,6 +28,7 @@ struct SequenceResult
     ColorCalibration::TrapezoidPoints grid;
     QVector<QColor> initialColors; ///< before, as the camera showed them
     QVector<QColor> currentColors; ///< after
+    QJsonObject results;           ///< as CalibrationResultsInterface has it
 };
 
 /// Calibrates one camera from opening to the measurement of the outcome.

@@ -7,6 +7,7 @@
 #include "findcommand.h"
 #include "listcommand.h"
 #include "measurecommand.h"
+#include "reportcommand.h"
 
 #include <algorithm>
 #include <array>
@@ -24,12 +25,13 @@ struct Subcommand
     void (*run)(const QStringList& arguments, const Streams& streams);
 };
 
-constexpr std::array<Subcommand, 5> subcommands{{
+constexpr std::array<Subcommand, 6> subcommands{{
     {"calibrate", "the full calibration of a camera", calibrateCommand},
     {"compute", "camera settings from 24 measured patch colors", computeCommand},
     {"find", "the corners of the chart in an image", findCommand},
     {"list", "the cameras that can be seen", listCommand},
     {"measure", "the 24 patch colors of an image of the chart", measureCommand},
+    {"report", "the report of an earlier calibration, again", reportCommand},
 }};
 
 void writeHelp(std::ostream& out)

@@ -139,3 +139,13 @@ function showToolTip(page, item, mouseX, mouseY, text) {
 function hideToolTip() {
     standardToolTip.visible = false
 }
+
+// The path in a URL, as the native side takes it.
+function pathOfUrl(url) {
+    var text = url.toString()
+    var path = text.replace(/^(file:\/{3})|(qrc:\/{2})|(http:\/{2})/, "")
+    // Where paths begin with a slash, the third slash is part of the path.
+    if (path !== text && text.indexOf("file:///") === 0 && Qt.platform.os !== "windows")
+        path = "/" + path
+    return decodeURIComponent(path)
+}

@@ -335,6 +335,11 @@ void CameraJustify::RestoreBackup(bool initial)
         LoadFeaturesFromString(backup(initial));
 }
 
+QString CameraJustify::BackupText(bool initial) const
+{
+    return initial ? m_initialBackup : m_backup;
+}
+
 QString CameraJustify::SaveFeaturesToString()
 {
     QString text;

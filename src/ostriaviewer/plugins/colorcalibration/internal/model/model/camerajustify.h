@@ -76,6 +76,10 @@ public:
     /// Writes a backup to the camera; nothing if it is empty.
     void RestoreBackup(bool initial);
 
+    /// \param initial  which of the two backups
+    /// \return  feature stream text; empty if there is none
+    QString BackupText(bool initial) const;
+
     /// \return  all settings as feature stream text
     QString SaveFeaturesToString();
 

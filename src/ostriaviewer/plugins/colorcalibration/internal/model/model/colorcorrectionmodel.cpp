@@ -215,4 +215,29 @@ bool ColorCorrectionModel::StoreDetectedExposureAndGain()
     return m_impl->StoreDetectedExposureAndGain();
 }
 
+QJsonObject ColorCorrectionModel::GetCalibrationResultsJson()
+{
+    return m_impl->GetCalibrationResultsJson();
+}
+
+QJsonObject ColorCorrectionModel::GetAvailableUserSetsJson()
+{
+    return m_impl->GetAvailableUserSetsJson();
+}
+
+bool ColorCorrectionModel::StoreSettingsInUserSet(const QString& name, bool setAsDefault)
+{
+    return m_impl->StoreSettingsInUserSet(name, setAsDefault);
+}
+
+bool ColorCorrectionModel::SaveSettingsToFile(const QString& folder)
+{
+    return m_impl->SaveSettingsToFile(folder);
+}
+
+bool ColorCorrectionModel::SaveSummaryToFile(const QString& folder)
+{
+    return m_impl->SaveSummaryToFile(folder);
+}
+
 } // namespace ColorCalibration

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calibrationinterface.h"
+#include "calibrationresultsinterface.h"
 #include "calibrationsettings.h"
 #include "camerainterface.h"
 #include "icameraservices.h"
@@ -14,7 +15,10 @@ namespace ColorCalibration {
 class ColorCorrectionModelImpl;
 
 /// Forwards every call and every signal to and from its implementation. Thread-safe.
-class ColorCorrectionModel : public QObject, public CameraInterface, public CalibrationInterface
+class ColorCorrectionModel : public QObject,
+                             public CameraInterface,
+                             public CalibrationInterface,
+                             public CalibrationResultsInterface
 {
     Q_OBJECT
 
@@ -66,6 +70,12 @@ public:
     bool ExecuteWhitebalance() override;
     bool RestoreDetectedExposureAndGain() override;
     bool StoreDetectedExposureAndGain() override;
+
+    QJsonObject GetCalibrationResultsJson() override;
+    QJsonObject GetAvailableUserSetsJson() override;
+    bool StoreSettingsInUserSet(const QString& name, bool setAsDefault) override;
+    bool SaveSettingsToFile(const QString& folder) override;
+    bool SaveSummaryToFile(const QString& folder) override;
 
 signals:
     void Gray80PercentHitRateChanged(double value) override;

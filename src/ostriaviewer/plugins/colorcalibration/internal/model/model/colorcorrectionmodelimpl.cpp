@@ -3,6 +3,7 @@
 #include "colorcorrectionmodelimpl.h"
 
 #include "baseexception.h"
+#include "calibrationresult.h"
 #include "camerajustify.h"
 #include "chartdiscriminator.h"
 #include "guarded.h"
@@ -124,6 +125,7 @@ void ColorCorrectionModelImpl::attachHandle(const CameraPtr& camera, const Camer
     m_justify->DisableTestImage();
     connect(m_justify.get(), &CameraJustify::AutoBrightnessFinished, this,
             &ColorCorrectionModelImpl::AutoAdjustGray80PercentPatchFinished);
+    m_result = std::make_unique<CalibrationResult>(camera->modelName());
     connectParameterSignals();
     // The news may still be under way when this camera is closed and the next one is open.
     const unsigned opening = ++m_openings;
@@ -160,6 +162,8 @@ bool ColorCorrectionModelImpl::Close()
 void ColorCorrectionModelImpl::releaseCamera()
 {
     disconnectParameterSignals();
+    m_result.reset();
+    m_resultsObject = {};
     setJustify({});
     CameraPtr handle;
     if (m_imageCamera)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calibrationinterface.h"
+#include "calibrationresultsinterface.h"
 #include "calibrationsettings.h"
 #include "camerainterface.h"
 #include "colorcalibrationv1.h"
@@ -11,6 +12,7 @@
 #include "iparametercollection.h"
 #include "patchcolors.h"
 
+#include <QJsonArray>
 #include <QMutex>
 #include <QPointer>
 #include <QRecursiveMutex>
@@ -21,6 +23,7 @@
 
 namespace ColorCalibration {
 
+class CalibrationResult;
 class CameraJustify;
 class ChartDiscriminator;
 
@@ -29,7 +32,10 @@ class ChartDiscriminator;
 /// Thread-safe: every operation takes the recursive mutex. Signals are emitted on the caller's
 /// thread, changes of parameters and the loss of the camera on the thread that the object lives in.
 /// The thread that this object is runs an idle event loop.
-class ColorCorrectionModelImpl : public QThread, public CameraInterface, public CalibrationInterface
+class ColorCorrectionModelImpl : public QThread,
+                                 public CameraInterface,
+                                 public CalibrationInterface,
+                                 public CalibrationResultsInterface
 {
     Q_OBJECT
 
@@ -80,6 +86,12 @@ public:
     bool RestoreDetectedExposureAndGain() override;
     bool StoreDetectedExposureAndGain() override;
 
+    QJsonObject GetCalibrationResultsJson() override;
+    QJsonObject GetAvailableUserSetsJson() override;
+    bool StoreSettingsInUserSet(const QString& name, bool setAsDefault) override;
+    bool SaveSettingsToFile(const QString& folder) override;
+    bool SaveSummaryToFile(const QString& folder) override;
+
 signals:
     void Gray80PercentHitRateChanged(double value) override;
     void ExposureTimeValueChanged(double value) override;
@@ -119,6 +131,11 @@ private:
     bool grabAndMeasure(Image& target, bool triggered);
     int collectColors(QVector<QColor>& out, bool grabImage);
     void writeCalibration();
+    QJsonArray userSets() const;
+    QJsonObject collectResults();
+
+    /// \return  false if there are none and they cannot be fetched
+    bool haveResults();
 
     QPointer<ConvertingImageCamera> m_imageCamera;
     bool m_attachedToOpenCamera = false;
@@ -137,6 +154,9 @@ private:
     QVector<QColor> m_initialColors;
     CalibrationSettings m_settings;
     bool m_srgbGammaApplied = false;
+    std::unique_ptr<CalibrationResult> m_result;
+    /// What was fetched last; empty before, and again from the next calibration on.
+    QJsonObject m_resultsObject;
     Image m_initialImage;
     Image m_latestImage;
     double m_detectedGain = -1.0;

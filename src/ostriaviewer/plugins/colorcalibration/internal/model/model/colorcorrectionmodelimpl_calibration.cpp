@@ -191,6 +191,7 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                        if (!isCameraOpen())
                            return false;
                        m_currentColors.clear();
+                       m_resultsObject = {};
                        m_imageCamera->StopGrabbing();
                        m_calibration->SetStepColors(StepKey::Original,
                                                     toPatchColors(m_neutralColors, false));

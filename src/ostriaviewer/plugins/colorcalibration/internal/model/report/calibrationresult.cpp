@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+// A camera's settings before and after calibration, and the files that keep them.
+#include "calibrationresult.h"
+
+#include "reporthtml.h"
+#include "reportlog.h"
+#include "settingsfilter.h"
+#include "settingsparser.h"
+#include "summaryfiles.h"
+
+#include <QFutureSynchronizer>
+#include <QtConcurrentRun>
+
+#include <utility>
+
+namespace ColorCalibration {
+namespace {
+
+/// Without a name the folder would be made in the root of the file system.
+bool isNamed(const QString& directory)
+{
+    if (directory.isEmpty())
+        logReportFailure(QStringLiteral("Cannot save: no folder was chosen."));
+    return !directory.isEmpty();
+}
+
+} // namespace
+
+CalibrationResult::CalibrationResult(const QString& cameraModel, Clock clock)
+    : m_cameraModel(cameraModel)
+    , m_clock(std::move(clock))
+{}
+
+void CalibrationResult::SetOriginalSettings(const QString& text)
+{
+    m_originalSettings = FilterSettings(text);
+}
+
+void CalibrationResult::SetCalibratedSettings(const QString& text)
+{
+    m_calibratedSettings = FilterSettings(text);
+}
+
+QJsonObject CalibrationResult::SettingsToJson() const
+{
+    return {{QStringLiteral("Original"), ParseSettings(m_originalSettings)},
+            {QStringLiteral("Calibrated"), ParseSettings(m_calibratedSettings)}};
+}
+
+bool CalibrationResult::SaveSettingsFile(const QString& directory) const
+{
+    if (!isNamed(directory))
+        return false;
+    const QString folder = MakeOutputFolder(directory, QStringLiteral("Camera_Settings_Tavrin"),
+                                            m_cameraModel, m_clock());
+    return WriteTextFile(folder + QStringLiteral("/Calibrated.cst"), m_calibratedSettings);
+}
+
+bool CalibrationResult::SaveSummary(const QString& directory, const QImage& initialImage,
+                                    const QImage& latestImage, const QJsonObject& results) const
+{
+    if (!isNamed(directory))
+        return false;
+    const QDateTime now = m_clock();
+    const QString folder =
+        MakeOutputFolder(directory, QStringLiteral("Calibration_Report"), m_cameraModel, now) +
+        QLatin1Char('/');
+    if (!WriteTextFile(folder + QStringLiteral("calibrated.cst"), m_calibratedSettings))
+        return false;
+    // Nearly all of the time goes into compressing, so both images are compressed side by side; the
+    // files are still written, and fail, one after another.
+    const QFuture<QByteArray> initialPng = QtConcurrent::run(encodePng, initialImage);
+    const QFuture<QByteArray> latestPng = QtConcurrent::run(encodePng, latestImage);
+    // The pixels may be lent: they are let go of before the caller goes on.
+    QFutureSynchronizer<QByteArray> atTheEnd;
+    atTheEnd.addFuture(initialPng);
+    atTheEnd.addFuture(latestPng);
+    return WriteTextFile(folder + QStringLiteral("original.cst"), m_originalSettings) &&
+           WriteTextFile(folder + QStringLiteral("calibration_report.html"),
+                         BuildHtml(m_cameraModel, results, now)) &&
+           writePngBytes(folder + QStringLiteral("calibrated.png"), latestPng.result()) &&
+           writePngBytes(folder + QStringLiteral("original.png"), initialPng.result());
+}
+
+} // namespace ColorCalibration

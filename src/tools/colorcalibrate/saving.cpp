@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: Apache-2.0
+// What "calibrate" leaves behind: files and a user set of the camera.
+#include "saving.h"
+
+#include "failurelog.h"
+#include "iparametercollection.h"
+
+#include <QFileInfo>
+#include <QStringList>
+
+namespace ColorCalibrate {
+namespace {
+
+/// A folder that does not exist yet is made when something is saved.
+QString writableFolder(const CommandLine& line, const QString& option)
+{
+    if (!line.isSet(option))
+        return {};
+    const QString folder = line.value(option);
+    if (folder.isEmpty())
+        throw CommandError(QStringLiteral("--%1 wants a folder").arg(option), WrongUsage);
+    const QFileInfo info(folder);
+    if (info.exists() && !info.isDir())
+        throw CommandError(QStringLiteral("--%1: \"%2\" is no folder").arg(option, folder));
+    if (info.exists() && !info.isWritable())
+        throw CommandError(QStringLiteral("--%1: \"%2\" cannot be written to").arg(option, folder));
+    return info.absoluteFilePath();
+}
+
+void attempt(QStringList& failures, const QString& what, const std::function<bool()>& save)
+{
+    FailureLog log;
+    if (save())
+        return;
+    const QString reason = log.lastFailure();
+    failures.append(reason.isEmpty() ? what : QStringLiteral("%1 (%2)").arg(what, reason));
+}
+
+} // namespace
+
+void addSavingOptions(CommandLine& line)
+{
+    line.addOption(QStringLiteral("save-settings"),
+                   QStringLiteral("Save the calibrated settings as a .cst file, in a new folder "
+                                  "in this one."),
+                   QStringLiteral("dir"));
+    line.addOption(QStringLiteral("save-summary"),
+                   QStringLiteral("Save report, settings and images, in a new folder in this one."),
+                   QStringLiteral("dir"));
+    line.addOption(QStringLiteral("user-set"),
+                   QStringLiteral("Store the calibrated settings in this user set of the camera."),
+                   QStringLiteral("name"));
+    line.addFlag(QStringLiteral("default"),
+                 QStringLiteral("Let the camera start with that user set from now on."));
+}
+
+SavingOptions readSavingOptions(const CommandLine& line)
+{
+    SavingOptions options;
+    options.settingsFolder = writableFolder(line, QStringLiteral("save-settings"));
+    options.summaryFolder = writableFolder(line, QStringLiteral("save-summary"));
+    options.userSet = line.value(QStringLiteral("user-set"));
+    options.asDefault = line.isSet(QStringLiteral("default"));
+    if (options.asDefault && options.userSet.isEmpty())
+        throw CommandError(QStringLiteral("--default wants a user set: --user-set NAME"),
+                           WrongUsage);
+    return options;
+}
+
+void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options)
+{
+    if (options.userSet.isEmpty())
+        return;
+    const auto selector = camera->parameterCollection()->enumerationParameter(
+        QStringLiteral("@CameraDevice/UserSetSelector"));
+    QStringList names;
+    for (const auto& entry : selector->entries()) {
+        // Factory settings cannot be overwritten.
+        if (!entry.isSettable ||
+            !entry.name.contains(QLatin1String("userset"), Qt::CaseInsensitive))
+            continue;
+        if (options.userSet == entry.name || options.userSet == entry.displayName) {
+            options.userSet = entry.name;
+            return;
+        }
+        names.append(entry.name);
+    }
+    throw CommandError(
+        names.isEmpty()
+            ? QStringLiteral("the camera has no user set that settings can be stored in")
+            : QStringLiteral("the camera has no user set \"%1\"; there are %2")
+                  .arg(options.userSet, names.join(QStringLiteral(", "))));
+}
+
+void saveOutcome(ColorCalibration::ColorCorrectionModel& model, const SavingOptions& options,
+                 const std::function<void(const QString& step)>& progress)
+{
+    QStringList failures;
+    if (!options.settingsFolder.isEmpty()) {
+        progress(QStringLiteral("Saving the settings"));
+        attempt(failures, QStringLiteral("settings in %1").arg(options.settingsFolder),
+                [&] { return model.SaveSettingsToFile(options.settingsFolder); });
+    }
+    if (!options.summaryFolder.isEmpty()) {
+        progress(QStringLiteral("Saving the summary"));
+        attempt(failures, QStringLiteral("summary in %1").arg(options.summaryFolder),
+                [&] { return model.SaveSummaryToFile(options.summaryFolder); });
+    }
+    if (!options.userSet.isEmpty()) {
+        progress(QStringLiteral("Storing the user set"));
+        attempt(failures, QStringLiteral("user set %1").arg(options.userSet),
+                [&] { return model.StoreSettingsInUserSet(options.userSet, options.asDefault); });
+    }
+    if (!failures.isEmpty())
+        throw CommandError(
+            QStringLiteral("the camera is calibrated and stays so, but this could not be saved: %1")
+                .arg(failures.join(QStringLiteral("; "))));
+}
+
+} // namespace ColorCalibrate

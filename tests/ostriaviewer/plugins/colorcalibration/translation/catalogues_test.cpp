@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: Apache-2.0
+// The plugin's catalogues: how many messages they have, that all are translated and keep their
+// markup, and that the compiled ones answer.
+#include "catalogue.h"
+#include "markup.h"
+
+#include <QFile>
+#include <QMap>
+#include <QSet>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+using Translation::Message;
+
+namespace {
+
+const char* const languages[] = {"ja", "ko", "zh"};
+
+QString sourceOf(const QString& file)
+{
+    return QStringLiteral(OSTRIA_PLUGIN_SOURCES "/resources/%1").arg(file);
+}
+
+QVector<Message> catalogue(const QString& language)
+{
+    return Translation::readCatalogue(
+        sourceOf(QStringLiteral("translation/ColorCalibration_%1.ts").arg(language)));
+}
+
+QMap<QString, int> countsOf(const QVector<Message>& messages)
+{
+    QMap<QString, int> counts;
+    for (const Message& message : messages)
+        ++counts[message.context];
+    return counts;
+}
+
+class Catalogue : public testing::TestWithParam<const char*>
+{
+protected:
+    QString language() const { return QString::fromLatin1(GetParam()); }
+    QVector<Message> messages() const { return catalogue(language()); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, Catalogue, testing::ValuesIn(languages),
+                         [](const auto& each) { return std::string(each.param); });
+
+} // namespace
+
+TEST_P(Catalogue, HasAll140MessagesInTheirContexts)
+{
+    const QMap<QString, int> expected{
+        {QStringLiteral("ColorCorrectionToolDlg"), 4},
+        {QStringLiteral("Plugin::ColorCalibration::CColorCalibrationPlugin"), 2},
+        {QStringLiteral("Progress"), 10},
+        {QStringLiteral("QMLExposureTime"), 1},
+        {QStringLiteral("QMLGainvalue"), 1},
+        {QStringLiteral("QObject"), 15},
+        {QStringLiteral("Step3Legend"), 3},
+        {QStringLiteral("Step3ToolBox"), 27},
+        {QStringLiteral("main"), 77}};
+    EXPECT_EQ(countsOf(messages()), expected);
+    EXPECT_EQ(messages().size(), 140);
+}
+
+TEST_P(Catalogue, TranslatesEveryMessage)
+{
+    for (const Message& message : messages()) {
+        EXPECT_TRUE(message.finished) << message.source.toStdString();
+        EXPECT_FALSE(message.translation.trimmed().isEmpty()) << message.source.toStdString();
+    }
+}
+
+TEST_P(Catalogue, TellsNoMessageOfAContextTwice)
+{
+    QSet<QString> seen;
+    for (const Message& message : messages()) {
+        const QString key = message.context + QLatin1Char('\0') + message.source;
+        EXPECT_FALSE(seen.contains(key)) << message.source.toStdString();
+        seen.insert(key);
+    }
+}
+
+TEST_P(Catalogue, KeepsTagsPlaceHoldersAndLineBreaks)
+{
+    for (const Message& message : messages())
+        EXPECT_EQ(Translation::markup(message.translation), Translation::markup(message.source))
+            << message.source.toStdString();
+}
+
+TEST_P(Catalogue, NamesAControlInAnExplanationAsTheControlIsNamed)
+{
+    QMap<QString, QString> names;
+    for (const Message& message : messages())
+        names[message.source] = message.translation;
+    const QString explanation =
+        QStringLiteral("Use the slider to compare the colors in the image before and after "
+                       "calibration. Click <b>Save</b> to save all selected files and settings. "
+                       "Click <b>Finish</b> to complete the calibration. If you click "
+                       "<b>Cancel</b>, the original settings will be restored.");
+    ASSERT_TRUE(names.contains(explanation));
+    for (const char* control : {"Save", "Finish", "Cancel"}) {
+        const QString name = names[QString::fromLatin1(control)];
+        EXPECT_TRUE(names[explanation].contains(QStringLiteral("<b>%1</b>").arg(name))) << control;
+    }
+}
+
+TEST_P(Catalogue, AnswersWhenCompiledAsItsSourceSays)
+{
+    QTranslator translator;
+    ASSERT_TRUE(
+        translator.load(QStringLiteral(":/translation/ColorCalibration_%1.qm").arg(language())));
+    for (const Message& message : messages())
+        EXPECT_EQ(translator.translate(message.context.toUtf8().constData(),
+                                       message.source.toUtf8().constData()),
+                  message.translation);
+}
+
+TEST_P(Catalogue, LeavesTheTextsOfTheScriptInEnglish)
+{
+    QTranslator translator;
+    ASSERT_TRUE(
+        translator.load(QStringLiteral(":/translation/ColorCalibration_%1.qm").arg(language())));
+    EXPECT_TRUE(translator.translate("functions", "Apply initial values failed.").isNull());
+    EXPECT_TRUE(
+        translator.translate("QmlDataModelInterface", "Summary couldn’t be saved in ").isNull());
+}
+
+TEST(Catalogues, HaveAllTheSameMessages)
+{
+    const auto keys = [](const QVector<Message>& messages) {
+        QStringList list;
+        for (const Message& message : messages)
+            list.append(message.context + QLatin1Char('|') + message.source);
+        return list;
+    };
+    EXPECT_EQ(keys(catalogue(QStringLiteral("ja"))), keys(catalogue(QStringLiteral("ko"))));
+    EXPECT_EQ(keys(catalogue(QStringLiteral("ja"))), keys(catalogue(QStringLiteral("zh"))));
+}
+
+TEST(Catalogues, HaveNoEnglishMessagesAsTheCodeHasThem)
+{
+    EXPECT_TRUE(catalogue(QStringLiteral("en")).isEmpty());
+    EXPECT_TRUE(QFile::exists(QStringLiteral(":/translation/ColorCalibration_en.qm")));
+}
+
+TEST(Catalogues, KeepTheOlderSetWithAnEmptyGermanOne)
+{
+    for (const char* language : {"de", "en", "ja", "ko", "zh"})
+        EXPECT_TRUE(
+            QFile::exists(QStringLiteral(":/ColCal/languages/ColorCorrectionToolPlugin_%1.qm")
+                              .arg(QString::fromLatin1(language))))
+            << language;
+    EXPECT_TRUE(Translation::readCatalogue(
+                    sourceOf(QStringLiteral("languages/ColorCorrectionToolPlugin_de.ts")))
+                    .isEmpty());
+}

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: Apache-2.0
+// What "calibrate" saves, and what it says of what it cannot save.
+#include "cameras.h"
+#include "command.h"
+#include "commandtest.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStandardPaths>
+
+#include <gmock/gmock.h>
+
+using namespace ColorCalibrate;
+using testing::HasSubstr;
+
+namespace {
+
+const QString camera = QStringLiteral("emA1920-60ucEMU");
+
+class Saving : public CommandTest
+{
+protected:
+    Saving()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        removeUserSets();
+    }
+
+    ~Saving() override
+    {
+        removeUserSets();
+        QStandardPaths::setTestModeEnabled(false);
+    }
+
+    static void removeUserSets()
+    {
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
+    }
+
+    static Outcome calibrate(const QStringList& options)
+    {
+        return runTool(QStringList{QStringLiteral("calibrate"), QStringLiteral("--camera"), camera,
+                                   QStringLiteral("--json")} +
+                       options);
+    }
+
+    QStringList savedFiles() const
+    {
+        QStringList files;
+        QDirIterator each(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+        while (each.hasNext())
+            files.append(QFileInfo(each.next()).fileName());
+        files.sort();
+        return files;
+    }
+
+    /// What the camera stands at when the next program opens it.
+    struct Start
+    {
+        QString userSet;
+        double gamma = 0.0;
+    };
+
+    static Start nextStart()
+    {
+        const ToolCameras cameras;
+        const auto found = cameras.find(camera);
+        EXPECT_TRUE(found->open());
+        const auto features = found->parameterCollection();
+        const Start start{features->enumerationParameter(QStringLiteral("UserSetDefault"))->value(),
+                          features->floatParameter(QStringLiteral("Gamma"))->value()};
+        found->close();
+        return start;
+    }
+};
+
+} // namespace
+
+TEST_F(Saving, WritesSettingsAndSummary)
+{
+    const Outcome outcome = calibrate({QStringLiteral("--save-settings"), folder.path(),
+                                       QStringLiteral("--save-summary"), folder.path()});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(
+        savedFiles(),
+        QStringList({QStringLiteral("Calibrated.cst"), QStringLiteral("calibrated.cst"),
+                     QStringLiteral("calibrated.png"), QStringLiteral("calibration_report.html"),
+                     QStringLiteral("original.cst"), QStringLiteral("original.png")}));
+}
+
+TEST_F(Saving, MakesTheFolderThatIsNamed)
+{
+    const QString made = path(QStringLiteral("new/Patient \"Ä\" 画像"));
+    const Outcome outcome = calibrate({QStringLiteral("--save-settings"), made});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("Calibrated.cst")});
+}
+
+TEST_F(Saving, TellsTheResultsObject)
+{
+    const Outcome outcome = calibrate({});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const QJsonObject results = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out))
+                                    .object()
+                                    .value(QStringLiteral("results"))
+                                    .toObject();
+    EXPECT_EQ(results.keys(),
+              QStringList({QStringLiteral("Calibrated"), QStringLiteral("Colors"),
+                           QStringLiteral("Original"), QStringLiteral("PreciseColors")}));
+    EXPECT_EQ(results.value(QStringLiteral("Colors")).toObject().size(), 24);
+}
+
+TEST_F(Saving, TheCameraComesUpCalibratedFromItsDefaultUserSet)
+{
+    const Start before = nextStart();
+    EXPECT_EQ(before.userSet, QStringLiteral("Default"));
+    const Outcome outcome = calibrate(
+        {QStringLiteral("--user-set"), QStringLiteral("UserSet2"), QStringLiteral("--default")});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const double calibrated = QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out))
+                                  .object()
+                                  .value(QStringLiteral("gamma"))
+                                  .toDouble();
+    const Start after = nextStart();
+    EXPECT_EQ(after.userSet, QStringLiteral("UserSet2"));
+    EXPECT_NEAR(after.gamma, calibrated, 0.01);
+    EXPECT_NE(after.gamma, before.gamma);
+}
+
+TEST_F(Saving, AUserSetThatIsNotTheDefaultWaitsToBeLoaded)
+{
+    const Start before = nextStart();
+    const Outcome outcome = calibrate({QStringLiteral("--user-set"), QStringLiteral("UserSet1")});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const Start after = nextStart();
+    EXPECT_EQ(after.userSet, QStringLiteral("Default"));
+    EXPECT_EQ(after.gamma, before.gamma);
+}
+
+TEST_F(Saving, NamesTheUserSetsThatThereAreBeforeItTouchesTheCamera)
+{
+    const Outcome outcome = calibrate({QStringLiteral("--user-set"), QStringLiteral("Default")});
+    EXPECT_EQ(outcome.code, WorkFailed);
+    EXPECT_THAT(outcome.err, HasSubstr("no user set \"Default\"; there are UserSet1, UserSet2, "
+                                       "UserSet3"));
+}
+
+TEST_F(Saving, RefusesFoldersItCannotUseBeforeItTouchesTheCamera)
+{
+    QFile file(path(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const Outcome outcome = calibrate({QStringLiteral("--save-summary"), file.fileName()});
+    EXPECT_EQ(outcome.code, WorkFailed);
+    EXPECT_THAT(outcome.err, HasSubstr("is no folder"));
+    EXPECT_EQ(calibrate({QStringLiteral("--default")}).code, WrongUsage);
+    EXPECT_EQ(calibrate({QStringLiteral("--save-settings"), QString()}).code, WrongUsage);
+}
+
+TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
+{
+    QFile file(path(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const Outcome outcome = calibrate(
+        {QStringLiteral("--save-settings"), file.fileName() + QStringLiteral("/below"),
+         QStringLiteral("--user-set"), QStringLiteral("UserSet3"), QStringLiteral("--default")});
+    EXPECT_EQ(outcome.code, WorkFailed);
+    EXPECT_THAT(outcome.err, HasSubstr("the camera is calibrated and stays so"));
+    EXPECT_THAT(outcome.err, HasSubstr("file/below"));
+    EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
+}
