@@ -74,6 +74,19 @@ QColor GridDouble::colorAtPoint(int x, int y)
     return m_colorAtPoint;
 }
 
+QUrl FileDialogDouble::s_answer;
+QUrl FileDialogDouble::s_folder;
+
+void FileDialogDouble::open()
+{
+    s_folder = m_folder;
+    m_fileUrl = s_answer;
+    if (s_answer.isEmpty())
+        emit rejected();
+    else
+        emit accepted();
+}
+
 QImage OriginalImageDouble::requestImage(const QString& id, QSize* size, const QSize&)
 {
     // Nothing was fetched yet as long as the counter stands at the beginning.

@@ -10,6 +10,7 @@
 ResultsPages::ResultsPages()
 {
     QSettings().clear();
+    qmlRegisterType<FileDialogDouble>("tavrin.filedialog", 1, 0, "QMLFileDialog");
 }
 
 void ResultsPages::open(int step, const QSize& size)
@@ -51,11 +52,11 @@ QQuickItem* ResultsPages::page(const char* loader)
 QVariant ResultsPages::call(QQuickItem* object, const char* function, const QVariant& argument)
 {
     QVariant result;
-    const bool called
-        = argument.isValid()
-              ? QMetaObject::invokeMethod(object, function, Q_RETURN_ARG(QVariant, result),
-                                          Q_ARG(QVariant, argument))
-              : QMetaObject::invokeMethod(object, function, Q_RETURN_ARG(QVariant, result));
+    const bool called =
+        argument.isValid()
+            ? QMetaObject::invokeMethod(object, function, Q_RETURN_ARG(QVariant, result),
+                                        Q_ARG(QVariant, argument))
+            : QMetaObject::invokeMethod(object, function, Q_RETURN_ARG(QVariant, result));
     EXPECT_TRUE(called) << function;
     return result;
 }

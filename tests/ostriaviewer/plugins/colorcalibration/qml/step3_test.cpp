@@ -51,10 +51,7 @@ protected:
         }
     };
 
-    QQuickItem* table(int index)
-    {
-        return item(qPrintable(QString("report%1").arg(index)));
-    }
+    QQuickItem* table(int index) { return item(qPrintable(QString("report%1").arg(index))); }
 
     QObject* column(int index, int position)
     {
@@ -80,7 +77,8 @@ protected:
         for (int row = 0; row < model->rowCount(); ++row) {
             QStringList cells;
             for (const auto& one : columns(index))
-                cells << model->data(model->index(row, 0), model->roleNames().key(one.role.toUtf8()))
+                cells << model
+                             ->data(model->index(row, 0), model->roleNames().key(one.role.toUtf8()))
                              .toString();
             found << cells;
         }
@@ -147,19 +145,18 @@ TEST_F(Step3, ShowsHexadecimalColorsInDecimalAndLeavesOtherTexts)
 TEST_F(Step3, HasTheColumnsOfEachReport)
 {
     open(3);
-    const QVector<Column> colors{{"source", "Source", 75},   {"Current", "Current", 150},
-                                 {"DeltaE", "Delta E", 80},  {"DeltaC", "Delta C", 80},
+    const QVector<Column> colors{{"source", "Source", 75},     {"Current", "Current", 150},
+                                 {"DeltaE", "Delta E", 80},    {"DeltaC", "Delta C", 80},
                                  {"Initial", "Original", 150}, {"Target", "Target", 150}};
     EXPECT_EQ(columns(0), colors);
     const Column source{"source", "Source", 90};
     EXPECT_EQ(columns(1), (QVector<Column>{source, {"BlackLevel", "Black Level", 75}}));
-    EXPECT_EQ(columns(2), (QVector<Column>{source,
-                                           {"Blue", "Blue", 75},
-                                           {"Green", "Green", 75},
-                                           {"Red", "Red", 75}}));
+    EXPECT_EQ(columns(2),
+              (QVector<Column>{
+                  source, {"Blue", "Blue", 75}, {"Green", "Green", 75}, {"Red", "Red", 75}}));
     QVector<Column> matrix{source};
-    for (const char* gain : {"Gain00", "Gain01", "Gain02", "Gain10", "Gain11", "Gain12", "Gain20",
-                             "Gain21", "Gain22"})
+    for (const char* gain :
+         {"Gain00", "Gain01", "Gain02", "Gain10", "Gain11", "Gain12", "Gain20", "Gain21", "Gain22"})
         matrix << Column{gain, gain, 75};
     EXPECT_EQ(columns(3), matrix);
     QVector<Column> sectors{source};
@@ -246,6 +243,7 @@ TEST_F(Step3, MarksTheSelectedRow)
 {
     m_model.m_results = patches(24);
     open(3);
+    picture();
     select(0);
     const QPoint row = inWindow(table(0), {3, 30});
     EXPECT_EQ(picture().pixelColor(row), QColor("#a3a3a3"));

@@ -60,6 +60,8 @@ Item {
 
     function showPatch(patch) {
         colorsTable.selection.clear()
+        if (patch >= colorsModel.count)
+            return
         colorsTable.selection.select(patch)
         colorsTable.positionViewAtRow(patch, ListView.Beginning)
     }
