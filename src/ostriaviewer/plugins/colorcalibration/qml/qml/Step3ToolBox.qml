@@ -82,7 +82,7 @@ Item {
         anchors.left: reportsLabel.right
         anchors.leftMargin: margin
         y: -distanceToImage
-        width: 2 * mButtonWidth + 2 * margin
+        width: page.mainWidth - x
         height: mButtonHeight
         Accessible.name: tValueSummaries
         model: [qsTr("Colors"), qsTr("Black Level"), qsTr("White Balance"),
@@ -232,6 +232,7 @@ Item {
             index: 8
             shownIndex: reports.currentIndex
             model: lutModel
+            wrapsHeader: true
 
             ReportColumn { role: "explanation"; title: tLut; width: 1000 }
         }

@@ -105,7 +105,8 @@ Item {
 
     Item {
         id: options
-        y: margin / 2 - distanceToImage
+        // Below the check box, which leaves its usual place to the handle of the divider.
+        y: 1.4 * margin - distanceToImage
         width: page.mainWidth
         height: 3 * page.rowDistance
 
