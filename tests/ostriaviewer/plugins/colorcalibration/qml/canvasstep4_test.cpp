@@ -107,6 +107,25 @@ TEST_F(CanvasStep4, ShowsANewImageFromBefore)
     EXPECT_EQ(item("canvasLeft")->property("imageHeight").toInt(), 300);
 }
 
+TEST_F(CanvasStep4, ShowsTheImageOfEachVisit)
+{
+    openPage();
+    const auto middleIs = [&](const QColor& color) {
+        return waitFor([&] {
+            return picture().pixelColor(inWindow(item("canvasLeft"), {m_width / 2 - 5, 200})) ==
+                   color;
+        });
+    };
+    ASSERT_TRUE(middleIs(Qt::red));
+    for (const auto color : {Qt::cyan, Qt::yellow, Qt::magenta}) {
+        m_model.setActiveStep(3);
+        OriginalImageDouble::s_color = QColor(color).rgb();
+        m_model.setActiveStep(4);
+        EXPECT_TRUE(middleIs(color));
+    }
+    OriginalImageDouble::s_color = 0xffff0000;
+}
+
 TEST_F(CanvasStep4, FollowsTheMouseByDividerAndMousePosition)
 {
     openPage();

@@ -9,7 +9,8 @@
 void ModelDouble::grabOriginalImage()
 {
     m_calls.note("grabOriginalImage");
-    m_originalImageUrl = "image://cameraImageOriginal/0_1";
+    m_fetched = 1 - m_fetched;
+    m_originalImageUrl = QString("image://cameraImageOriginal/0_%1").arg(m_fetched);
     emit originalImageUrlChanged();
 }
 
@@ -87,13 +88,12 @@ void FileDialogDouble::open()
         emit accepted();
 }
 
-QImage OriginalImageDouble::requestImage(const QString& id, QSize* size, const QSize&)
+std::atomic<QRgb> OriginalImageDouble::s_color{0xffff0000};
+
+QImage OriginalImageDouble::requestImage(const QString&, QSize* size, const QSize&)
 {
-    // Nothing was fetched yet as long as the counter stands at the beginning.
-    if (id.endsWith("_0"))
-        return {};
     QImage image(400, 300, QImage::Format_RGB32);
-    image.fill(Qt::red);
+    image.fill(s_color.load());
     for (int y = 0; y < image.height(); ++y)
         image.setPixelColor(image.width() - 1, y, Qt::blue);
     for (int x = 0; x < image.width(); ++x)

@@ -16,6 +16,8 @@
 #include <QVariantList>
 #include <QVector>
 
+#include <atomic>
+
 /// Calls in the order in which they came, and the names of those that are to answer false.
 struct Calls
 {
@@ -107,6 +109,7 @@ signals:
 private:
     Calls& m_calls;
     int m_activeStep = 1;
+    int m_fetched = 0;
 };
 
 class CameraDouble : public QObject
@@ -237,7 +240,7 @@ private:
     bool m_selectFolder = false;
 };
 
-/// The image from before the calibration: red, with its last column and row blue.
+/// The image from before the calibration: of one color, with its last column and row blue.
 class OriginalImageDouble : public QQuickImageProvider
 {
 public:
@@ -246,4 +249,6 @@ public:
     {}
 
     QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
+
+    static std::atomic<QRgb> s_color;
 };

@@ -82,7 +82,7 @@ Item {
         anchors.left: reportsLabel.right
         anchors.leftMargin: margin
         y: -distanceToImage
-        width: page.mainWidth - x
+        width: Math.min(3.5 * mButtonWidth, page.mainWidth - x)
         height: mButtonHeight
         Accessible.name: tValueSummaries
         model: [qsTr("Colors"), qsTr("Black Level"), qsTr("White Balance"),
