@@ -88,8 +88,14 @@ function(ostria_add_test name)
     endif()
     gtest_discover_tests(${name}
         DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}"
-            RUN_SERIAL "${arg_SERIAL}")
+        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 RUN_SERIAL "${arg_SERIAL}")
+    # Of a list among the properties above only the first entry would arrive.
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
+    file(WRITE "${script}"
+        "if(${name}_TESTS)\n"
+        "  set_tests_properties(\${${name}_TESTS} PROPERTIES ENVIRONMENT \"${environment}\")\n"
+        "endif()\n")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
 endfunction()
 
 # A Google Benchmark program.
