@@ -5,6 +5,7 @@
 #include "colorcorrectionmodel.h"
 #include "modalbox.h"
 #include "qmldatamodelinterface.h"
+#include "qmlostriacamera.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -82,6 +83,7 @@ void ColorCorrectionToolDlg::onDialogFinish(int /*result*/)
 {
     m_running = false;
     emit m_dataModel->cleanupQML();
+    m_dataModel->camera()->stopGrab();
     if (!m_decided)
         m_dataModel->abandon();
     m_decided = false;

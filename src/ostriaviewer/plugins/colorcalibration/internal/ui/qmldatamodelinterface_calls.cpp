@@ -68,7 +68,6 @@ void QmlDataModelInterface::cancel()
 
 void QmlDataModelInterface::abandon()
 {
-    m_camera->stopGrab();
     giveSettingsBack();
 }
 

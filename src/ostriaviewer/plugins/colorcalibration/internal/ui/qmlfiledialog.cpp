@@ -2,7 +2,9 @@
 // A file dialog of the desktop as QML opens it.
 #include "qmlfiledialog.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 
 namespace ColorCalibration {
 namespace {
@@ -12,6 +14,30 @@ QList<QUrl> urlsOf(QStringList paths)
 {
     return QUrl::fromStringList(paths.replaceInStrings(QStringLiteral("%"), QStringLiteral("%25")));
 }
+
+/// A dialog whose Open button also takes a folder. Qt's own one enters it unless its file mode says
+/// otherwise; that of the system does not care.
+class FileDialog : public QFileDialog
+{
+public:
+    using QFileDialog::QFileDialog;
+
+protected:
+    void accept() override
+    {
+        if (!testOption(ShowDirsOnly)) {
+            QFileDialog::accept();
+            return;
+        }
+        if (selectedFiles().isEmpty())
+            selectFile(directory().absolutePath());
+        const QStringList chosen = selectedFiles();
+        if (chosen.size() == 1 && QFileInfo(chosen.first()).isDir())
+            QDialog::accept();
+        else
+            QFileDialog::accept();
+    }
+};
 
 } // namespace
 
@@ -61,7 +87,7 @@ void QMLFileDialog::setSelectFolder(bool selectFolder)
 
 void QMLFileDialog::open()
 {
-    QFileDialog dialog;
+    FileDialog dialog;
     if (m_selectFolder)
         dialog.setOption(QFileDialog::ShowDirsOnly);
     else

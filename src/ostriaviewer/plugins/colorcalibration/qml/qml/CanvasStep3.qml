@@ -12,6 +12,9 @@ Item {
     VideoOutput {
         id: videoOutput
         objectName: "videoOutput"
+        width: canvasStep3.transformedWidth
+        height: canvasStep3.transformedHeight
+        fillMode: VideoOutput.Stretch
         source: camera
 
         property bool initial: true
@@ -22,9 +25,7 @@ Item {
                 return
             x = canvasStep3.transformedOffsetX
             y = canvasStep3.transformedOffsetY
-            width = canvasStep3.transformedWidth
-            height = canvasStep3.transformedHeight
-            camera.size = Qt.size(width, height)
+            camera.size = Qt.size(canvasStep3.transformedWidth, canvasStep3.transformedHeight)
         }
     }
 
@@ -33,10 +34,10 @@ Item {
         objectName: "canvasStep3"
         anchors.fill: parent
 
-        property real transformedWidth: 0
-        property real transformedHeight: 0
-        property real transformedOffsetX: 0
-        property real transformedOffsetY: 0
+        property int transformedWidth: 0
+        property int transformedHeight: 0
+        property int transformedOffsetX: 0
+        property int transformedOffsetY: 0
 
         function fillPolygon(ctx, color, points) {
             // Another patch's color would be a lie, so a color that is not known leaves the image.

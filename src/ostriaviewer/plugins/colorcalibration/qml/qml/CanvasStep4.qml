@@ -10,7 +10,8 @@ Item {
     signal toolTipStandard(real mouseX, real mouseY, string toolTipText)
 
     function isInImage(x) {
-        return x > canvasLeft.transformedOffsetX && x < width - canvasLeft.transformedOffsetX
+        var border = (width - canvasLeft.transformedWidth) / 2
+        return x > border && x < width - border
     }
 
     function adaptImageTextColor() {
@@ -46,6 +47,9 @@ Item {
     VideoOutput {
         id: videoOutput
         objectName: "videoOutput"
+        width: canvasLeft.transformedWidth
+        height: canvasLeft.transformedHeight
+        fillMode: VideoOutput.Stretch
         source: camera
 
         property bool initial: true
@@ -56,9 +60,7 @@ Item {
                 return
             x = canvasLeft.transformedOffsetX
             y = canvasLeft.transformedOffsetY
-            width = canvasLeft.transformedWidth
-            height = canvasLeft.transformedHeight
-            camera.size = Qt.size(width, height)
+            camera.size = Qt.size(canvasLeft.transformedWidth, canvasLeft.transformedHeight)
         }
     }
 
@@ -67,10 +69,10 @@ Item {
         objectName: "canvasLeft"
         anchors.fill: parent
 
-        property real transformedWidth: 0
-        property real transformedHeight: 0
-        property real transformedOffsetX: 0
-        property real transformedOffsetY: 0
+        property int transformedWidth: 0
+        property int transformedHeight: 0
+        property int transformedOffsetX: 0
+        property int transformedOffsetY: 0
 
         property string imagefile: qmlModelInterface.originalImageUrl
         property string oldimagefile

@@ -10,8 +10,12 @@ TableView {
     property int index
     property int shownIndex
 
+    /// Breaks a title that is wider than the table into lines.
+    property bool wrapsHeader: false
+
     visible: index === shownIndex
     frameVisible: false
+    horizontalScrollBarPolicy: wrapsHeader ? Qt.ScrollBarAlwaysOff : Qt.ScrollBarAsNeeded
     selectionMode: SelectionMode.SingleSelection
 
     function scrollSideways(step) {
@@ -47,15 +51,17 @@ TableView {
 
     headerDelegate: Rectangle {
         implicitWidth: title.implicitWidth + margin
-        height: 2 * mDefaultPixelSize
+        height: Math.max(2 * mDefaultPixelSize, title.contentHeight + margin)
         color: cTavrinLightGrey
 
         Text {
             id: title
-            anchors.fill: parent
-            anchors.leftMargin: margin / 2
-            verticalAlignment: Text.AlignVCenter
-            elide: Text.ElideRight
+            x: margin / 2
+            width: (wrapsHeader ? Math.min(parent.width, table.viewport.width) : parent.width)
+                   - margin
+            anchors.verticalCenter: parent.verticalCenter
+            wrapMode: wrapsHeader ? Text.WordWrap : Text.NoWrap
+            elide: wrapsHeader ? Text.ElideNone : Text.ElideRight
             color: palette.text
             font.pixelSize: mDefaultPixelSize
             text: styleData.value

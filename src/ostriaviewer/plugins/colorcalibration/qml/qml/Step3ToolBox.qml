@@ -60,6 +60,8 @@ Item {
 
     function showPatch(patch) {
         colorsTable.selection.clear()
+        if (patch >= colorsModel.count)
+            return
         colorsTable.selection.select(patch)
         colorsTable.positionViewAtRow(patch, ListView.Beginning)
     }
@@ -80,7 +82,7 @@ Item {
         anchors.left: reportsLabel.right
         anchors.leftMargin: margin
         y: -distanceToImage
-        width: 2 * mButtonWidth + 2 * margin
+        width: Math.min(3.5 * mButtonWidth, page.mainWidth - x)
         height: mButtonHeight
         Accessible.name: tValueSummaries
         model: [qsTr("Colors"), qsTr("Black Level"), qsTr("White Balance"),
@@ -230,6 +232,7 @@ Item {
             index: 8
             shownIndex: reports.currentIndex
             model: lutModel
+            wrapsHeader: true
 
             ReportColumn { role: "explanation"; title: tLut; width: 1000 }
         }

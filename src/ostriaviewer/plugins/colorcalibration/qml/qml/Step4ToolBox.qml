@@ -104,10 +104,10 @@ Item {
     }
 
     Item {
-        id: options
-        y: margin / 2 - distanceToImage
+        // Below the check box, which leaves its usual place to the handle of the divider.
+        y: 1.4 * margin - distanceToImage
         width: page.mainWidth
-        height: 3 * page.rowDistance
+        height: 4 * page.rowDistance
 
         Text {
             id: calibrationLabel
@@ -183,26 +183,26 @@ Item {
                                                             height, tSaveSettingsAsDefaultTooltip)
                                       : Utility.hideToolTip()
         }
-    }
 
-    Button {
-        id: saveButton
-        objectName: "saveButton"
-        anchors.right: parent.right
-        y: options.y + 2 * page.rowDistance
-        width: 2 * mButtonWidth + margin
-        height: mButtonHeight
-        style: buttonStyle
-        text: tSaveSettings
-        enabled: page.pageEnabled && (userSets.currentIndex !== 0 || calibrationFile.text !== ""
-                                      || summaryFile.text !== "")
-        onHoveredChanged: hovered ? Utility.showToolTip(page, saveButton, width / 2, height / 2,
-                                                        tSaveSettingsTooltip)
-                                  : Utility.hideToolTip()
-        onClicked: {
-            // A path that is still being typed is taken over when its field loses the focus.
-            forceActiveFocus()
-            page.saveAllSettings()
+        Button {
+            id: saveButton
+            objectName: "saveButton"
+            x: page.labelWidth + margin
+            y: 3 * page.rowDistance
+            width: 2 * mButtonWidth
+            height: mButtonHeight
+            style: buttonStyle
+            text: tSaveSettings
+            enabled: page.pageEnabled && (userSets.currentIndex !== 0 || calibrationFile.text !== ""
+                                          || summaryFile.text !== "")
+            onHoveredChanged: hovered ? Utility.showToolTip(page, saveButton, width / 2, height / 2,
+                                                            tSaveSettingsTooltip)
+                                      : Utility.hideToolTip()
+            onClicked: {
+                // A path that is still being typed is taken over when its field loses the focus.
+                forceActiveFocus()
+                page.saveAllSettings()
+            }
         }
     }
 
