@@ -17,6 +17,7 @@ TableView {
     frameVisible: false
     horizontalScrollBarPolicy: wrapsHeader ? Qt.ScrollBarAlwaysOff : Qt.ScrollBarAsNeeded
     selectionMode: SelectionMode.SingleSelection
+    Accessible.name: tValueSummaries
 
     // By the bar, as the view itself scrolls for the keys of pages.
     function scrollSideways(step) {

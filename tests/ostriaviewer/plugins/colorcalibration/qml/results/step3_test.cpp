@@ -374,7 +374,7 @@ TEST_F(Step3, StartsTheLiveImage)
 
 TEST_F(Step3, TakesOneImageWhereTheLiveImageIsOff)
 {
-    open(2);
+    open(4);
     m_view->rootObject()->setProperty("autoRefreshChecked", false);
     m_calls.made.clear();
     m_model.setActiveStep(3);
