@@ -17,12 +17,19 @@ void PictureBuffer::setPicture(const QImage& picture)
 {
     const QMutexLocker lock(&m_mutex);
     m_picture = picture;
+    m_hasPicture = true;
 }
 
 QImage PictureBuffer::picture() const
 {
     const QMutexLocker lock(&m_mutex);
     return m_picture;
+}
+
+bool PictureBuffer::hasPicture() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_hasPicture;
 }
 
 QAbstractVideoBuffer::MapMode PictureBuffer::mapMode() const

@@ -16,12 +16,14 @@ namespace ColorCalibration {
 class PictureBuffer : public QAbstractVideoBuffer
 {
 public:
-    /// Begins with a black picture.
     explicit PictureBuffer(const QSize& size);
 
     /// \param picture  Format_ARGB32, of the buffer's size
     void setPicture(const QImage& picture);
+    /// Black before the first setPicture.
     QImage picture() const;
+    /// Whether there was a setPicture.
+    bool hasPicture() const;
 
     MapMode mapMode() const override;
 
@@ -33,6 +35,7 @@ public:
 private:
     mutable QMutex m_mutex;
     QImage m_picture;
+    bool m_hasPicture = false;
     QImage m_mapped;
     MapMode m_mapMode = NotMapped;
 };

@@ -156,7 +156,8 @@ void QMLOstriaCamera::setImage(const QImage& image)
 
 void QMLOstriaCamera::onImageReady(bool notifiy)
 {
-    if (m_surface && m_frame)
+    // The news may be of a worker before, whose frame has gone.
+    if (m_surface && m_frame && m_buffer->hasPicture())
         m_surface->present(*m_frame);
     if (notifiy)
         emit imageChanged();

@@ -186,13 +186,15 @@ void QMLOstriaCameraGrabber::deliverIndicator()
 }
 
 // Ends early when there is something to do: an image that waits is shown at once, and nobody who
-// stops the loop waits for a pause.
+// stops the loop waits for a pause. The indicator keeps its pace.
 void QMLOstriaCameraGrabber::pause()
 {
-    const std::chrono::milliseconds pace(m_timer.elapsed() < overdueMs ? m_task.interval
-                                                                       : indicatorPaceMs);
+    const bool overdue = m_timer.elapsed() >= overdueMs;
+    const std::chrono::milliseconds pace(overdue ? indicatorPaceMs : m_task.interval);
     std::unique_lock<std::mutex> lock(m_wakeMutex);
-    m_wake.wait_for(lock, pace, [this] { return !isWanted() || (!m_needGrab && m_grabEnded); });
+    m_wake.wait_for(lock, pace, [this, overdue] {
+        return !isWanted() || (!overdue && !m_needGrab && m_grabEnded);
+    });
 }
 
 } // namespace ColorCalibration

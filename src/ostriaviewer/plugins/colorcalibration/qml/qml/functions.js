@@ -62,6 +62,7 @@ function cleanUpQml() {
 }
 
 // Calibrates again with the grid and the brightness as they are; the settings come back if it fails.
+// Returns whether it succeeded.
 function autoCalibrate() {
     var errorText = ""
     if (!qmlModelInterface.applyInitialCameraImageAndPatchValues())
@@ -83,11 +84,12 @@ function autoCalibrate() {
         success = false
     }
     if (success)
-        return
+        return true
     console.log("Calibration process failed: Restore camera settings.")
     qmlModelInterface.restoreSettingsBackup()
     modelError.text = errorText
     modelError.open()
+    return false
 }
 
 function setPageEnabled(enabled) {
@@ -136,4 +138,14 @@ function showToolTip(page, item, mouseX, mouseY, text) {
 
 function hideToolTip() {
     standardToolTip.visible = false
+}
+
+// The path in a URL, as the native side takes it.
+function pathOfUrl(url) {
+    var text = url.toString()
+    var path = text.replace(/^(file:\/{3})|(qrc:\/{2})|(http:\/{2})/, "")
+    // Where paths begin with a slash, the third slash is part of the path.
+    if (path !== text && text.indexOf("file:///") === 0 && Qt.platform.os !== "windows")
+        path = "/" + path
+    return decodeURIComponent(path)
 }
