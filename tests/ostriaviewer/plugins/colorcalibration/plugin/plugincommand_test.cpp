@@ -220,15 +220,18 @@ TEST_F(PluginCommandTest, ACommandWithinTheCommandDoesNothing)
 TEST_F(PluginCommandTest, ALostCameraEndsTheWizard)
 {
     startWith(camera("cVTX 1"));
-    QStringList windows;
+    bool lost = false;
+    int boxes = 0;
     trigger([&](QDialog& window) {
-        windows << window.metaObject()->className();
-        if (isWizard(window))
-            m_camera->loseConnection();
-        else
+        if (!isWizard(window)) {
+            ++boxes;
             window.accept();
+        } else if (!lost) {
+            lost = true;
+            QTimer::singleShot(0, [this] { m_camera->loseConnection(); });
+        }
     });
-    EXPECT_EQ(windows.mid(1), QStringList("QMessageBox"));
+    EXPECT_EQ(boxes, 1);
     EXPECT_EQ(m_control->handles, 0);
 }
 
