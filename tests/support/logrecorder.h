@@ -30,10 +30,11 @@ public:
     LogRecorder(const LogRecorder&) = delete;
     LogRecorder& operator=(const LogRecorder&) = delete;
 
+    /// A copy of its own: a shared one would be taken apart without the lock.
     QVector<LogEntry> entries() const
     {
         const QMutexLocker lock(&m_mutex);
-        return m_entries;
+        return {m_entries.begin(), m_entries.end()};
     }
 
 private:

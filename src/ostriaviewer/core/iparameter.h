@@ -40,6 +40,12 @@ public:
     /// False also while the feature is locked.
     virtual bool isWritable() const = 0;
 
+    /// What the camera says about the feature, for people; empty where it says nothing.
+    virtual QString description() const { return {}; }
+
+    /// The unit of a number, as in "us"; empty where there is none.
+    virtual QString unit() const { return {}; }
+
 signals:
     /// Value, limits or access may have changed, also because another feature was written.
     /// Arrives from the event loop of the thread that the object lives in, never during the write,
@@ -132,6 +138,18 @@ public:
 
     /// \return  false if the entry was not chosen
     virtual bool trySetValue(const QString& entry) noexcept = 0;
+
+protected:
+    using IParameter::IParameter;
+};
+
+class OSTRIAVIEWER_CORE_EXPORT ITextParameter : public IParameter
+{
+    Q_OBJECT
+
+public:
+    virtual QString value() const = 0;
+    virtual void setValue(const QString& value) = 0;
 
 protected:
     using IParameter::IParameter;

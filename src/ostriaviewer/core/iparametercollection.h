@@ -7,7 +7,10 @@
 
 #include <QSharedPointer>
 #include <QString>
+#include <QStringList>
 #include <QVersionNumber>
+
+#include <vector>
 
 namespace Core::ParameterCollection {
 
@@ -17,6 +20,15 @@ using IntegerParameterPtr = QSharedPointer<IIntegerParameter>;
 using BooleanParameterPtr = QSharedPointer<IBooleanParameter>;
 using EnumerationParameterPtr = QSharedPointer<IEnumerationParameter>;
 using CommandParameterPtr = QSharedPointer<ICommandParameter>;
+
+/// A group of features, as the camera sorts them for people.
+struct FeatureCategory
+{
+    QString name;
+    QString displayName;
+    QStringList features; ///< by name, in the camera's order
+    std::vector<FeatureCategory> categories;
+};
 
 /// A camera's features.
 ///
@@ -39,6 +51,9 @@ public:
     virtual BooleanParameterPtr booleanParameter(const QString& name) = 0;
     virtual EnumerationParameterPtr enumerationParameter(const QString& name) = 0;
     virtual CommandParameterPtr commandParameter(const QString& name) = 0;
+
+    /// The categories below the camera's root; none if it has none. Reads no values.
+    virtual std::vector<FeatureCategory> categories() const { return {}; }
 
     /// The version of the Standard Features Naming Convention that the camera follows.
     virtual QVersionNumber sfncVersion() const = 0;

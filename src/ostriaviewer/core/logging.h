@@ -4,6 +4,7 @@
 
 #include "coreexport.h"
 
+#include <QMetaType>
 #include <QString>
 
 #include <functional>
@@ -35,3 +36,5 @@ using LogSink = std::function<void(ELogLevel level, const QString& category, con
 OSTRIAVIEWER_CORE_EXPORT LogSink installLogSink(LogSink sink);
 
 } // namespace Core::Logging
+
+Q_DECLARE_METATYPE(Core::Logging::ELogLevel)

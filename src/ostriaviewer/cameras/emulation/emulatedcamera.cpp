@@ -94,6 +94,16 @@ FrameLoop* EmulatedCamera::loop() const
 
 bool EmulatedCamera::open()
 {
+    if (isOpen())
+        return true;
+    const bool isOpened = openDevice();
+    if (isOpened)
+        emit stateChanged();
+    return isOpened;
+}
+
+bool EmulatedCamera::openDevice()
+{
     const std::lock_guard lock(m_mutex);
     if (m_device)
         return true;
@@ -160,6 +170,8 @@ void EmulatedCamera::shutDown()
     if (device)
         device->nodeMap->disconnect();
     updateAcquisitionLock();
+    if (device)
+        emit stateChanged();
 }
 
 void EmulatedCamera::close()
@@ -187,6 +199,7 @@ bool EmulatedCamera::doStartGrabbing()
         m_loop->startContinuous();
     }
     updateAcquisitionLock();
+    emit stateChanged();
     return true;
 }
 
@@ -206,9 +219,12 @@ int EmulatedCamera::defaultTimeoutMs() const
 
 void EmulatedCamera::stopGrabbing()
 {
+    const bool wasGrabbing = isGrabbing();
     if (FrameLoop* running = loop())
         running->stop();
     updateAcquisitionLock();
+    if (wasGrabbing)
+        emit stateChanged();
 }
 
 // Reads the state under the mutex, so that of two threads that start and stop at once the later

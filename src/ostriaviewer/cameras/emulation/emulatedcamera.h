@@ -81,6 +81,7 @@ private:
     bool doGrabSingle(int timeoutMs) override;
     int defaultTimeoutMs() const override;
 
+    bool openDevice();
     std::shared_ptr<Device> makeDevice();
     std::shared_ptr<Device> device() const;
     FrameLoop* loop() const;

@@ -4,6 +4,7 @@
 
 #include "changewatch_p.h"
 #include "feature_p.h"
+#include "featurewords_p.h"
 #include "genicamexception.h"
 #include "iparameter.h"
 #include "nodemap.h"
@@ -37,6 +38,8 @@ public:
 
     QString name() const override { return m_feature.name(); }
     QString displayName() const override { return m_feature.displayName(); }
+    QString description() const override { return isEmpty() ? QString() : read(descriptionOf); }
+    QString unit() const override { return isEmpty() ? QString() : read(unitOf); }
     bool isEmpty() const override { return m_feature.isEmpty(); }
 
     bool isAvailable() const override

@@ -3,6 +3,7 @@
 #include "parametercollection.h"
 
 #include "featurestream_p.h"
+#include "featurewords_p.h"
 #include "genicamexception.h"
 #include "nodemap_p.h"
 #include "numberfeature_p.h"
@@ -72,6 +73,12 @@ public:
     CommandParameterPtr commandParameter(const QString& name) override
     {
         return makeCommandParameter(m_map, find(name, FeatureKind::Command));
+    }
+
+    std::vector<FeatureCategory> categories() const override
+    {
+        const ReadLock lock(m_map->d().mutex());
+        return featureCategories(m_map->d());
     }
 
     QVersionNumber sfncVersion() const override

@@ -6,6 +6,7 @@
 #include "enumerationfeature_p.h"
 #include "numberfeature_p.h"
 #include "parameterbase_p.h"
+#include "textfeature_p.h"
 
 #include <QThread>
 
@@ -139,6 +140,19 @@ private:
     }
 };
 
+class TextParameter : public ParameterBase<ITextParameter>
+{
+public:
+    using ParameterBase::ParameterBase;
+
+    QString value() const override { return read(featureText); }
+
+    void setValue(const QString& value) override
+    {
+        write([&value](const Feature& feature) { setFeatureText(feature, value); });
+    }
+};
+
 class OtherParameter : public ParameterBase<IParameter>
 {
 public:
@@ -198,6 +212,7 @@ ParameterPtr makeParameter(std::shared_ptr<NodeMap> map, const Feature& feature)
         case FeatureKind::Command:
             return makeCommandParameter(std::move(map), feature);
         case FeatureKind::Text:
+            return ParameterPtr(new TextParameter(std::move(map), feature), release);
         case FeatureKind::Other:
             break;
         }

@@ -8,13 +8,14 @@ namespace Cameras {
 
 CameraPool::CameraPool(const QList<HostCameraPtr>& cameras)
     : m_cameras(cameras)
+    , m_recordings(QSharedPointer<Recordings>::create())
 {
-    const auto status = QSharedPointer<CameraStatusService>::create(cameras);
+    const auto status = QSharedPointer<CameraStatusService>::create(cameras, m_recordings);
     m_status = status;
     m_services = {
         status,
         QSharedPointer<CameraEnumerationService>::create(cameras),
-        QSharedPointer<CameraStreamControlService>::create(cameras),
+        QSharedPointer<CameraStreamControlService>::create(cameras, m_recordings),
         QSharedPointer<CameraControlService>::create(status),
         QSharedPointer<ParameterService>::create(),
     };

@@ -5,6 +5,7 @@
 #include "hostcamera.h"
 #include "icameraservices.h"
 #include "iparameterservice.h"
+#include "recordings.h"
 #include "serviceregistry.h"
 
 #include <QList>
@@ -40,8 +41,12 @@ public:
 
     Plugin::CameraPool::ICameraStatusService& statusService() const { return *m_status; }
 
+    /// Where a recorder tells the services what it records.
+    const QSharedPointer<Recordings>& recordings() const { return m_recordings; }
+
 private:
     const QList<HostCameraPtr> m_cameras;
+    const QSharedPointer<Recordings> m_recordings;
     QSharedPointer<Plugin::CameraPool::ICameraStatusService> m_status;
     QList<Core::Service::ServicePtr> m_services;
     Core::Service::CServiceRegistry* m_registry = nullptr;

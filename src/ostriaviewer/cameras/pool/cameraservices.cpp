@@ -24,7 +24,9 @@ HostCameraPtr hostCamera(const CameraInfoPtr& camera)
 }
 
 // The camera is held weakly: a service may outlive it, and must not keep it.
-CameraStatusService::CameraStatusService(const QList<HostCameraPtr>& cameras)
+CameraStatusService::CameraStatusService(const QList<HostCameraPtr>& cameras,
+                                         const QSharedPointer<Recordings>& recordings)
+    : m_recordings(recordings)
 {
     for (const HostCameraPtr& camera : cameras) {
         const QWeakPointer<HostCamera> weak = camera;
@@ -44,7 +46,7 @@ bool CameraStatusService::isCameraOpen(const CameraPtr& camera) const
 bool CameraStatusService::isAcquiringOrRecording(const CameraInfoPtr& camera) const
 {
     const HostCameraPtr known = hostCamera(camera);
-    return known && known->isGrabbing();
+    return known && (known->isGrabbing() || m_recordings->isRecording(known.data()));
 }
 
 void CameraStatusService::announceOpened(const HostCameraPtr& camera)
@@ -70,12 +72,15 @@ QList<Plugin::CameraPool::DeviceGroup> CameraEnumerationService::deviceGroups() 
     return groups;
 }
 
-CameraStreamControlService::CameraStreamControlService(const QList<HostCameraPtr>& cameras)
+CameraStreamControlService::CameraStreamControlService(const QList<HostCameraPtr>& cameras,
+                                                       const QSharedPointer<Recordings>& recordings)
     : m_cameras(cameras)
+    , m_recordings(recordings)
 {}
 
 void CameraStreamControlService::stopAllAcquisitionsAndRecordings()
 {
+    m_recordings->stopAll();
     for (const HostCameraPtr& camera : m_cameras)
         camera->stopGrabbing();
 }

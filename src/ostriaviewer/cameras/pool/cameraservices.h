@@ -5,6 +5,7 @@
 #include "hostcamera.h"
 #include "icameraservices.h"
 #include "iparameterservice.h"
+#include "recordings.h"
 
 #include <QList>
 
@@ -22,13 +23,17 @@ class CameraStatusService final : public Plugin::CameraPool::ICameraStatusServic
     Q_OBJECT
 
 public:
-    explicit CameraStatusService(const QList<HostCameraPtr>& cameras);
+    CameraStatusService(const QList<HostCameraPtr>& cameras,
+                        const QSharedPointer<Recordings>& recordings);
 
     bool isCameraOpen(const CameraPtr& camera) const override;
     bool isAcquiringOrRecording(const CameraInfoPtr& camera) const override;
 
     /// Lets deviceOpened be emitted in the service's thread: at once if this is it. Thread-safe.
     void announceOpened(const HostCameraPtr& camera);
+
+private:
+    const QSharedPointer<Recordings> m_recordings;
 };
 
 class CameraEnumerationService final : public Plugin::CameraPool::ICameraEnumerationService
@@ -49,12 +54,14 @@ class CameraStreamControlService final : public Plugin::CameraPool::ICameraStrea
     Q_OBJECT
 
 public:
-    explicit CameraStreamControlService(const QList<HostCameraPtr>& cameras);
+    CameraStreamControlService(const QList<HostCameraPtr>& cameras,
+                               const QSharedPointer<Recordings>& recordings);
 
     void stopAllAcquisitionsAndRecordings() override;
 
 private:
     const QList<HostCameraPtr> m_cameras;
+    const QSharedPointer<Recordings> m_recordings;
 };
 
 class CameraControlService final : public Plugin::CameraPool::ICameraControlService

@@ -57,6 +57,11 @@ public:
     void clearLastError() final;
     void setLastError(const QString& text);
 
+signals:
+    /// The camera was opened or closed, or continuous grabbing began or ended; ask it. Callback, on
+    /// the thread that did it, with no lock held.
+    void stateChanged();
+
 protected:
     HostCamera() = default;
 

@@ -152,6 +152,7 @@ bool ColorCorrectionModelImpl::CreateSettingsBackup(bool initialImage)
 
 bool ColorCorrectionModelImpl::RestoreSettingsBackup(bool initialImage)
 {
+    // A run that went on would write exposure time and gain over what is restored.
     stopBrightnessRun();
     const QMutexLocker lock(&m_mutex);
     return guarded("Error: Restore of camera settings failed.",

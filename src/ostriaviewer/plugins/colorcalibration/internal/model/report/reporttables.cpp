@@ -80,7 +80,8 @@ void AppendTable(QStringList& lines, const QString& key, const QJsonObject& obje
         return;
     }
     const QJsonValue value = object.value(key);
-    const QJsonObject columns = value.isObject() ? value.toObject() : QJsonObject{{key, value}};
+    const QJsonObject columns =
+        value.isObject() ? value.toObject() : QJsonObject{{key, value.toVariant().toString()}};
     QStringList names;
     QStringList values;
     for (auto column = columns.begin(); column != columns.end(); ++column) {

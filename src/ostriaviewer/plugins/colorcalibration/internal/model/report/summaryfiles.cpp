@@ -7,7 +7,6 @@
 #include <QBuffer>
 #include <QDir>
 #include <QSaveFile>
-#include <QTextStream>
 
 namespace ColorCalibration {
 namespace {
@@ -22,17 +21,26 @@ QString fileSystemName(QString name)
     return name;
 }
 
+/// A disk that fills up takes a part first and gives the reason with the next attempt.
+bool writeAll(QFileDevice& file, const QByteArray& bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
+        if (taken <= 0)
+            return false;
+        written += taken;
+    }
+    return file.flush();
+}
+
 /// Fills a file under another name and gives it its own in the end: a reader never meets half of
 /// one, nor the tail of a longer one that stood there before.
-template <typename Fill>
-bool replaceFile(const QString& path, Fill fill)
+bool replaceFile(const QString& path, const QByteArray& bytes)
 {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        fill(file);
-        if (file.commit())
-            return true;
-    }
+    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit())
+        return true;
     logReportFailure(QStringLiteral("Cannot write the file \"%1\": %2.")
                          .arg(QDir::toNativeSeparators(path), file.errorString()));
     return false;
@@ -57,11 +65,7 @@ QString MakeOutputFolder(const QString& directory, const QString& stem, const QS
 
 bool WriteTextFile(const QString& path, const QString& text)
 {
-    return replaceFile(path, [&text](QIODevice& file) {
-        QTextStream stream(&file);
-        stream.setCodec("UTF-8");
-        stream << text << Qt::endl;
-    });
+    return replaceFile(path, text.toUtf8() + '\n');
 }
 
 QByteArray encodePng(const QImage& image)
@@ -78,7 +82,7 @@ bool writePngBytes(const QString& path, const QByteArray& png)
                              .arg(QDir::toNativeSeparators(path)));
         return false;
     }
-    return replaceFile(path, [&png](QIODevice& file) { file.write(png); });
+    return replaceFile(path, png);
 }
 
 bool WritePngFile(const QString& path, const QImage& image)

@@ -26,7 +26,7 @@ QStringList swatchRules(const QJsonObject& colors)
     for (const auto& patch : colors) {
         const QJsonObject kinds = patch.toObject();
         rules.append(
-            QStringLiteral(".container>table:first-of-type tr:nth-child(%1){%2}")
+            QStringLiteral("table:first-of-type tr:nth-child(%1){%2}")
                 .arg(row++)
                 .arg(declaration("initial", kinds.value(QStringLiteral("Initial")).toString()) +
                      declaration("target", kinds.value(QStringLiteral("Target")).toString()) +

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+// The emulated cameras of the viewer, and the scene before them.
+#include "emulatedcameras.h"
+
+#include "emulatedcamera.h"
+
+#include <QCoreApplication>
+#include <QImageReader>
+
+namespace Viewer {
+
+using namespace Cameras::Emulation;
+
+namespace {
+
+Scene readScene(const QString& file, QString& error)
+{
+    QImageReader reader(file);
+    reader.setAutoTransform(true);
+    const QImage image = reader.read().convertToFormat(QImage::Format_RGB888);
+    if (image.isNull()) {
+        error = QCoreApplication::translate("Viewer::EmulatedCameras",
+                                            "The scene %1 cannot be read: %2 Choose another image.")
+                    .arg(file, reader.errorString() + QLatin1Char('.'));
+        return Scene();
+    }
+    return Scene(Scene::fromSrgb8(image.width(), image.height(), image.constBits(),
+                                  static_cast<std::size_t>(image.bytesPerLine())));
+}
+
+} // namespace
+
+QList<Cameras::HostCameraPtr> emulatedCameras(const QString& sceneFile, QString& error)
+{
+    EmulationOptions options;
+    if (!sceneFile.isEmpty())
+        options.scene = readScene(sceneFile, error);
+    QList<Cameras::HostCameraPtr> cameras;
+    for (const CameraModel& model : everydayModels())
+        cameras.append(EmulatedCamera::create(model, options));
+    return cameras;
+}
+
+} // namespace Viewer

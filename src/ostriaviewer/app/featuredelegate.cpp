@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: Apache-2.0
+// How features are drawn and edited in their table.
+#include "featuredelegate.h"
+
+#include "featuremodel.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+
+namespace Viewer {
+namespace {
+
+FeatureEditor editorAt(const QModelIndex& index)
+{
+    return static_cast<FeatureEditor>(index.data(FeatureModel::EditorRole).toInt());
+}
+
+bool isButton(const QModelIndex& index)
+{
+    return index.column() == FeatureModel::Value && editorAt(index) == FeatureEditor::Button;
+}
+
+} // namespace
+
+FeatureDelegate::FeatureDelegate(QObject* parent)
+    : QStyledItemDelegate(parent)
+{}
+
+void FeatureDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                            const QModelIndex& index) const
+{
+    if (!isButton(index))
+        return QStyledItemDelegate::paint(painter, option, index);
+    QStyleOptionButton button;
+    button.rect = option.rect.adjusted(0, 1, 0, -1);
+    button.palette = option.palette;
+    button.fontMetrics = option.fontMetrics;
+    button.text = index.data(Qt::DisplayRole).toString();
+    button.state = QStyle::State_Raised;
+    if (!index.data(Qt::ForegroundRole).isValid())
+        button.state |= QStyle::State_Enabled;
+    if (option.state & QStyle::State_Selected)
+        button.state |= QStyle::State_HasFocus;
+    QApplication::style()->drawControl(QStyle::CE_PushButton, &button, painter, option.widget);
+}
+
+QSize FeatureDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    return {size.width(), option.fontMetrics.height() + 8};
+}
+
+QWidget* FeatureDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
+                                       const QModelIndex& index) const
+{
+    if (editorAt(index) != FeatureEditor::Choice) {
+        auto* line = new QLineEdit(parent);
+        line->setFrame(false);
+        line->setToolTip(index.data(Qt::ToolTipRole).toString());
+        return line;
+    }
+    auto* list = new QComboBox(parent);
+    const QStringList names = index.data(FeatureModel::ChoicesRole).toStringList();
+    const QStringList texts = index.data(FeatureModel::ChoiceTextsRole).toStringList();
+    for (int row = 0; row < names.size(); ++row)
+        list->addItem(texts.at(row), names.at(row));
+    // A choice counts at once, without leaving the list first.
+    auto* self = const_cast<FeatureDelegate*>(this);
+    connect(list, QOverload<int>::of(&QComboBox::activated), self, [self, list] {
+        emit self->commitData(list);
+        emit self->closeEditor(list);
+    });
+    return list;
+}
+
+void FeatureDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    const QString value = index.data(Qt::EditRole).toString();
+    if (auto* list = qobject_cast<QComboBox*>(editor)) {
+        list->setCurrentIndex(list->findData(value));
+        return;
+    }
+    // What is being typed is not written over when the value changes meanwhile.
+    auto* line = qobject_cast<QLineEdit*>(editor);
+    if (line && !line->isModified()) {
+        line->setText(value);
+        line->selectAll();
+    }
+}
+
+void FeatureDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                   const QModelIndex& index) const
+{
+    if (const auto* list = qobject_cast<QComboBox*>(editor)) {
+        if (list->currentIndex() >= 0)
+            model->setData(index, list->currentData(), Qt::EditRole);
+    } else if (const auto* line = qobject_cast<QLineEdit*>(editor)) {
+        if (line->isModified())
+            model->setData(index, line->text(), Qt::EditRole);
+    }
+}
+
+} // namespace Viewer

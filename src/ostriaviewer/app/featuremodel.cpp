@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: Apache-2.0
+// A camera's features in their categories.
+#include "featuremodel.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Viewer {
+
+using namespace Core::ParameterCollection;
+
+// A category, or a feature of one.
+struct FeatureModel::Node
+{
+    Node* parent = nullptr;
+    QString name;
+    QString label;
+    std::vector<std::unique_ptr<Node>> children;
+    ParameterPtr parameter; // of a feature
+    FeatureEditor editor = FeatureEditor::None;
+    FeatureState state;
+    QMetaObject::Connection connection;
+
+    int row() const
+    {
+        const auto& siblings = parent->children;
+        const auto self = std::find_if(siblings.begin(), siblings.end(),
+                                       [this](const auto& each) { return each.get() == this; });
+        return static_cast<int>(self - siblings.begin());
+    }
+
+    Node& append(const QString& childName, const QString& childLabel)
+    {
+        children.push_back(std::make_unique<Node>());
+        Node& child = *children.back();
+        child.parent = this;
+        child.name = childName;
+        child.label = childLabel;
+        return child;
+    }
+};
+
+FeatureModel::FeatureModel(QObject* parent)
+    : QAbstractItemModel(parent)
+    , m_root(std::make_unique<Node>())
+{}
+
+FeatureModel::~FeatureModel() = default;
+
+void FeatureModel::setFeatures(const ParameterCollectionPtr& features)
+{
+    beginResetModel();
+    m_root = std::make_unique<Node>();
+    if (features)
+        for (const FeatureCategory& category : features->categories())
+            fill(m_root->append(category.name, category.displayName), category, *features);
+    endResetModel();
+}
+
+void FeatureModel::fill(Node& into, const FeatureCategory& category, IParameterCollection& features)
+{
+    for (const FeatureCategory& inner : category.categories)
+        fill(into.append(inner.name, inner.displayName), inner, features);
+    for (const QString& name : category.features) {
+        const ParameterPtr parameter = features.parameter(name);
+        if (!parameter || parameter->isEmpty())
+            continue;
+        Node& feature = into.append(name, parameter->displayName());
+        feature.parameter = parameter;
+        feature.editor = editorOf(*parameter);
+        feature.state = readFeature(*parameter);
+    }
+}
+
+// Every feature that is watched costs with each change of any, so only those that are seen are.
+void FeatureModel::setWatched(const QModelIndex& category, bool isWatched)
+{
+    for (const auto& each : node(category)->children) {
+        Node* feature = each.get();
+        if (!feature->parameter)
+            continue;
+        disconnect(feature->connection);
+        if (!isWatched)
+            continue;
+        feature->connection =
+            connect(feature->parameter.data(), &IParameter::parameterDataChangedDecoupled, this,
+                    [this, feature] { refresh(*feature); });
+        refresh(*feature);
+    }
+}
+
+void FeatureModel::refresh(Node& node)
+{
+    node.state = readFeature(*node.parameter);
+    emit dataChanged(indexOf(&node, Name), indexOf(&node, Value));
+}
+
+FeatureModel::Node* FeatureModel::node(const QModelIndex& index) const
+{
+    return index.isValid() ? static_cast<Node*>(index.internalPointer()) : m_root.get();
+}
+
+QModelIndex FeatureModel::indexOf(const Node* node, int column) const
+{
+    return createIndex(node->row(), column, const_cast<Node*>(node));
+}
+
+QModelIndex FeatureModel::index(int row, int column, const QModelIndex& parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column, node(parent)->children[static_cast<std::size_t>(row)].get());
+}
+
+QModelIndex FeatureModel::parent(const QModelIndex& child) const
+{
+    const Node* above = node(child)->parent;
+    return !above || above == m_root.get() ? QModelIndex() : indexOf(above, 0);
+}
+
+int FeatureModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.column() > 0 ? 0 : static_cast<int>(node(parent)->children.size());
+}
+
+int FeatureModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return ColumnCount;
+}
+
+QVariant FeatureModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Node& shown = *node(index);
+    if (role == NameRole)
+        return shown.name;
+    if (role == EditorRole)
+        return static_cast<int>(shown.editor);
+    if (!shown.parameter)
+        return role == Qt::DisplayRole && index.column() == Name ? shown.label : QVariant();
+    if (role == Qt::ToolTipRole)
+        return toolTip(shown);
+    if (role == Qt::ForegroundRole && !shown.state.isWritable)
+        return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+    if (index.column() == Name)
+        return role == Qt::DisplayRole ? shown.label : QVariant();
+    return valueData(shown, role);
+}
+
+QVariant FeatureModel::valueData(const Node& node, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        if (node.editor == FeatureEditor::Button)
+            return tr("Execute");
+        return node.state.isAvailable ? node.state.text : tr("not available");
+    case Qt::EditRole:
+        return node.state.written;
+    case Qt::CheckStateRole:
+        if (node.editor != FeatureEditor::Switch || node.state.written.isEmpty())
+            return {};
+        return node.state.written == QLatin1String("1") ? Qt::Checked : Qt::Unchecked;
+    case ChoicesRole:
+    case ChoiceTextsRole: {
+        QStringList texts;
+        for (const EnumerationEntry& entry : choicesOf(*node.parameter))
+            if (entry.isSettable)
+                texts.append(role == ChoicesRole ? entry.name : entry.displayName);
+        return texts;
+    }
+    default:
+        return {};
+    }
+}
+
+QString FeatureModel::toolTip(const Node& node) const
+{
+    QStringList lines{QStringLiteral("<b>%1</b>").arg(node.name.toHtmlEscaped())};
+    const QString description = node.parameter->description();
+    if (!description.isEmpty())
+        lines.append(description.toHtmlEscaped());
+    if (!node.state.limits.isEmpty())
+        lines.append(tr("Range: %1 %2")
+                         .arg(node.state.limits, node.parameter->unit())
+                         .trimmed()
+                         .toHtmlEscaped());
+    if (!node.state.isAvailable)
+        lines.append(tr("Not available with the camera's present settings"));
+    else if (!node.state.isWritable)
+        lines.append(tr("Cannot be changed now"));
+    return lines.join(QStringLiteral("<br>"));
+}
+
+bool FeatureModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    Node* changed = node(index);
+    if (!changed->parameter || (role != Qt::EditRole && role != Qt::CheckStateRole))
+        return false;
+    const QString text = role == Qt::CheckStateRole
+                             ? QString::number(value.toInt() == Qt::Checked ? 1 : 0)
+                             : value.toString();
+    if (role == Qt::EditRole && text == changed->state.written)
+        return true;
+    const QString reason = writeFeature(*changed->parameter, text);
+    refresh(*changed);
+    if (!reason.isEmpty())
+        emit refused(reason);
+    return reason.isEmpty();
+}
+
+void FeatureModel::press(const QModelIndex& index)
+{
+    Node* pressed = node(index);
+    if (!pressed->parameter || pressed->editor != FeatureEditor::Button)
+        return;
+    const QString reason = writeFeature(*pressed->parameter, {});
+    if (!reason.isEmpty())
+        emit refused(reason);
+}
+
+Qt::ItemFlags FeatureModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const Node& shown = *node(index);
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    if (index.column() != Value || !shown.parameter || !shown.state.isWritable)
+        return flags;
+    if (shown.editor == FeatureEditor::Switch)
+        flags |= Qt::ItemIsUserCheckable;
+    else if (shown.editor != FeatureEditor::Button && shown.editor != FeatureEditor::None)
+        flags |= Qt::ItemIsEditable;
+    return flags;
+}
+
+QVariant FeatureModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == Name ? tr("Feature") : tr("Value");
+}
+
+} // namespace Viewer

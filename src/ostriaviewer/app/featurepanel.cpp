@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: Apache-2.0
+// The features of the selected camera, to be read and changed.
+#include "featurepanel.h"
+
+#include "featuredelegate.h"
+#include "featuremodel.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace Viewer {
+
+using Cameras::HostCamera;
+using Cameras::HostCameraPtr;
+
+namespace {
+
+/// Keeps features whose name for people or name in the camera contains the words, and their
+/// categories.
+class FeatureFilter final : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override
+    {
+        const QModelIndex index = sourceModel()->index(row, FeatureModel::Name, parent);
+        return QSortFilterProxyModel::filterAcceptsRow(row, parent) ||
+               filterRegularExpression()
+                   .match(index.data(FeatureModel::NameRole).toString())
+                   .hasMatch();
+    }
+};
+
+} // namespace
+
+FeaturePanel::FeaturePanel(CameraList& cameras, DeviceSelectorService& selector, QWidget* parent)
+    : QWidget(parent)
+    , m_cameras(cameras)
+    , m_selector(selector)
+    , m_model(new FeatureModel(this))
+    , m_shown(new FeatureFilter(this))
+    , m_filter(new QLineEdit(this))
+    , m_view(new QTreeView(this))
+    , m_hint(new QLabel(this))
+{
+    m_shown->setSourceModel(m_model);
+    m_shown->setFilterKeyColumn(FeatureModel::Name);
+    m_shown->setRecursiveFilteringEnabled(true);
+    makeView();
+    connect(m_filter, &QLineEdit::textChanged, this, &FeaturePanel::applyFilter);
+    connect(&selector, &DeviceSelectorService::selectionChanged, this, &FeaturePanel::follow);
+    connect(&cameras, &CameraList::stateChanged, this, [this](const HostCameraPtr& camera) {
+        if (camera == m_camera)
+            showFeatures();
+    });
+    connect(m_model, &FeatureModel::refused, this, &FeaturePanel::refused);
+    retranslate();
+    follow();
+}
+
+FeaturePanel::~FeaturePanel() = default;
+
+void FeaturePanel::makeView()
+{
+    m_filter->setObjectName(QStringLiteral("featureFilter"));
+    m_filter->setClearButtonEnabled(true);
+    m_view->setObjectName(QStringLiteral("features"));
+    m_view->setModel(m_shown);
+    m_view->setItemDelegate(new FeatureDelegate(this));
+    m_view->setAlternatingRowColors(true);
+    m_view->setUniformRowHeights(true);
+    m_view->setIndentation(14);
+    m_view->setEditTriggers(QAbstractItemView::AllEditTriggers);
+    m_view->header()->resizeSection(FeatureModel::Name, 190);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setMargin(16);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(m_filter);
+    layout->addWidget(m_view);
+    layout->addWidget(m_hint, 1);
+
+    const auto press = [this](const QModelIndex& index) {
+        if (index.column() == FeatureModel::Value)
+            m_model->press(m_shown->mapToSource(index));
+    };
+    connect(m_view, &QTreeView::clicked, this, press);
+    connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
+        m_model->setWatched(m_shown->mapToSource(index), true);
+        m_opened.insert(index.data(FeatureModel::NameRole).toString());
+    });
+    connect(m_view, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
+        m_model->setWatched(m_shown->mapToSource(index), false);
+        m_opened.remove(index.data(FeatureModel::NameRole).toString());
+    });
+}
+
+void FeaturePanel::follow()
+{
+    m_camera = m_selector.selected().dynamicCast<HostCamera>();
+    m_isFilled = false;
+    showFeatures();
+}
+
+// The features of an open camera stay the same objects until it is closed.
+void FeaturePanel::showFeatures()
+{
+    const bool isOpen = m_camera && m_camera->isOpen();
+    m_view->setVisible(isOpen);
+    m_filter->setEnabled(isOpen);
+    m_hint->setVisible(!isOpen);
+    if (isOpen && m_isFilled)
+        return;
+    m_model->setFeatures(isOpen ? m_camera->parameterCollection() : nullptr);
+    m_isFilled = isOpen;
+    expand();
+}
+
+void FeaturePanel::applyFilter(const QString& text)
+{
+    m_shown->setFilterRegularExpression(QRegularExpression(
+        QRegularExpression::escape(text), QRegularExpression::CaseInsensitiveOption));
+    expand();
+}
+
+// All that a filter finds is seen; without one, what the user has opened.
+void FeaturePanel::expand()
+{
+    const QSet<QString> opened = m_opened;
+    expandBelow({});
+    m_opened = opened;
+}
+
+void FeaturePanel::expandBelow(const QModelIndex& parent)
+{
+    for (int row = 0; row < m_shown->rowCount(parent); ++row) {
+        const QModelIndex category = m_shown->index(row, 0, parent);
+        if (m_shown->rowCount(category) == 0)
+            continue;
+        const QString name = category.data(FeatureModel::NameRole).toString();
+        m_view->setExpanded(category, !m_filter->text().isEmpty() || m_opened.contains(name));
+        expandBelow(category);
+    }
+}
+
+void FeaturePanel::retranslate()
+{
+    m_filter->setPlaceholderText(tr("Filter features"));
+    m_filter->setAccessibleName(tr("Filter features"));
+    m_view->setAccessibleName(tr("Features"));
+    m_hint->setText(tr("Open a camera to see its features."));
+}
+
+void FeaturePanel::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+} // namespace Viewer

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+// The features of the selected camera, to be read and changed.
+#pragma once
+
+#include "cameralist.h"
+#include "deviceselectorservice.h"
+
+#include <QSet>
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QSortFilterProxyModel;
+class QTreeView;
+
+namespace Viewer {
+
+class FeatureModel;
+
+/// Thread-bound: GUI thread.
+class FeaturePanel final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Both are lent as long as the panel lives.
+    FeaturePanel(CameraList& cameras, DeviceSelectorService& selector, QWidget* parent = nullptr);
+    ~FeaturePanel() override;
+
+signals:
+    /// The camera did not take a value.
+    void refused(const QString& reason);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void makeView();
+    void follow();
+    void showFeatures();
+    void applyFilter(const QString& text);
+    void expand();
+    void expandBelow(const QModelIndex& parent);
+    void retranslate();
+
+    CameraList& m_cameras;
+    DeviceSelectorService& m_selector;
+    FeatureModel* m_model;
+    QSortFilterProxyModel* m_shown;
+    QLineEdit* m_filter;
+    QTreeView* m_view;
+    QLabel* m_hint;
+    Cameras::HostCameraPtr m_camera;
+    bool m_isFilled = false;
+    QSet<QString> m_opened; // categories by name, of all cameras
+};
+
+} // namespace Viewer

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+// A camera's feature as the user reads and writes it.
+#pragma once
+
+#include "iparametercollection.h"
+
+#include <QString>
+#include <QVector>
+
+namespace Viewer {
+
+/// How a feature is edited.
+enum class FeatureEditor { None, Number, Switch, Choice, Text, Button };
+
+FeatureEditor editorOf(Core::ParameterCollection::IParameter& parameter);
+
+/// What the user sees of a feature at one moment. A plain value.
+struct FeatureState
+{
+    bool isAvailable = false;
+    bool isWritable = false;
+    QString text;    ///< the value for people, with its unit
+    QString written; ///< the value as it is typed; the entry's name of a choice
+    QString limits;  ///< for people; empty where there are none
+};
+
+/// Reads a feature; one that cannot be read gives a state without value.
+FeatureState readFeature(Core::ParameterCollection::IParameter& parameter);
+
+/// Writes what the user typed or chose; "1" and "0" switch. A button is pressed.
+/// \return  empty, or why it was not written and what would be, for people
+QString writeFeature(Core::ParameterCollection::IParameter& parameter, const QString& text);
+
+/// The entries of a choice; none for other features.
+QVector<Core::ParameterCollection::EnumerationEntry>
+choicesOf(Core::ParameterCollection::IParameter& parameter);
+
+} // namespace Viewer

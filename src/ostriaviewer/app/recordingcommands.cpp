@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: Apache-2.0
+// Recording of the selected camera.
+#include "recordingcommands.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+namespace Viewer {
+
+using Cameras::HostCamera;
+using Cameras::HostCameraPtr;
+
+namespace {
+
+const auto folderName = QStringLiteral("RecordingFolder");
+
+/// A name for a folder that every file system takes, and that stands in no other's way.
+QString newFolder(const QString& parent, const QString& camera)
+{
+    QString plain = camera;
+    plain.replace(QRegularExpression(QStringLiteral("[^\\w.-]+")), QStringLiteral("_"));
+    const QString time =
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss"));
+    const QString name = QStringLiteral("%1/%2_%3").arg(parent, plain, time);
+    QString free = name;
+    for (int number = 2; QFileInfo::exists(free); ++number)
+        free = QStringLiteral("%1_%2").arg(name).arg(number);
+    return free;
+}
+
+} // namespace
+
+RecordingCommands::RecordingCommands(CameraList& cameras, CameraCommands& commands,
+                                     ViewerSettings& settings, QObject* parent)
+    : QObject(parent)
+    , m_cameras(cameras)
+    , m_commands(commands)
+    , m_settings(settings)
+    , m_record(new QAction(this))
+    , m_chooseFolder(new QAction(this))
+{
+    m_folder =
+        settings.value(folderName, QStandardPaths::writableLocation(QStandardPaths::MoviesLocation))
+            .toString();
+    m_record->setObjectName(QStringLiteral("record"));
+    m_record->setCheckable(true);
+    m_record->setShortcut(QKeySequence(Qt::Key_F7));
+    m_record->setIcon(QIcon(QStringLiteral(":/ostriaviewer/icons/record.svg")));
+    m_chooseFolder->setObjectName(QStringLiteral("recordingFolder"));
+    connect(m_record, &QAction::triggered, this, &RecordingCommands::toggle);
+    connect(m_chooseFolder, &QAction::triggered, this, &RecordingCommands::folderRequested);
+    connect(&cameras, &CameraList::stateChanged, this, &RecordingCommands::onStateChanged);
+    retranslate();
+    update();
+}
+
+// Recorders wait for what is still to be written.
+RecordingCommands::~RecordingCommands()
+{
+    for (auto recorder = m_recorders.begin(); recorder != m_recorders.end(); ++recorder) {
+        m_cameras.pool().recordings()->end(recorder.key());
+        delete recorder.value();
+    }
+}
+
+QString RecordingCommands::folder() const
+{
+    return m_folder;
+}
+
+void RecordingCommands::setFolder(const QString& folder)
+{
+    m_folder = folder;
+    m_settings.setValue(folderName, folder);
+}
+
+void RecordingCommands::toggle(bool isWanted)
+{
+    const HostCameraPtr camera = m_commands.camera();
+    if (!camera)
+        return;
+    if (isWanted)
+        start(camera);
+    else
+        stop(camera.data());
+    update();
+}
+
+// The recorder listens before the camera starts, so that no image is missed.
+void RecordingCommands::start(const HostCameraPtr& camera)
+{
+    if (m_recorders.contains(camera.data()))
+        return;
+    auto* recorder = new Recorder(this);
+    const QString error = recorder->start(camera, newFolder(m_folder, camera->modelName()));
+    if (!error.isEmpty()) {
+        delete recorder;
+        emit reported(error, true);
+        return;
+    }
+    m_recorders.insert(camera.data(), recorder);
+    connect(recorder, &Recorder::finished, this,
+            [this, camera](const RecordingResult& result) { onFinished(camera, result); });
+    m_cameras.pool().recordings()->begin(camera.data(), [this, key = camera.data()] { stop(key); });
+    if (!camera->isGrabbing())
+        m_commands.start();
+    if (!camera->isGrabbing())
+        recorder->stop();
+    m_cameras.announce(camera);
+}
+
+void RecordingCommands::stop(const HostCamera* camera)
+{
+    if (Recorder* recorder = m_recorders.value(camera))
+        recorder->stop();
+}
+
+void RecordingCommands::onStateChanged(const HostCameraPtr& camera)
+{
+    if (!camera->isGrabbing())
+        stop(camera.data());
+    update();
+}
+
+void RecordingCommands::onFinished(const HostCameraPtr& camera, const RecordingResult& result)
+{
+    m_recorders.take(camera.data())->deleteLater();
+    m_cameras.pool().recordings()->end(camera.data());
+    const QString folder = QDir::toNativeSeparators(result.folder);
+    if (!result.error.isEmpty())
+        emit reported(tr("The recording of %1 ended after %2 pictures: %3. What was recorded is in "
+                         "%4. Make room on the disk or choose another folder.")
+                          .arg(camera->displayName())
+                          .arg(result.written)
+                          .arg(result.error, folder),
+                      true);
+    else if (result.dropped + result.failed > 0)
+        emit reported(tr("Recorded %1 pictures of %2 in %3. %4 more came too fast to be written, "
+                         "%5 failed in the camera; the numbers of the files show where.")
+                          .arg(result.written)
+                          .arg(camera->displayName(), folder)
+                          .arg(result.dropped)
+                          .arg(result.failed),
+                      false);
+    else
+        emit reported(tr("Recorded %1 pictures of %2 in %3.")
+                          .arg(result.written)
+                          .arg(camera->displayName(), folder),
+                      false);
+    m_cameras.announce(camera);
+}
+
+void RecordingCommands::update()
+{
+    const HostCameraPtr camera = m_commands.camera();
+    const bool isRecording = camera && m_cameras.pool().recordings()->isRecording(camera.data());
+    m_record->setEnabled(camera != nullptr);
+    m_record->setChecked(isRecording);
+}
+
+void RecordingCommands::retranslate()
+{
+    m_record->setText(tr("&Record"));
+    m_record->setToolTip(tr("Write the camera's pictures into files until pressed again"));
+    m_chooseFolder->setText(tr("Recording &Folder..."));
+}
+
+} // namespace Viewer

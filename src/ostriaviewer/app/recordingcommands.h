@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+// Recording of the selected camera.
+#pragma once
+
+#include "cameracommands.h"
+#include "cameralist.h"
+#include "recorder.h"
+#include "viewersettings.h"
+
+#include <QAction>
+#include <QHash>
+#include <QObject>
+
+#include <memory>
+
+namespace Viewer {
+
+/// The actions that begin and end recordings; each camera may be recorded by itself. A recording
+/// ends with its camera's grabbing. Thread-bound: GUI thread.
+class RecordingCommands final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All are lent as long as the commands live.
+    RecordingCommands(CameraList& cameras, CameraCommands& commands, ViewerSettings& settings,
+                      QObject* parent = nullptr);
+    ~RecordingCommands() override;
+
+    /// Checked while the selected camera is recorded.
+    QAction* recordAction() const { return m_record; }
+    QAction* folderAction() const { return m_chooseFolder; }
+
+    /// Each recording gets a folder of its own in this one.
+    QString folder() const;
+    void setFolder(const QString& folder);
+
+    /// Enables and checks the actions for the camera that is selected now.
+    void update();
+
+    void retranslate();
+
+signals:
+    /// What the user should know; `isFailure` if the recording is not what was asked for.
+    void reported(const QString& text, bool isFailure);
+
+    /// The user wants to choose the folder.
+    void folderRequested();
+
+private:
+    void toggle(bool isWanted);
+    void start(const Cameras::HostCameraPtr& camera);
+    void stop(const Cameras::HostCamera* camera);
+    void onStateChanged(const Cameras::HostCameraPtr& camera);
+    void onFinished(const Cameras::HostCameraPtr& camera, const RecordingResult& result);
+
+    CameraList& m_cameras;
+    CameraCommands& m_commands;
+    ViewerSettings& m_settings;
+    QString m_folder; // where settings are not kept
+    QAction* m_record;
+    QAction* m_chooseFolder;
+    QHash<const Cameras::HostCamera*, Recorder*> m_recorders;
+};
+
+} // namespace Viewer

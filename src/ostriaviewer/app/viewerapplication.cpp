@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: Apache-2.0
+// Puts the viewer together: cameras, services, window and plugins.
+#include "viewerapplication.h"
+
+#include "pluginsdialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+
+#include <utility>
+
+namespace Viewer {
+
+using Cameras::HostCameraPtr;
+
+namespace {
+
+const auto themeName = QStringLiteral("Theme");
+const auto languageName = QStringLiteral("Language");
+
+} // namespace
+
+ViewerApplication::ViewerApplication(ViewerArguments arguments, const QList<HostCameraPtr>& cameras)
+    : m_arguments(std::move(arguments))
+    , m_registry(QSharedPointer<Core::Service::CServiceRegistry>::create())
+    , m_language(startLanguage(m_settings.value(languageName).toString()))
+    , m_pool(cameras)
+    , m_menus(QSharedPointer<MenuService>::create())
+    , m_selector(QSharedPointer<DeviceSelectorService>::create())
+    , m_log(QSharedPointer<MessageLogService>::create(&m_messages))
+    , m_cameras(m_pool)
+    , m_plugins(m_registry, hostParts())
+{
+    m_catalogues.install(m_language);
+    const Theme theme = themeFromName(m_settings.value(themeName).toString());
+    applyTheme(theme);
+    registerServices();
+    m_window = std::make_unique<MainWindow>(
+        MainWindowParts{m_cameras, *m_selector, *m_menus, m_messages, m_settings});
+    m_window->menu().showTheme(theme);
+    m_window->menu().showLanguage(m_language);
+    makeConnections();
+    if (!m_settings.warning().isEmpty())
+        warn(m_settings.warning());
+}
+
+ViewerApplication::~ViewerApplication()
+{
+    m_plugins.unload();
+    for (const Core::Service::ServicePtr& service :
+         QList<Core::Service::ServicePtr>{m_menus, m_selector, m_log})
+        m_registry->remove(service);
+}
+
+void ViewerApplication::registerServices()
+{
+    m_registry->add(m_log);
+    m_registry->add(m_menus);
+    m_registry->add(m_selector);
+    m_pool.registerServices(*m_registry);
+}
+
+void ViewerApplication::makeConnections()
+{
+    const MainMenu* menu = &m_window->menu();
+    connect(menu, &MainMenu::themeChosen, this, &ViewerApplication::chooseTheme);
+    connect(menu, &MainMenu::languageChosen, this, &ViewerApplication::chooseLanguage);
+    connect(menu, &MainMenu::pluginsRequested, this, &ViewerApplication::showPlugins);
+    connect(menu, &MainMenu::aboutRequested, this, &ViewerApplication::showAbout);
+    connect(&m_window->commands(), &CameraCommands::failed, this,
+            [this](const QString& text) { m_log->addOwn(Core::Logging::Error, text); });
+    connect(&m_window->recording(), &RecordingCommands::reported, this,
+            [this](const QString& text, bool isFailure) {
+                m_log->addOwn(isFailure ? Core::Logging::Error : Core::Logging::Information, text);
+                if (isFailure)
+                    m_window->showFailure(text);
+            });
+    connect(&m_window->features(), &FeaturePanel::refused, this,
+            [this](const QString& reason) { warn(reason); });
+    connect(&m_window->session(), &LiveSession::frameFailed, this,
+            [this](const HostCameraPtr& camera, const QString& reason) {
+                warn(tr("A picture of %1 failed: %2").arg(camera->displayName(), reason));
+            });
+    connect(&m_cameras, &CameraList::connectionLost, this, [this](const HostCameraPtr& camera) {
+        m_log->addOwn(Core::Logging::Error,
+                      tr("The connection to %1 is lost. Reconnect the camera and open it again.")
+                          .arg(camera->displayName()));
+    });
+    m_window->setCloseCondition([this] { return mayClose(); });
+}
+
+void ViewerApplication::start()
+{
+    m_window->restoreLayout();
+    m_window->show();
+    startCamera();
+    loadPlugins();
+}
+
+// While the camera prepares its first image, plugins are loaded.
+void ViewerApplication::startCamera()
+{
+    const auto& cameras = m_cameras.cameras();
+    if (m_arguments.camera.isEmpty()) {
+        if (!cameras.isEmpty())
+            m_window->selectorPanel().select(cameras.constFirst());
+        return;
+    }
+    for (const HostCameraPtr& camera : cameras)
+        if (camera->displayName() == m_arguments.camera ||
+            camera->modelName() == m_arguments.camera) {
+            m_window->selectorPanel().select(camera);
+            return m_window->commands().start();
+        }
+    warn(tr("There is no camera \"%1\"; select one in the list.").arg(m_arguments.camera));
+}
+
+void ViewerApplication::loadPlugins()
+{
+    const QString folder =
+        m_arguments.pluginFolder.isEmpty() ? standardPluginFolder() : m_arguments.pluginFolder;
+    if (!QDir(folder).exists())
+        return warn(tr("The plugin folder %1 does not exist; the viewer runs without plugins.")
+                        .arg(QDir::toNativeSeparators(folder)));
+    m_plugins.loadFolder(folder, m_language, m_arguments.all);
+    for (const PluginReport& report : m_plugins.reports()) {
+        const QString file = QDir::toNativeSeparators(report.file);
+        if (report.error.isEmpty())
+            m_log->addOwn(Core::Logging::Information,
+                          tr("Plugin %1 %2 is loaded.").arg(report.name, report.version));
+        else
+            m_log->addOwn(report.isRequired ? Core::Logging::Error : Core::Logging::Warning,
+                          tr("Plugin %1 is left out. %2").arg(file, report.error));
+    }
+}
+
+PluginManager::HostParts ViewerApplication::hostParts()
+{
+    const QVersionNumber services(2, 0, 0);
+    const QVersionNumber shell(7, 3, 0);
+    return {{QStringLiteral("AppCore"), services},
+            {QStringLiteral("CameraPool"), services},
+            {QStringLiteral("DataProcessingCore"), services},
+            {QStringLiteral("MessageLogCore"), services},
+            {QStringLiteral("ParameterCollectionPool"), services},
+            {QStringLiteral("CameraSelector"), shell},
+            {QStringLiteral("ImageView"), shell},
+            {QStringLiteral("ViewerShell"), shell},
+            {QStringLiteral("VideoRecording"), shell}};
+}
+
+// Installed, or in the folder of a build.
+QString ViewerApplication::standardPluginFolder()
+{
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString installed =
+        programs.absoluteFilePath(QStringLiteral("../lib/ostriaviewer/plugins"));
+    const QString built = programs.absoluteFilePath(QStringLiteral("../plugins"));
+    return QDir::cleanPath(QDir(installed).exists() ? installed : built);
+}
+
+void ViewerApplication::chooseTheme(Theme theme)
+{
+    m_settings.setValue(themeName, nameOf(theme));
+    applyTheme(theme);
+    m_window->menu().showTheme(theme);
+}
+
+void ViewerApplication::chooseLanguage(const QString& code)
+{
+    m_settings.setValue(languageName, code);
+    m_language = code;
+    m_catalogues.install(code);
+    m_plugins.setLanguage(code);
+    m_window->menu().showLanguage(code);
+}
+
+void ViewerApplication::showPlugins()
+{
+    auto* dialog = new PluginsDialog(m_plugins.reports(), m_window.get());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void ViewerApplication::showAbout()
+{
+    auto* box = new QMessageBox(
+        QMessageBox::NoIcon, tr("About Ostria Viewer"),
+        tr("<h3>Ostria Viewer %1</h3><p>Shows the pictures of cameras, and what plugins do with "
+           "them.</p><p>Licence: Apache 2.0. Built on Qt %2.</p>")
+            .arg(QCoreApplication::applicationVersion(), QString::fromLatin1(qVersion())),
+        QMessageBox::Close, m_window.get());
+    box->setIconPixmap(m_window->windowIcon().pixmap(64));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+bool ViewerApplication::mayClose()
+{
+    return !QApplication::activeModalWidget() && m_plugins.checkClosability(false);
+}
+
+// A dialog runs an event loop of its own, which must have ended before the window does.
+void ViewerApplication::quit()
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (!dialog) {
+        m_window->close();
+        return;
+    }
+    dialog->close();
+    QMetaObject::invokeMethod(
+        this,
+        [this, dialog] {
+            if (QApplication::activeModalWidget() != dialog)
+                quit();
+        },
+        Qt::QueuedConnection);
+}
+
+void ViewerApplication::warn(const QString& text)
+{
+    m_log->addOwn(Core::Logging::Warning, text);
+}
+
+} // namespace Viewer

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+// Puts the viewer together: cameras, services, window and plugins.
+#pragma once
+
+#include "cameralist.h"
+#include "camerapool.h"
+#include "deviceselectorservice.h"
+#include "language.h"
+#include "mainwindow.h"
+#include "menuservice.h"
+#include "messagelogmodel.h"
+#include "messagelogservice.h"
+#include "pluginmanager.h"
+#include "serviceregistry.h"
+#include "viewerarguments.h"
+#include "viewersettings.h"
+
+#include <QObject>
+#include <QSharedPointer>
+
+#include <memory>
+
+namespace Viewer {
+
+/// The whole viewer; its end gives all cameras back. Thread-bound: GUI thread.
+class ViewerApplication final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \param cameras  not null, each once
+    ViewerApplication(ViewerArguments arguments, const QList<Cameras::HostCameraPtr>& cameras);
+    ~ViewerApplication() override;
+
+    /// Shows the window, then loads the plugins.
+    void start();
+
+    /// Closes dialogs that are open, then the window. What runs in a dialog is cancelled.
+    void quit();
+
+    MainWindow& window() { return *m_window; }
+    const QSharedPointer<Core::Service::CServiceRegistry>& registry() const { return m_registry; }
+    MessageLogModel& messages() { return m_messages; }
+    const PluginManager& plugins() const { return m_plugins; }
+    Cameras::CameraPool& pool() { return m_pool; }
+
+    /// The host parts that plugins may depend on.
+    static PluginManager::HostParts hostParts();
+
+    /// Where the viewer's own plugins are.
+    static QString standardPluginFolder();
+
+private:
+    void registerServices();
+    void makeConnections();
+    void loadPlugins();
+    void startCamera();
+    void chooseTheme(Theme theme);
+    void chooseLanguage(const QString& code);
+    void showPlugins();
+    void showAbout();
+    bool mayClose();
+    void warn(const QString& text);
+
+    const ViewerArguments m_arguments;
+    const QSharedPointer<Core::Service::CServiceRegistry> m_registry;
+    ViewerSettings m_settings;
+    LanguageCatalogues m_catalogues;
+    QString m_language;
+    MessageLogModel m_messages;
+    Cameras::CameraPool m_pool;
+    const QSharedPointer<MenuService> m_menus;
+    const QSharedPointer<DeviceSelectorService> m_selector;
+    const QSharedPointer<MessageLogService> m_log;
+    CameraList m_cameras;
+    std::unique_ptr<MainWindow> m_window;
+    PluginManager m_plugins; // ends first
+};
+
+} // namespace Viewer

@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the scene of the wizard asks of the model.
+#include "qmldatamodelinterface.h"
+
+#include "colorcorrectionmodel.h"
+#include "originalimageprovider.h"
+#include "qmlostriacamera.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QMutexLocker>
+#include <QtConcurrent>
+
+#include <algorithm>
+
+namespace ColorCalibration {
+namespace {
+
+/// Shows the busy cursor while it lives.
+class BusyCursor
+{
+public:
+    BusyCursor() { QApplication::setOverrideCursor(Qt::BusyCursor); }
+    ~BusyCursor() { QApplication::restoreOverrideCursor(); }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
+};
+
+QString compactText(const QJsonObject& object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+void QmlDataModelInterface::updateTrapezoidList()
+{
+    const QMutexLocker lock(&m_mutex);
+    m_grid.update();
+}
+
+void QmlDataModelInterface::grabOriginalImage()
+{
+    if (!m_view)
+        return;
+    m_imageProvider->grabInitialImage();
+    emit originalImageUrlChanged();
+}
+
+bool QmlDataModelInterface::loadSettings(QString cstString)
+{
+    QFile file(cstString);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QString text = QString::fromUtf8(file.readAll());
+    if (file.error() != QFileDevice::NoError)
+        return false;
+    file.close();
+    return m_model->LoadSettings(text);
+}
+
+void QmlDataModelInterface::cancel()
+{
+    giveSettingsBack();
+    emit signalCancel();
+}
+
+void QmlDataModelInterface::abandon()
+{
+    giveSettingsBack();
+}
+
+void QmlDataModelInterface::giveSettingsBack()
+{
+    m_model->StopGrabbing();
+    if (!m_model->RestoreSettingsBackup(false))
+        LogMessage(QStringLiteral("The camera's original settings couldn’t be restored. Load them "
+                                  "from a user set or a settings file."),
+                   Core::Logging::Error);
+}
+
+void QmlDataModelInterface::finish()
+{
+    m_model->StopGrabbing();
+    emit signalFinished();
+}
+
+bool QmlDataModelInterface::setNeutralSettings()
+{
+    m_calibrationResults = QJsonObject();
+    return m_model->SetNeutralSettings();
+}
+
+bool QmlDataModelInterface::tellOutcome(bool success, const QString& whenDone,
+                                        const QString& whenFailed, const QString& target)
+{
+    if (success)
+        emit forwardLogMessage(whenDone + target, Core::Logging::Information);
+    else
+        emit forwardLogMessage(whenFailed + target, Core::Logging::Error);
+    return success;
+}
+
+bool QmlDataModelInterface::saveSettingsToFilePath()
+{
+    const BusyCursor busy;
+    if (m_calibrationFileToSave.isEmpty())
+        return true;
+    return tellOutcome(m_model->SaveSettingsToFile(m_calibrationFileToSave),
+                       QStringLiteral("Settings have been saved successfully in "),
+                       QStringLiteral("Settings couldn’t be saved in "), m_calibrationFileToSave);
+}
+
+bool QmlDataModelInterface::storeSettingsInUserSet(QString userSetSelectorName, bool setAsDefault)
+{
+    const BusyCursor busy;
+    return tellOutcome(m_model->StoreSettingsInUserSet(userSetSelectorName, setAsDefault),
+                       QStringLiteral("Settings were saved successfully in "),
+                       QStringLiteral("Settings couldn’t be saved in "), userSetSelectorName);
+}
+
+bool QmlDataModelInterface::saveSummaryToFilePath()
+{
+    const BusyCursor busy;
+    if (m_summaryFileToSave.isEmpty())
+        return true;
+    return tellOutcome(m_model->SaveSummaryToFile(m_summaryFileToSave),
+                       QStringLiteral("Summary has been saved successfully in "),
+                       QStringLiteral("Summary couldn’t be saved in "), m_summaryFileToSave);
+}
+
+void QmlDataModelInterface::getGridPosition()
+{
+    m_grid.setOutline(m_model->GetGridPosition());
+}
+
+bool QmlDataModelInterface::restoreSettingsBackup(bool intialImage)
+{
+    return m_model->RestoreSettingsBackup(intialImage);
+}
+
+bool QmlDataModelInterface::createSettingsBackup(bool intialImage)
+{
+    return m_model->CreateSettingsBackup(intialImage);
+}
+
+bool QmlDataModelInterface::restoreDetectedExposureAndGain()
+{
+    return m_model->RestoreDetectedExposureAndGain();
+}
+
+bool QmlDataModelInterface::storeDetectedExposureAndGain()
+{
+    return m_model->StoreDetectedExposureAndGain();
+}
+
+QString QmlDataModelInterface::getAvailableUserSets()
+{
+    return compactText(m_model->GetAvailableUserSetsJson());
+}
+
+QString QmlDataModelInterface::getCalibrationsResultsJson()
+{
+    return compactText(m_calibrationResults);
+}
+
+bool QmlDataModelInterface::autoAdjustGray80PercentPatch()
+{
+    return m_model->AutoAdjustGray80PercentPatch();
+}
+
+bool QmlDataModelInterface::executeCalibrationAndApply()
+{
+    return m_model->ExecuteCalibrationAndApply();
+}
+
+bool QmlDataModelInterface::executeWhitebalance()
+{
+    return m_model->ExecuteWhitebalance();
+}
+
+void QmlDataModelInterface::activateMonoImage()
+{
+    m_model->ActivateMonoImage();
+}
+
+bool QmlDataModelInterface::applyInitialColorPatchValues()
+{
+    return m_model->ApplyInitialColorPatchValues();
+}
+
+bool QmlDataModelInterface::applyInitialCameraImageAndPatchValues()
+{
+    return m_model->ApplyInitialCameraImageAndPatchValues();
+}
+
+void QmlDataModelInterface::disableAutoFunctions()
+{
+    m_model->DisableAutoFunctions();
+}
+
+void QmlDataModelInterface::forceReload()
+{
+    emit activeStepChanged();
+}
+
+void QmlDataModelInterface::findChart()
+{
+    beginBusyCursor();
+    endChartSearch(searchChart(), m_scene);
+}
+
+void QmlDataModelInterface::findChartAsync()
+{
+    m_camera->setBusyIndication(true);
+    beginBusyCursor();
+    const auto isDone = [](const QFuture<void>& search) {
+        return search.isFinished();
+    };
+    m_searches.erase(std::remove_if(m_searches.begin(), m_searches.end(), isDone),
+                     m_searches.end());
+    // The pool grabs and searches alone. Outline, list and cursor belong to the GUI thread, where
+    // the pages read them at any time.
+    m_searches.append(QtConcurrent::run([this, scene = m_scene] {
+        const ChartSearch search = searchChart();
+        QMetaObject::invokeMethod(
+            this, [this, search, scene] { endChartSearch(search, scene); }, Qt::QueuedConnection);
+    }));
+}
+
+QmlDataModelInterface::ChartSearch QmlDataModelInterface::searchChart()
+{
+    ChartSearch search;
+    try {
+        QImage image;
+        search.grabbed = m_model->GrabImage(image, false);
+        if (search.grabbed)
+            search.result = m_chartFinder.findChart(image.copy());
+    } catch (const std::exception&) {
+        // Too large for the memory: the same as a chart that is not there.
+        search.result = {};
+    }
+    return search;
+}
+
+void QmlDataModelInterface::endChartSearch(const ChartSearch& search, int scene)
+{
+    // What was found for a scene that has gone must not move the grid of the next one.
+    if (search.grabbed && scene == m_scene) {
+        if (search.result.valid) {
+            const PointTransformer& transformer = *m_grid.transformer();
+            QmlTrapezoid& outline = *m_grid.outlineView();
+            outline.setUpperLeft(transformer.toCanvas(search.result.upperLeft));
+            outline.setUpperRight(transformer.toCanvas(search.result.upperRight));
+            outline.setLowerLeft(transformer.toCanvas(search.result.lowerLeft));
+            outline.setLowerRight(transformer.toCanvas(search.result.lowerRight));
+            updateTrapezoidList();
+        }
+        emit autoChartFindFinished(search.result.valid);
+    }
+    m_camera->setBusyIndication(false);
+    endBusyCursor();
+}
+
+void QmlDataModelInterface::beginBusyCursor()
+{
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+    ++m_busyCursors;
+}
+
+void QmlDataModelInterface::endBusyCursor()
+{
+    --m_busyCursors;
+    QApplication::restoreOverrideCursor();
+}
+
+} // namespace ColorCalibration

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: Apache-2.0
+// Messages reach the user whole and in order, and can be filtered and copied.
+#include "messagelogpanel.h"
+#include "messagelogservice.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+
+#include <thread>
+
+#include <gtest/gtest.h>
+
+namespace Viewer {
+namespace {
+
+using namespace Core::Logging;
+
+class MessageLogTest : public testing::Test
+{
+protected:
+    int shownRows() { return m_panel.findChild<QTreeView*>("messages")->model()->rowCount(); }
+
+    MessageLogModel m_model;
+    MessageLogService m_service{&m_model};
+    MessageLogPanel m_panel{&m_model};
+};
+
+TEST_F(MessageLogTest, KeepsTheTimeGivenAndTakesThePresentForNone)
+{
+    const QDateTime past(QDate(2001, 2, 3), QTime(4, 5, 6));
+    m_service.addEntry(Warning, "Somebody", "old", past);
+    const QDateTime before = QDateTime::currentDateTime();
+    m_service.addEntry(Warning, "Somebody", "new", QDateTime());
+    EXPECT_EQ(m_model.message(0).time, past);
+    EXPECT_GE(m_model.message(1).time, before);
+    EXPECT_LE(m_model.message(1).time, QDateTime::currentDateTime());
+}
+
+TEST_F(MessageLogTest, ShowsWhatAnyThreadWritesToTheLog)
+{
+    std::thread writer([] {
+        for (int number = 0; number < 100; ++number)
+            createLogEntry(Error, getCatId("a.category"), QString::number(number));
+    });
+    writer.join();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_model.rowCount() == 100; }, 60000));
+    EXPECT_EQ(m_model.message(0).source, "a.category");
+    EXPECT_EQ(m_model.message(99).text, "99");
+    EXPECT_EQ(m_model.message(99).level, Error);
+}
+
+TEST_F(MessageLogTest, ShowsOnceWhatIsWrittenToTheLogAndToTheUser)
+{
+    createLogEntry(Warning, getCatId("a.category"), "twice");
+    m_service.addEntry(Warning, "Somebody", "twice", {});
+    createLogEntry(Warning, getCatId("a.category"), "another");
+    m_service.addEntry(Error, "Somebody", "another", {});
+    ASSERT_EQ(m_model.rowCount(), 3);
+    EXPECT_EQ(m_model.message(0).source, "Somebody");
+}
+
+TEST_F(MessageLogTest, KeepsEqualMessagesOfOneSource)
+{
+    m_service.addEntry(Warning, "Somebody", "again", {});
+    m_service.addEntry(Warning, "Somebody", "again", {});
+    EXPECT_EQ(m_model.rowCount(), 2);
+}
+
+TEST(MessageLogServiceTest, GivesTheLogBackAtItsEnd)
+{
+    QStringList received;
+    const LogSink before = installLogSink(
+        [&](ELogLevel, const QString&, const QString& text) { received.append(text); });
+    MessageLogModel model;
+    {
+        const MessageLogService service(&model);
+        createLogEntry(Error, getCatId("a.category"), "to the viewer");
+    }
+    createLogEntry(Error, getCatId("a.category"), "to the sink before");
+    installLogSink(before);
+    EXPECT_EQ(received, QStringList("to the sink before"));
+}
+
+TEST_F(MessageLogTest, DropsTheOldestWhenItIsFull)
+{
+    for (int number = 0; number <= MessageLogModel::capacity; ++number)
+        m_service.addEntry(Information, "Somebody", QString::number(number), {});
+    EXPECT_LE(m_model.rowCount(), MessageLogModel::capacity);
+    EXPECT_EQ(m_model.message(m_model.rowCount() - 1).text,
+              QString::number(MessageLogModel::capacity));
+    EXPECT_EQ(m_model.message(0).text, "1000");
+}
+
+TEST_F(MessageLogTest, HidesLowerLevels)
+{
+    for (const ELogLevel level : {Debug, Information, Warning, Error, Fatal})
+        m_service.addEntry(level, "Somebody", "text", {});
+    auto* levels = m_panel.findChild<QComboBox*>("level");
+    const int shown[] = {5, 4, 3, 2};
+    EXPECT_EQ(shownRows(), shown[Information]) << "debug entries are for who asks for them";
+    for (int level = Debug; level <= Error; ++level) {
+        levels->setCurrentIndex(level);
+        EXPECT_EQ(shownRows(), shown[level]);
+    }
+}
+
+TEST_F(MessageLogTest, FindsWordsInSourceAndTextWithoutRegardToCase)
+{
+    m_service.addEntry(Warning, "Camera", "is lost", {});
+    m_service.addEntry(Warning, "Disk", "is full [100 %]", {});
+    auto* filter = m_panel.findChild<QLineEdit*>("filter");
+    QTest::keyClicks(filter, "camera");
+    EXPECT_EQ(shownRows(), 1);
+    filter->clear();
+    QTest::keyClicks(filter, "FULL [");
+    EXPECT_EQ(shownRows(), 1);
+    filter->clear();
+    EXPECT_EQ(shownRows(), 2);
+}
+
+TEST_F(MessageLogTest, CopiesTheSelectedMessagesElseAllThatAreShown)
+{
+    const QDateTime time(QDate(2001, 2, 3), QTime(4, 5, 6, 7));
+    m_service.addEntry(Warning, "A", "first", time);
+    m_service.addEntry(Error, "B", "second", time);
+    m_service.addEntry(Debug, "C", "hidden", time);
+    m_panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_panel));
+    QTest::mouseClick(m_panel.findChild<QToolButton*>("copyButton"), Qt::LeftButton);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "2001-02-03T04:05:06.007\tWarning\tA\tfirst\n"
+                                                    "2001-02-03T04:05:06.007\tError\tB\tsecond\n");
+    auto* view = m_panel.findChild<QTreeView*>("messages");
+    view->setCurrentIndex(view->model()->index(1, 0));
+    QTest::mouseClick(m_panel.findChild<QToolButton*>("copyButton"), Qt::LeftButton);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "2001-02-03T04:05:06.007\tError\tB\tsecond\n");
+    QTest::mouseClick(m_panel.findChild<QToolButton*>("clearButton"), Qt::LeftButton);
+    EXPECT_EQ(m_model.rowCount(), 0);
+}
+
+} // namespace
+} // namespace Viewer

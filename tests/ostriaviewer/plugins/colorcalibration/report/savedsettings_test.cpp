@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: Apache-2.0
+// Tests of what a whole calibration of an emulated camera leaves behind.
+#include "emulatedcalibration.h"
+#include "reportdata.h"
+
+#include <QDir>
+#include <QJsonArray>
+
+using namespace ColorCalibration;
+
+namespace {
+
+using Names = Cameras::Emulation::FeatureNames;
+
+/// The path of the one entry of a folder.
+QString onlyEntry(const QString& folder)
+{
+    const QStringList entries = QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    EXPECT_EQ(entries.size(), 1) << entries.join(' ').toStdString();
+    return folder + "/" + entries.value(0);
+}
+
+/// The mean difference of the channels, 0 to 255. (Single channels near black differ by more than
+/// ten from image to image, where the gamma curve is steep.)
+double difference(const QVector<QColor>& left, const QVector<QColor>& right)
+{
+    if (left.size() != 24 || right.size() != 24)
+        return 255.0;
+    double sum = 0.0;
+    for (int i = 0; i < 24; ++i)
+        sum += qAbs(left[i].redF() - right[i].redF()) + qAbs(left[i].greenF() - right[i].greenF()) +
+               qAbs(left[i].blueF() - right[i].blueF());
+    return 255.0 * sum / 72.0;
+}
+
+class SavedSettings : public testing::TestWithParam<Names>
+{
+protected:
+    void resetCamera()
+    {
+        const auto parameters = m_calibration.camera()->parameterCollection();
+        parameters->enumerationParameter("UserSetSelector")->setValue("Default");
+        parameters->commandParameter("UserSetLoad")->execute();
+    }
+
+    using Series = QVector<QVector<QColor>>;
+
+    Series measureOften()
+    {
+        Series series;
+        for (int i = 0; i < 5; ++i)
+            series << m_calibration.measure();
+        return series;
+    }
+
+    /// How far images of one state lie apart.
+    static double spread(const Series& series)
+    {
+        double spread = 0.0;
+        for (const auto& left : series)
+            for (const auto& right : series)
+                spread = qMax(spread, difference(left, right));
+        return spread;
+    }
+
+    static QVector<QColor> mean(const Series& series)
+    {
+        QVector<QColor> colors;
+        for (int i = 0; i < series.first().size(); ++i) {
+            double sums[3] = {0.0, 0.0, 0.0};
+            for (const auto& one : series) {
+                sums[0] += one.value(i).redF();
+                sums[1] += one.value(i).greenF();
+                sums[2] += one.value(i).blueF();
+            }
+            colors << QColor::fromRgbF(sums[0] / series.size(), sums[1] / series.size(),
+                                       sums[2] / series.size());
+        }
+        return colors;
+    }
+
+    QTemporaryDir m_folder;
+    EmulatedCalibration m_calibration{GetParam()};
+};
+
+TEST_P(SavedSettings, BringTheSameColorsAgainAfterAReset)
+{
+    ColorCorrectionModel& model = m_calibration.model();
+    ASSERT_TRUE(m_calibration.run());
+    const Series calibrated = measureOften();
+    ASSERT_EQ(calibrated.first().size(), 24);
+    const double noise = spread(calibrated);
+    ASSERT_LT(noise, 5.0);
+    ASSERT_TRUE(model.SaveSettingsToFile(m_folder.path()));
+    ASSERT_TRUE(model.StoreDetectedExposureAndGain());
+
+    resetCamera();
+    ASSERT_TRUE(model.RestoreDetectedExposureAndGain());
+    EXPECT_GT(difference(mean(calibrated), mean(measureOften())), 3.0 * noise);
+
+    QFile file(onlyEntry(onlyEntry(m_folder.path())));
+    EXPECT_TRUE(file.fileName().endsWith("/Calibrated.cst"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    ASSERT_TRUE(model.LoadSettings(QString::fromUtf8(file.readAll())));
+    EXPECT_LE(difference(mean(calibrated), mean(measureOften())), noise);
+}
+
+TEST_P(SavedSettings, ResultsTellOfACalibrationThatHelped)
+{
+    ASSERT_TRUE(m_calibration.run());
+    const QJsonObject results = m_calibration.model().GetCalibrationResultsJson();
+    EXPECT_EQ(results.keys(), (QStringList{"Calibrated", "Colors", "Original", "PreciseColors"}));
+    double sum = 0.0;
+    for (const QJsonValue& patch : results["Colors"].toObject())
+        sum += patch.toObject()["DeltaE"].toString().toDouble();
+    EXPECT_LT(sum / 24.0, 3.0);
+    EXPECT_NE(results["Original"].toObject()["WhiteBalance"],
+              results["Calibrated"].toObject()["WhiteBalance"]);
+    EXPECT_NE(results["Calibrated"].toObject()["Matrix"].toObject()["Gain00"], "N/A");
+}
+
+INSTANTIATE_TEST_SUITE_P(EachGeneration, SavedSettings,
+                         testing::Values(Names::FirstGeneration, Names::SecondGeneration,
+                                         Names::SecondGenerationMaker));
+
+TEST(SavedUserSet, IsListedStoredAndComesUpWithTheNextOpening)
+{
+    EmulatedCalibration calibration(Names::SecondGeneration);
+    ColorCorrectionModel& model = calibration.model();
+    ASSERT_TRUE(calibration.run());
+    EXPECT_EQ(model.GetAvailableUserSetsJson(),
+              (QJsonObject{{"UserSets", QJsonArray{QJsonObject{{"User Set 1", "UserSet1"}},
+                                                   QJsonObject{{"User Set 2", "UserSet2"}},
+                                                   QJsonObject{{"User Set 3", "UserSet3"}}}}}));
+    const QJsonValue calibrated = model.GetCalibrationResultsJson()["Calibrated"];
+    ASSERT_TRUE(model.StoreSettingsInUserSet("UserSet2", true));
+    ASSERT_TRUE(model.Close());
+    ASSERT_TRUE(calibration.open());
+    EXPECT_EQ(model.GetCalibrationResultsJson()["Calibrated"], calibrated);
+}
+
+} // namespace
