@@ -80,7 +80,7 @@ protected:
     QStringList m_steps;
 };
 
-/// Those that wait for an image for 5 s; one camera of each generation is enough.
+/// Those that wait for an image for 5 s; one camera is enough.
 class MissingFrames : public CalibrationFaults
 {};
 
@@ -177,4 +177,4 @@ TEST_P(CalibrationFaults, ARefusedWriteLeavesTheSettingsOrSaysThatTheyAreNot)
 }
 
 INSTANTIATE_TEST_SUITE_P(Cameras, CalibrationFaults, testing::Values(0, 1, 2));
-INSTANTIATE_TEST_SUITE_P(Cameras, MissingFrames, testing::Values(0, 2));
+INSTANTIATE_TEST_SUITE_P(Cameras, MissingFrames, testing::Values(0));

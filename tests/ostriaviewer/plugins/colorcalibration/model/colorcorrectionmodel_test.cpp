@@ -290,6 +290,23 @@ TEST_F(ModelTest, AChangeThatCannotBeReadIsNotReported)
     EXPECT_TRUE(logTexts().isEmpty());
 }
 
+TEST_F(ModelTest, AFailedOpeningLeavesTheHostsLiveImageRunning)
+{
+    m_camera->open = true;
+    m_camera->grabbing = true;
+    m_status.cameraIsOpen = true;
+    m_control.refuses = true;
+    EXPECT_FALSE(open());
+    EXPECT_TRUE(m_camera->grabbing);
+    EXPECT_EQ(m_camera->stops, 0);
+    m_control.refuses = false;
+    m_camera->withParameters = false;
+    EXPECT_FALSE(open());
+    EXPECT_TRUE(m_camera->grabbing);
+    EXPECT_EQ(m_control.handles, 0);
+    EXPECT_TRUE(m_camera->open);
+}
+
 TEST_F(ModelTest, CloseFromInsideOfAWaitEndsTheWait)
 {
     ASSERT_TRUE(open());
