@@ -78,6 +78,7 @@ function(ostria_add_test name)
     set(environment
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
         "UBSAN_OPTIONS=print_stacktrace=1"
+        "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
         ${arg_ENVIRONMENT})
     if(arg_DISPLAY)
         list(APPEND environment "QT_QPA_PLATFORM=xcb" ${OSTRIA_DISPLAY_PRELOAD})

@@ -24,6 +24,11 @@ Item {
         return outerLine + margin + index * (innerLine + 2 * margin)
     }
 
+    // None as long as not all are made.
+    function circleAt(index) {
+        return circles.count === iStep4 ? circles.itemAt(index) : null
+    }
+
     function moveTo(circle) {
         active = circle
         qmlModelInterface.activeStep = circle.step
@@ -217,8 +222,8 @@ Item {
 
         Rectangle {
             readonly property int step: index + 1
-            readonly property Rectangle next: circles.itemAt(step % 4)
-            readonly property Rectangle prev: circles.itemAt((step + 2) % 4)
+            readonly property Rectangle next: bar.circleAt(step % circles.count)
+            readonly property Rectangle prev: bar.circleAt((step + 2) % circles.count)
 
             objectName: "step" + step
             x: bar.centerOf(index) - margin

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: Apache-2.0
+// Opens the scene, and finds and drives what is in it.
+#include "wizardwindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QQmlContext>
+#include <QSettings>
+#include <QTest>
+
+namespace {
+
+CallLog* consoleLog = nullptr;
+
+void hear(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    const QByteArray file = context.file;
+    if (type == QtDebugMsg && consoleLog)
+        consoleLog->made << "console: " + text;
+    else if (type == QtWarningMsg && (file.contains("ColCal") || text.contains("ColCal")))
+        ADD_FAILURE() << text.toStdString();
+}
+
+} // namespace
+
+WizardWindow::WizardWindow()
+{
+    QSettings().clear();
+    consoleLog = &m_log;
+    qInstallMessageHandler(hear);
+}
+
+WizardWindow::~WizardWindow()
+{
+    answerAll();
+    m_view.reset();
+    qInstallMessageHandler(nullptr);
+    consoleLog = nullptr;
+}
+
+void WizardWindow::open(const QSize& size)
+{
+    m_view = std::make_unique<QQuickView>();
+    auto* context = m_view->rootContext();
+    context->setContextProperty("qmlModelInterface", &m_model);
+    context->setContextProperty("gridOutline", &m_outline);
+    context->setContextProperty("camera", &m_camera);
+    context->setContextProperty("grid", &m_grid);
+    context->setContextProperty("exposureTime", &m_exposure);
+    context->setContextProperty("gainValue", &m_gain);
+    context->setContextProperty("transformer", &m_transformer);
+    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
+    m_view->resize(size);
+    m_view->setSource(QUrl("qrc:/ColCal/main.qml"));
+    ASSERT_EQ(m_view->status(), QQuickView::Ready);
+    m_view->show();
+    m_view->requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_view.get()));
+    ASSERT_TRUE(waitForPaint());
+}
+
+void WizardWindow::deliverFirstImage()
+{
+    m_camera.setOriginalSize(item("canvasStep12")->size().toSize());
+    emit m_camera.imageChanged();
+}
+
+void WizardWindow::openAt(int step)
+{
+    ASSERT_NO_FATAL_FAILURE(open());
+    deliverFirstImage();
+    for (int next = 2; next <= step; ++next) {
+        click("nextButton");
+        ASSERT_EQ(m_model.activeStep(), next);
+    }
+    takeCalls();
+}
+
+QObject* WizardWindow::object(const char* name)
+{
+    auto* found = m_view->rootObject()->findChild<QObject*>(name);
+    EXPECT_NE(found, nullptr) << "nothing of the name " << name;
+    return found;
+}
+
+QQuickItem* WizardWindow::item(const char* name)
+{
+    auto* found = m_view->rootObject()->findChild<QQuickItem*>(name);
+    EXPECT_NE(found, nullptr) << "no item of the name " << name;
+    return found;
+}
+
+bool WizardWindow::hasItem(const char* name)
+{
+    return m_view->rootObject()->findChild<QQuickItem*>(name) != nullptr;
+}
+
+QVariant WizardWindow::property(const char* name, const char* property)
+{
+    const QVariant value = object(name)->property(property);
+    EXPECT_TRUE(value.isValid()) << name << " has no " << property;
+    return value;
+}
+
+QVariant WizardWindow::globalValue(const char* name)
+{
+    const QVariant value = m_view->rootObject()->property(name);
+    EXPECT_TRUE(value.isValid()) << name;
+    return value;
+}
+
+void WizardWindow::setGlobalValue(const char* name, const QVariant& value)
+{
+    EXPECT_TRUE(m_view->rootObject()->setProperty(name, value)) << name;
+}
+
+QPoint WizardWindow::middleOf(QQuickItem* item)
+{
+    return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
+}
+
+void WizardWindow::click(const char* name)
+{
+    QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, middleOf(item(name)));
+}
+
+void WizardWindow::press(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(m_view.get(), key, modifiers);
+}
+
+bool WizardWindow::tabTo(QQuickItem* item)
+{
+    constexpr int moreThanThereAre = 40;
+    for (int pressed = 0; pressed < moreThanThereAre; ++pressed) {
+        if (item->hasActiveFocus())
+            return true;
+        press(Qt::Key_Tab);
+    }
+    return false;
+}
+
+void WizardWindow::drag(const char* handle, const QPoint& by)
+{
+    const QPoint start = middleOf(item(handle));
+    QTest::mousePress(m_view.get(), Qt::LeftButton, {}, start);
+    QTest::mouseMove(m_view.get(), start + by);
+    QCoreApplication::processEvents();
+}
+
+QVector<QMessageBox*> WizardWindow::boxes()
+{
+    QVector<QMessageBox*> open;
+    for (auto* widget : QApplication::topLevelWidgets()) {
+        auto* box = qobject_cast<QMessageBox*>(widget);
+        if (box && box->isVisible())
+            open << box;
+    }
+    return open;
+}
+
+Message WizardWindow::onlyMessage()
+{
+    const auto open = boxes();
+    EXPECT_EQ(open.size(), 1);
+    if (open.size() != 1)
+        return {};
+    auto* box = open.first();
+    EXPECT_EQ(box->windowModality(), Qt::ApplicationModal);
+    return {box->windowTitle(), box->text(), box->icon()};
+}
+
+void WizardWindow::answer(QMessageBox::StandardButton button)
+{
+    const auto open = boxes();
+    ASSERT_EQ(open.size(), 1);
+    auto* found = open.first()->button(button);
+    ASSERT_NE(found, nullptr);
+    found->click();
+    QCoreApplication::processEvents();
+}
+
+void WizardWindow::answerAll()
+{
+    for (auto* box : boxes())
+        box->close();
+    QCoreApplication::processEvents();
+}
+
+QStringList WizardWindow::takeCalls()
+{
+    QStringList calls;
+    calls.swap(m_log.made);
+    return calls;
+}
+
+bool WizardWindow::waitForPaint()
+{
+    return waitFor([this] { return property("canvasStep12", "imageWidth").toInt() != 0; });
+}
+
+bool WizardWindow::waitFor(const std::function<bool()>& condition)
+{
+    return QTest::qWaitFor(condition, 10000);
+}
