@@ -23,12 +23,15 @@ function(ostria_add_library name)
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC_DEPS}
         PRIVATE $<BUILD_INTERFACE:ostria_compiler> ${arg_PRIVATE_DEPS})
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
+    if(arg_SHARED)
+        install(TARGETS ${name} LIBRARY DESTINATION lib RUNTIME DESTINATION bin)
+    endif()
 endfunction()
 
 # All programs, without tests and benchmarks.
 add_custom_target(programs)
 
-# A program in the bin folder.
+# A program in the bin folder; installed.
 function(ostria_add_executable name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS")
     _ostria_check_arguments(arg)
@@ -36,9 +39,10 @@ function(ostria_add_executable name)
     target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS})
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
     add_dependencies(programs ${name})
+    install(TARGETS ${name} RUNTIME DESTINATION bin)
 endfunction()
 
-# A plugin of the viewer, in the plugins folder.
+# A plugin of the viewer, in the plugins folder; installed where the viewer looks for it.
 function(ostria_add_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS")
     _ostria_check_arguments(arg)
@@ -46,8 +50,10 @@ function(ostria_add_plugin name)
     target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS})
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}"
-        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/plugins")
+        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/plugins"
+        INSTALL_RPATH "$ORIGIN/../..")
     add_dependencies(programs ${name})
+    install(TARGETS ${name} LIBRARY DESTINATION lib/ostriaviewer/plugins)
 endfunction()
 
 # The graphics driver is unloaded before leaks are reported; loaded first, it stays, and what it leaks
