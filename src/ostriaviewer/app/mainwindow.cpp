@@ -39,7 +39,7 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     , m_tools(addToolBar(QString()))
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setWindowIcon(QIcon(QStringLiteral(":/ostriaviewer/ostriaviewer.svg")));
+    setWindowIcon(QIcon(QStringLiteral(":/ostriaviewercomponents/Resources/ostriaviewer.svg")));
     setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
     m_view->setObjectName(QStringLiteral("liveView"));
     setCentralWidget(m_view);
