@@ -76,6 +76,7 @@ TEST_F(FeaturePanelTest, FilterFindsFeaturesByNameAndNothingElse)
     EXPECT_TRUE(cell("ExposureTime").isValid());
     child<QLineEdit>("featureFilter")->setText("no such feature");
     EXPECT_EQ(m_tree->model()->rowCount(), 0);
+    waitForAnimations(window());
     child<QLineEdit>("featureFilter")->clear();
     EXPECT_GT(m_tree->model()->rowCount(), 3);
 }

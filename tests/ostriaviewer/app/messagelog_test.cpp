@@ -119,10 +119,14 @@ TEST_F(MessageLogTest, FindsWordsInSourceAndTextWithoutRegardToCase)
     auto* filter = m_panel.findChild<QLineEdit*>("filter");
     QTest::keyClicks(filter, "camera");
     EXPECT_EQ(shownRows(), 1);
+    waitForAnimations(m_panel);
     filter->clear();
+    waitForAnimations(m_panel);
     QTest::keyClicks(filter, "FULL [");
     EXPECT_EQ(shownRows(), 1);
+    waitForAnimations(m_panel);
     filter->clear();
+    waitForAnimations(m_panel);
     EXPECT_EQ(shownRows(), 2);
 }
 
