@@ -9,6 +9,8 @@ namespace {
 class GridPage : public WizardWindow
 {
 protected:
+    ~GridPage() override { m_view.reset(); }
+
     bool handlesVisible() { return item("upperLeft")->isVisible(); }
     bool isEnabled(const char* name) { return item(name)->isEnabled(); }
 
@@ -17,6 +19,8 @@ protected:
         const QPoint point = item("canvasStep12")->mapToScene(canvas).toPoint();
         return m_view->grabWindow().pixelColor(point);
     }
+
+    TrapezoidDouble m_patch{{120, 120}, {150, 150}};
 };
 
 TEST_F(GridPage, FetchesTheGridAndOneImageBeforeItIsPainted)
@@ -107,8 +111,7 @@ TEST_F(GridPage, OffersNoGridAfterAnImageThatFailedUntilOneComes)
 
 TEST_F(GridPage, PaintsBlackLinesWithWhiteOnesBeside)
 {
-    TrapezoidDouble patch({120, 120}, {150, 150});
-    m_grid.m_list = {QVariant::fromValue<QObject*>(&patch)};
+    m_grid.m_list = {QVariant::fromValue<QObject*>(&m_patch)};
     openAt(1);
     ASSERT_TRUE(waitFor([this] { return pixel({200, 100}) == QColor(Qt::black); }));
     EXPECT_EQ(pixel({200, 101}), QColor(Qt::white));
