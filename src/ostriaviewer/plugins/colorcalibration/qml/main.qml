@@ -280,7 +280,20 @@ Rectangle {
         icon: StandardIcon.Critical
         title: tMsgHeader
         text: ""
-        onAccepted: qmlModelInterface.cancel()
+
+        // The box tells of one answer twice.
+        property bool answered: false
+
+        onVisibleChanged: {
+            if (visible)
+                answered = false
+        }
+        onAccepted: {
+            if (answered)
+                return
+            answered = true
+            qmlModelInterface.cancel()
+        }
     }
 
     Progress {
