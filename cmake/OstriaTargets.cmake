@@ -23,12 +23,15 @@ function(ostria_add_library name)
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC_DEPS}
         PRIVATE $<BUILD_INTERFACE:ostria_compiler> ${arg_PRIVATE_DEPS})
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
+    if(arg_SHARED)
+        install(TARGETS ${name} LIBRARY DESTINATION lib RUNTIME DESTINATION bin)
+    endif()
 endfunction()
 
 # All programs, without tests and benchmarks.
 add_custom_target(programs)
 
-# A program in the bin folder.
+# A program in the bin folder; installed.
 function(ostria_add_executable name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS")
     _ostria_check_arguments(arg)
@@ -36,9 +39,10 @@ function(ostria_add_executable name)
     target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS})
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
     add_dependencies(programs ${name})
+    install(TARGETS ${name} RUNTIME DESTINATION bin)
 endfunction()
 
-# A plugin of the viewer, in the plugins folder.
+# A plugin of the viewer, in the plugins folder; installed where the viewer looks for it.
 function(ostria_add_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC" "" "SOURCES;DEPS")
     _ostria_check_arguments(arg)
@@ -46,15 +50,26 @@ function(ostria_add_plugin name)
     target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS})
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}"
-        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/plugins")
+        LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/plugins"
+        INSTALL_RPATH "$ORIGIN/../..")
     add_dependencies(programs ${name})
+    install(TARGETS ${name} LIBRARY DESTINATION lib/ostriaviewer/plugins)
 endfunction()
+
+# The graphics driver is unloaded before leaks are reported; loaded first, it stays, and what it leaks
+# has a name that tests/lsan.supp knows. The sanitizer's library must come before it.
+if(OSTRIA_SANITIZE MATCHES "address")
+    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=libasan.so
+        OUTPUT_VARIABLE OSTRIA_ASAN_LIBRARY OUTPUT_STRIP_TRAILING_WHITESPACE)
+    file(GLOB OSTRIA_GRAPHICS_DRIVER "/usr/lib/*/dri/swrast_dri.so")
+    set(OSTRIA_DISPLAY_PRELOAD "OSTRIA_PRELOAD=${OSTRIA_ASAN_LIBRARY} ${OSTRIA_GRAPHICS_DRIVER}")
+endif()
 
 # A GoogleTest program; each of its tests becomes one ctest entry. The label "realtime" keeps its
 # tests out of runs under sanitizers, SERIAL lets each run alone, DISPLAY gives each a screen and
-# settings of its own, for programs that open windows.
+# settings of its own, for programs that open windows, LOOPBACK a network of its own.
 function(ostria_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY" ""
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY;LOOPBACK" ""
         "SOURCES;DEPS;LABELS;ENVIRONMENT")
     _ostria_check_arguments(arg)
     if(NOT arg_LABELS)
@@ -69,18 +84,29 @@ function(ostria_add_test name)
     set(environment
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
         "UBSAN_OPTIONS=print_stacktrace=1"
+        "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp"
         ${arg_ENVIRONMENT})
     if(arg_DISPLAY)
-        list(APPEND environment "QT_QPA_PLATFORM=xcb")
+        list(APPEND environment "QT_QPA_PLATFORM=xcb" ${OSTRIA_DISPLAY_PRELOAD})
         set_target_properties(${name} PROPERTIES
             CROSSCOMPILING_EMULATOR "${PROJECT_SOURCE_DIR}/scripts/with-display")
     else()
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
     endif()
+    if(arg_LOOPBACK)
+        set_target_properties(${name} PROPERTIES
+            CROSSCOMPILING_EMULATOR "${PROJECT_SOURCE_DIR}/scripts/with-loopback")
+    endif()
     gtest_discover_tests(${name}
         DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 ENVIRONMENT "${environment}"
-            RUN_SERIAL "${arg_SERIAL}")
+        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 RUN_SERIAL "${arg_SERIAL}")
+    # Of a list among the properties above only the first entry would arrive.
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
+    file(WRITE "${script}"
+        "if(${name}_TESTS)\n"
+        "  set_tests_properties(\${${name}_TESTS} PROPERTIES ENVIRONMENT \"${environment}\")\n"
+        "endif()\n")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
 endfunction()
 
 # A Google Benchmark program.

@@ -12,6 +12,12 @@ LAYERS = {
     "src/ostria": [],
     "src/ostriaviewer/core": ["src/ostria"],
     "src/ostriaviewer/cameras/genicam": ["src/ostria", "src/ostriaviewer/core"],
+    "src/ostriaviewer/cameras/genicam/devices": [
+        "src/ostria",
+        "src/ostriaviewer/core",
+        "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/pool",
+    ],
     "src/ostriaviewer/cameras/pool": ["src/ostria", "src/ostriaviewer/core"],
     "src/ostriaviewer/cameras/emulation": [
         "src/ostria",
@@ -21,12 +27,22 @@ LAYERS = {
         "src/ostriaviewer/cameras/emulation/renderer",
     ],
     "src/ostriaviewer/cameras/emulation/renderer": ["src/ostria"],
-    "src/ostriaviewer/app": [
+    "src/ostriaviewer/cameras/emulation/served": [
         "src/ostria",
         "src/ostriaviewer/core",
         "src/ostriaviewer/cameras/genicam",
         "src/ostriaviewer/cameras/pool",
         "src/ostriaviewer/cameras/emulation",
+        "src/ostriaviewer/cameras/emulation/renderer",
+    ],
+    "src/ostriaviewer/app": [
+        "src/ostria",
+        "src/ostriaviewer/core",
+        "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/genicam/devices",
+        "src/ostriaviewer/cameras/pool",
+        "src/ostriaviewer/cameras/emulation",
+        "src/ostriaviewer/cameras/emulation/served",
         "src/ostriaviewer/cameras/emulation/renderer",
     ],
     f"{PLUGIN}/internal/model/calibration": [],
@@ -65,8 +81,10 @@ LAYERS = {
         "src/ostria",
         "src/ostriaviewer/core",
         "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/genicam/devices",
         "src/ostriaviewer/cameras/pool",
         "src/ostriaviewer/cameras/emulation",
+        "src/ostriaviewer/cameras/emulation/served",
         "src/ostriaviewer/cameras/emulation/renderer",
         f"{PLUGIN}/internal/model/calibration",
         f"{PLUGIN}/internal/model/chart",
@@ -87,7 +105,16 @@ LIBRARIES = [
     ("Qt", QT, [layer for layer in LAYERS if layer not in WITHOUT_QT], (".h", ".cpp")),
     ("dlib", DLIB, [f"{ENGINE}/dlibmatrix.h"], (".h",)),
     ("OpenCV", OPENCV, ["src/ostria"], (".cpp",)),
-    ("Aravis", ARAVIS, ["src/ostriaviewer/cameras/genicam"], (".cpp",)),
+    (
+        "Aravis",
+        ARAVIS,
+        [
+            "src/ostriaviewer/cameras/genicam",
+            "src/ostriaviewer/cameras/genicam/devices",
+            "src/ostriaviewer/cameras/emulation/served",
+        ],
+        (".cpp",),
+    ),
 ]
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
 

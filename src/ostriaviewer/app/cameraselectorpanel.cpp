@@ -27,6 +27,7 @@ CameraSelectorPanel::CameraSelectorPanel(CameraList& cameras, DeviceSelectorServ
 {
     m_tree->setObjectName(QStringLiteral("cameras"));
     m_tree->setColumnCount(ColumnCount);
+    m_tree->setIndentation(12);
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(Camera, QHeaderView::Stretch);

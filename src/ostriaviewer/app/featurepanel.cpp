@@ -77,8 +77,8 @@ void FeaturePanel::makeView()
     m_view->setAlternatingRowColors(true);
     m_view->setUniformRowHeights(true);
     m_view->setIndentation(14);
-    m_view->setEditTriggers(QAbstractItemView::AllEditTriggers);
-    m_view->header()->resizeSection(FeatureModel::Name, 190);
+    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    m_view->header()->resizeSection(FeatureModel::Name, 170);
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setMargin(16);
@@ -88,11 +88,7 @@ void FeaturePanel::makeView()
     layout->addWidget(m_view);
     layout->addWidget(m_hint, 1);
 
-    const auto press = [this](const QModelIndex& index) {
-        if (index.column() == FeatureModel::Value)
-            m_model->press(m_shown->mapToSource(index));
-    };
-    connect(m_view, &QTreeView::clicked, this, press);
+    connect(m_view, &QTreeView::clicked, this, &FeaturePanel::use);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         m_model->setWatched(m_shown->mapToSource(index), true);
         m_opened.insert(index.data(FeatureModel::NameRole).toString());
@@ -101,6 +97,16 @@ void FeaturePanel::makeView()
         m_model->setWatched(m_shown->mapToSource(index), false);
         m_opened.remove(index.data(FeatureModel::NameRole).toString());
     });
+}
+
+// One click edits a value or presses a button.
+void FeaturePanel::use(const QModelIndex& index)
+{
+    if (index.column() != FeatureModel::Value)
+        return;
+    m_model->press(m_shown->mapToSource(index));
+    if (m_shown->flags(index) & Qt::ItemIsEditable)
+        m_view->edit(index);
 }
 
 void FeaturePanel::follow()

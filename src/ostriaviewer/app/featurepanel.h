@@ -36,6 +36,7 @@ protected:
 
 private:
     void makeView();
+    void use(const QModelIndex& index);
     void follow();
     void showFeatures();
     void applyFilter(const QString& text);

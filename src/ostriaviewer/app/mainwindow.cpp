@@ -39,7 +39,7 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     , m_tools(addToolBar(QString()))
 {
     setObjectName(QStringLiteral("mainWindow"));
-    setWindowIcon(QIcon(QStringLiteral(":/ostriaviewer/ostriaviewer.svg")));
+    setWindowIcon(QIcon(QStringLiteral(":/ostriaviewercomponents/Resources/ostriaviewer.svg")));
     setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
     m_view->setObjectName(QStringLiteral("liveView"));
     setCentralWidget(m_view);
@@ -54,7 +54,7 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     makeConnections();
     retranslate();
     resize(1200, 800);
-    resizeDocks({m_cameraDock, m_featureDock}, {280, 300}, Qt::Horizontal);
+    resizeDocks({m_cameraDock, m_featureDock}, {310, 320}, Qt::Horizontal);
     resizeDocks({m_messageDock}, {170}, Qt::Vertical);
 }
 

@@ -34,7 +34,8 @@ QString writePicture(const QImage& picture, const QString& name)
         return file.errorString();
     QImageWriter writer(&file, "png");
     writer.setQuality(quality);
-    if (!writer.write(picture) || file.error() != QFileDevice::NoError) {
+    // What is only found out when the file is closed, a commit does not notice.
+    if (!writer.write(picture) || !file.flush() || file.error() != QFileDevice::NoError) {
         const QString reason =
             file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
         file.cancelWriting();

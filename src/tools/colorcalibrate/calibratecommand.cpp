@@ -13,12 +13,12 @@
 #include "patchcolorconversion.h"
 #include "patchdeltas.h"
 #include "patchtable.h"
+#include "previoussettings.h"
 #include "saving.h"
 #include "settingsguard.h"
 #include "settingstext.h"
 #include "terminal.h"
 
-#include <QFile>
 #include <QJsonObject>
 
 #include <exception>
@@ -81,10 +81,8 @@ SequenceOptions readOptions(const CommandLine& line)
     options.adjustExposure = exposure != QLatin1String("keep");
     const QString settingsFile = line.value(QStringLiteral("settings"));
     if (!settingsFile.isEmpty()) {
-        QFile file(settingsFile);
-        if (!file.open(QIODevice::ReadOnly))
-            throw CommandError(QStringLiteral("%1: %2").arg(settingsFile, file.errorString()));
-        options.previousSettings = QString::fromUtf8(file.readAll());
+        options.previousSettings = readPreviousSettings(settingsFile);
+        options.previousFile = settingsFile;
     }
     return options;
 }
@@ -107,6 +105,19 @@ void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
                 .arg(camera->displayName()));
 }
 
+/// What the camera cannot use of the user's file is passed over, but not in silence.
+void checkPreviousSettings(const Cameras::HostCameraPtr& camera, const SequenceOptions& options,
+                           std::ostream& err)
+{
+    if (options.previousSettings.isEmpty())
+        return;
+    const int count = countForeignSettings(options.previousSettings, options.previousFile,
+                                           *camera->parameterCollection());
+    if (count > 0)
+        err << options.previousFile.toStdString() << ": " << count
+            << " settings are of features that the camera has not; they are skipped\n";
+}
+
 Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera,
                  const SequenceOptions& options, SavingOptions saving, std::ostream& err)
 {
@@ -115,6 +126,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     SettingsGuard guard(camera);
     requireSupported(cameras, camera);
     resolveUserSet(camera, saving);
+    checkPreviousSettings(camera, options, err);
     report.sfnc = camera->parameterCollection()->sfncVersion().toString();
 
     const Interruption interruption;

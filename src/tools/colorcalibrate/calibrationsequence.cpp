@@ -3,6 +3,7 @@
 #include "calibrationsequence.h"
 
 #include "command.h"
+#include "exposuresearch.h"
 #include "grid.h"
 #include "patchcolorconversion.h"
 #include "patchcolors.h"
@@ -25,8 +26,17 @@ namespace {
 constexpr double usableDeviation = 20.0;
 constexpr int cancelPollMs = 100;
 
+/// A run ends where it reaches the camera's limits; the next one goes on from there.
+constexpr int mostBrightnessRuns = 3;
+
+/// Some cameras change nothing and refuse nothing, and the worker has no limit of its own.
+constexpr int longestBrightnessRunMs = 120000;
+
 /// Further off than this on average, what was measured is hardly the chart.
 constexpr double usableDeltaE = 8.0;
+
+/// By how much a calibration may leave a camera worse that was calibrated before: noise alone.
+constexpr double usableLoss = 1.0;
 
 } // namespace
 
@@ -40,6 +50,8 @@ CalibrationSequence::CalibrationSequence(ColorCorrectionModel& model,
 
 SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceOptions& options)
 {
+    m_camera.reset();
+    m_isLost = false;
     QObject receiver;
     QObject::connect(&m_model, &ColorCorrectionModel::cameraRemoved, &receiver,
                      [this] { m_isLost = true; });
@@ -47,21 +59,27 @@ SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceO
                      [this](double value) { m_hitRate = value; });
     try {
         open(camera);
-        placeGrid(options);
-        makeNeutral(options);
-        if (options.adjustExposure)
-            adjustBrightness();
-        calibrate();
-        SequenceResult result = measureOutcome();
-        requireChart(result);
-        stopIfCancelled();
-        return result;
+        return calibrateOpened(options);
     } catch (...) {
         m_model.StopGrabbing();
         m_model.RestoreSettingsBackup(false);
         m_model.Close();
+        m_camera.reset();
         throw;
     }
+}
+
+SequenceResult CalibrationSequence::calibrateOpened(const SequenceOptions& options)
+{
+    placeGrid(options);
+    makeNeutral(options);
+    if (options.adjustExposure)
+        adjustBrightness();
+    calibrate();
+    SequenceResult result = measureOutcome();
+    requireChart(result);
+    stopIfCancelled();
+    return result;
 }
 
 void CalibrationSequence::step(const char* name, const std::function<bool()>& call,
@@ -78,11 +96,28 @@ void CalibrationSequence::step(const char* name, const std::function<bool()>& ca
                        (reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(reason)));
 }
 
+void CalibrationSequence::imageStep(const char* name, const std::function<bool()>& call,
+                                    const char* failure)
+{
+    const auto callWithImage = [&] {
+        const quint64 before = m_model.TakenImages();
+        const bool succeeded = call();
+        if (m_model.TakenImages() != before)
+            return succeeded;
+        stopIfCancelled();
+        throw CommandError(QStringLiteral("the camera delivered no image at the step \"%1\"; check "
+                                          "its cable, trigger and exposure time, and try again")
+                               .arg(QLatin1String(name)));
+    };
+    step(name, callWithImage, failure);
+}
+
 void CalibrationSequence::stopIfCancelled() const
 {
     if (m_isCancelled())
         throw CommandError(QStringLiteral("cancelled"));
-    if (m_isLost)
+    // The word of the loss may still be on its way.
+    if (m_isLost || (m_camera && !m_camera->isOpen()))
         throw CommandError(QStringLiteral("the camera has been disconnected"));
 }
 
@@ -91,19 +126,45 @@ void CalibrationSequence::open(const CameraPtr& camera)
     step(
         "Opening the camera", [&] { return m_model.Open(camera); },
         "the camera could not be opened with exclusive access; is another program using it?");
+    m_camera = camera;
+    // Before anything is changed, the exposure time included.
+    step(
+        "Keeping the camera's settings",
+        [this] {
+            m_model.StopGrabbing();
+            return m_model.CreateSettingsBackup(false);
+        },
+        "the camera's settings could not be read");
 }
 
 void CalibrationSequence::placeGrid(const SequenceOptions& options)
 {
+    QImage image;
+    // The very first image has 200 ms, whatever the exposure time is.
+    const auto grab = [&] {
+        return m_model.GrabImage(image, false) || m_model.GrabImage(image, false);
+    };
+    imageStep("Taking the first image", grab, "the camera delivered no image");
     if (options.grid) {
         m_model.SetGridPosition(*options.grid);
         return;
     }
-    QImage image;
-    step(
-        "Finding the chart", [&] { return m_model.GrabImage(image, false); },
-        "the camera delivered no image");
-    m_model.SetGridPosition(findGrid(image));
+    ExposureSearch search(m_model, options.adjustExposure);
+    for (;;) {
+        try {
+            step(
+                "Finding the chart", [&] { return m_model.SetGridPosition(findGrid(image)); },
+                "the grid could not be set");
+            return;
+        } catch (const CommandError& error) {
+            const Light light = lightOf(image);
+            stopIfCancelled();
+            if (!search.moveFrom(light))
+                throw CommandError(QString::fromUtf8(error.what()) + advice(light));
+        }
+        imageStep("Taking an image of another exposure time", grab,
+                  "the camera delivered no image");
+    }
 }
 
 void CalibrationSequence::makeNeutral(const SequenceOptions& options)
@@ -112,7 +173,7 @@ void CalibrationSequence::makeNeutral(const SequenceOptions& options)
         "Keeping the camera's settings",
         [this] {
             m_model.StopGrabbing();
-            return m_model.CreateSettingsBackup(false) && m_model.CreateSettingsBackup(true);
+            return m_model.CreateSettingsBackup(true);
         },
         "the camera's settings could not be read");
     if (!options.previousSettings.isEmpty())
@@ -123,10 +184,7 @@ void CalibrationSequence::makeNeutral(const SequenceOptions& options)
     step(
         "Setting neutral settings", [this] { return m_model.SetNeutralSettings(); },
         "unable to set neutral settings");
-    step(
-        "Balancing white", [this] { return m_model.ExecuteWhitebalance(); },
-        "the calibration process failed because the image is either too bright or too dark; adjust "
-        "the brightness and try again");
+    balanceWhite(options.adjustExposure);
     m_model.ActivateMonoImage();
     m_model.DisableAutoFunctions();
     double lowest = 0.0;
@@ -142,36 +200,83 @@ void CalibrationSequence::makeNeutral(const SequenceOptions& options)
         "no initial parameters (min, max, value) for gain value available");
 }
 
+void CalibrationSequence::balanceWhite(bool mayChangeExposure)
+{
+    ExposureSearch search(m_model, mayChangeExposure);
+    for (;;) {
+        try {
+            imageStep(
+                "Balancing white", [this] { return m_model.ExecuteWhitebalance(); },
+                "the calibration process failed because the image is either too bright or too "
+                "dark; adjust the brightness and try again");
+            return;
+        } catch (const CommandError& error) {
+            stopIfCancelled();
+            const Light light = lightOf(m_hitRate);
+            if (!search.moveFrom(light))
+                throw CommandError(QString::fromUtf8(error.what()) + advice(light));
+        }
+    }
+}
+
 void CalibrationSequence::adjustBrightness()
+{
+    QString failure;
+    for (int run = 0; run < mostBrightnessRuns; ++run) {
+        runBrightness();
+        failure = m_log.lastFailure();
+        // The worker ends by its limits too, and its last write comes after its last image.
+        imageStep(
+            "Checking brightness",
+            [this] {
+                QVector<QColor> colors;
+                return m_model.GetColorPatchValues(colors, true) > 0;
+            },
+            "the gray patch could not be measured; is the whole chart in the image?");
+        if (std::abs(m_hitRate - 100.0) < usableDeviation)
+            return;
+        if (!failure.isEmpty() || lightOf(m_hitRate) != Light::TooBright)
+            break;
+    }
+    throw CommandError(
+        QStringLiteral("the gray patch stands at %1 percent of its target brightness and could not "
+                       "be brought nearer by exposure time and gain; is the grid on the chart, and "
+                       "the light neither too weak nor too strong?")
+            .arg(m_hitRate, 0, 'f', 0) +
+        (failure.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(failure)));
+}
+
+void CalibrationSequence::runBrightness()
 {
     QEventLoop loop;
     QTimer poll;
+    QTimer limit;
+    limit.setSingleShot(true);
+    bool hasFinished = false;
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
     QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
         if (m_isCancelled() || m_isLost)
             loop.quit();
     });
+    const auto onFinished = [&] {
+        hasFinished = true;
+        loop.quit();
+    };
     QObject::connect(&m_model, &ColorCorrectionModel::AutoAdjustGray80PercentPatchFinished, &loop,
-                     &QEventLoop::quit, Qt::QueuedConnection);
+                     onFinished, Qt::QueuedConnection);
     step(
         "Adjusting brightness",
         [&] {
             if (!m_model.AutoAdjustGray80PercentPatch())
                 return false;
             poll.start(cancelPollMs);
+            limit.start(longestBrightnessRunMs);
             loop.exec();
-            return true;
+            return hasFinished;
         },
-        "the automatic brightness could not be started");
+        "the automatic brightness could not be started, or came to no end; does the camera's image "
+        "follow its exposure time and gain?");
     stopIfCancelled();
-    // The worker ends by its limits too, and its last write comes after its last image.
-    QVector<QColor> colors;
-    m_model.GetColorPatchValues(colors, true);
-    if (!(std::abs(m_hitRate - 100.0) < usableDeviation))
-        throw CommandError(
-            QStringLiteral("the gray patch stands at %1 percent of its target brightness and could "
-                           "not be brought nearer by exposure time and gain; is the grid on the "
-                           "chart, and the light neither too weak nor too strong?")
-                .arg(m_hitRate, 0, 'f', 0));
 }
 
 void CalibrationSequence::calibrate()
@@ -189,7 +294,7 @@ void CalibrationSequence::calibrate()
         [this] { return m_model.RestoreSettingsBackup(true); },
         "couldn't restore preneutral camera settings");
     step("Restoring exposure time and gain", restoreExposure, exposureFailure);
-    step(
+    imageStep(
         "Taking the image before calibration",
         [this] { return m_model.ApplyInitialCameraImageAndPatchValues(); },
         "couldn't apply initial camera image or set original patch color values");
@@ -197,7 +302,7 @@ void CalibrationSequence::calibrate()
         "Setting neutral settings", [this] { return m_model.SetNeutralSettings(); },
         "unable to set neutral settings");
     step("Restoring exposure time and gain", restoreExposure, exposureFailure);
-    step(
+    imageStep(
         "Measuring the patches", [this] { return m_model.ApplyInitialColorPatchValues(); },
         "couldn't apply initial values");
     step(
@@ -209,7 +314,7 @@ void CalibrationSequence::calibrate()
 SequenceResult CalibrationSequence::measureOutcome()
 {
     SequenceResult result;
-    step(
+    imageStep(
         "Measuring the outcome",
         [&] {
             QVector<QColor> fresh;
@@ -238,7 +343,7 @@ void CalibrationSequence::requireChart(const SequenceResult& result)
         deltasToTargets(ColorCalibration::toPatchColors(result.initialColors, true)).meanDeltaE();
     const double after =
         deltasToTargets(ColorCalibration::toPatchColors(result.currentColors, true)).meanDeltaE();
-    if (after < usableDeltaE)
+    if (after < usableDeltaE && after < before + usableLoss)
         return;
     throw CommandError(
         QStringLiteral("the patches are off their targets by a mean Delta E of %1 after "

@@ -21,6 +21,7 @@ struct SequenceOptions
     std::optional<ColorCalibration::TrapezoidPoints> grid; ///< looked for in the image if missing
     bool adjustExposure = true;                            ///< else exposure and gain stay
     QString previousSettings;                              ///< feature stream text, may be empty
+    QString previousFile;                                  ///< its name, for messages
 };
 
 struct SequenceResult
@@ -51,21 +52,28 @@ public:
                        const SequenceOptions& options);
 
 private:
+    SequenceResult calibrateOpened(const SequenceOptions& options);
     void open(const Core::CameraPoolComponents::CameraPtr& camera);
     void placeGrid(const SequenceOptions& options);
     void makeNeutral(const SequenceOptions& options);
+    void balanceWhite(bool mayChangeExposure);
     void adjustBrightness();
+    void runBrightness();
     void calibrate();
     SequenceResult measureOutcome();
     void requireChart(const SequenceResult& result);
 
     void step(const char* name, const std::function<bool()>& call, const char* failure);
+
+    /// A step that is worth nothing without a new image.
+    void imageStep(const char* name, const std::function<bool()>& call, const char* failure);
     void stopIfCancelled() const;
 
     ColorCalibration::ColorCorrectionModel& m_model;
     std::function<void(const QString&)> m_progress;
     std::function<bool()> m_isCancelled;
     FailureLog m_log;
+    Core::CameraPoolComponents::CameraPtr m_camera;
     bool m_isLost = false;
     double m_hitRate = 0.0;
 };

@@ -3,8 +3,19 @@
 #include "failurelog.h"
 
 #include <QMutexLocker>
+#include <QRegularExpression>
 
 namespace ColorCalibrate {
+namespace {
+
+/// Without the function that tells it, which is for developers.
+QString withoutFunction(QString text)
+{
+    static const QRegularExpression function(QStringLiteral("^\\w+::\\w+: ?"));
+    return text.remove(function);
+}
+
+} // namespace
 
 FailureLog::FailureLog()
     : m_previous(Core::Logging::installLogSink(
@@ -12,7 +23,7 @@ FailureLog::FailureLog()
               if (level < Core::Logging::Warning)
                   return;
               const QMutexLocker lock(&m_mutex);
-              m_lastFailure = text;
+              m_lastFailure = withoutFunction(text);
           }))
 {}
 

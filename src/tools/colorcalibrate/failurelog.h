@@ -23,7 +23,7 @@ public:
     /// Forgets what was kept.
     void clear();
 
-    /// The last entry of level warning and above, empty if there was none.
+    /// The last entry of level warning and above without its function, empty if there was none.
     QString lastFailure() const;
 
 private:

@@ -128,8 +128,9 @@ TrapezoidPoints toGrid(const ColorCalibration::ColorCorrectionAutoChartFinderRes
                                 "are not searched, cut it to what shows the chart")
                      .arg(image.width())
                      .arg(image.height())
-               : QStringLiteral("no chart was found in the image; it must stand upright and be at "
-                                "least a fifth of the image wide, or give its corners by hand"));
+               : QStringLiteral("no chart was found in the image; the whole of it must be in "
+                                "the image, upright and at least a fifth of the image wide; or "
+                                "give its corners by hand"));
 }
 
 TrapezoidPoints findGrid(const QImage& image)

@@ -14,19 +14,32 @@ extern "C" void keepRequest(int /*signal*/)
     requested = 1;
 }
 
+struct Handled
+{
+    int signal;
+    void (*handler)(int);
+};
+
+const std::array<Handled, 4> handled{{
+    {SIGINT, keepRequest},
+    {SIGTERM, keepRequest},
+    {SIGHUP, keepRequest},
+    {SIGPIPE, SIG_IGN},
+}};
+
 } // namespace
 
 Interruption::Interruption()
 {
     requested = 0;
-    m_previousInterrupt = std::signal(SIGINT, keepRequest);
-    m_previousTerminate = std::signal(SIGTERM, keepRequest);
+    for (std::size_t i = 0; i < handled.size(); ++i)
+        m_previous[i] = std::signal(handled[i].signal, handled[i].handler);
 }
 
 Interruption::~Interruption()
 {
-    std::signal(SIGINT, m_previousInterrupt);
-    std::signal(SIGTERM, m_previousTerminate);
+    for (std::size_t i = 0; i < handled.size(); ++i)
+        std::signal(handled[i].signal, m_previous[i]);
 }
 
 bool Interruption::isRequested()

@@ -2,10 +2,13 @@
 // Ctrl-C during long work.
 #pragma once
 
+#include <array>
+
 namespace ColorCalibrate {
 
-/// While it lives, Ctrl-C and a request to terminate do not end the process but are kept, so that
-/// work can be undone. One at a time.
+/// While it lives, Ctrl-C, a request to terminate and a terminal that goes away do not end the
+/// process but are kept, so that work can be undone; and output that nobody reads any more is no
+/// reason to end. One at a time.
 class Interruption
 {
 public:
@@ -19,8 +22,7 @@ public:
 
 private:
     using Handler = void (*)(int);
-    Handler m_previousInterrupt;
-    Handler m_previousTerminate;
+    std::array<Handler, 4> m_previous;
 };
 
 } // namespace ColorCalibrate

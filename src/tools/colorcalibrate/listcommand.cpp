@@ -22,6 +22,7 @@ struct ListedCamera
     QString sfnc;
     bool isSupported;
     QString backend;
+    QString problem; ///< why it could not be asked, empty if it could
 };
 
 /// What only an open camera tells is asked of it in passing.
@@ -31,10 +32,12 @@ ListedCamera describe(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
     const bool isOpen = wasOpen || camera->open();
     const auto parameters = isOpen ? camera->parameterCollection() : nullptr;
     const ListedCamera listed{
-        camera->displayName(), camera->modelName(),
+        camera->displayName(),
+        camera->modelName(),
         parameters ? parameters->sfncVersion().toString() : QString(),
         ColorCalibration::isCameraSupported(camera, cameras.parameterService()),
-        QStringLiteral("emulation")};
+        QStringLiteral("emulation"),
+        isOpen ? QString() : camera->lastErrorText()};
     if (!wasOpen)
         camera->close();
     return listed;
@@ -79,6 +82,9 @@ void listCommand(const QStringList& arguments, const Streams& streams)
         const ListedCamera listed = describe(cameras, camera);
         array.append(toJson(listed));
         rows += toRow(listed);
+        if (!listed.problem.isEmpty())
+            streams.err << (listed.name + QLatin1String(": ") + listed.problem).toStdString()
+                        << " What it can do is not known.\n";
     }
     if (line.isSet(QStringLiteral("json")))
         streams.out << toJsonText(array).toStdString() << "\n";

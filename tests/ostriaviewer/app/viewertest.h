@@ -47,7 +47,8 @@ protected:
         m_viewer = std::make_unique<ViewerApplication>(
             arguments, QList<Cameras::HostCameraPtr>{m_first, m_second});
         m_viewer->start();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+        window().activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window(), patienceMs));
     }
 
     MainWindow& window() { return m_viewer->window(); }

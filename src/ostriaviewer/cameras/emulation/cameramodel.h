@@ -29,6 +29,9 @@ struct CameraModel
     std::optional<int> colorPipelineVersion; ///< none: no such feature
     double readoutTime = 16667.0;            ///< microseconds, the shortest time between frames
     SensorModel sensor;
+
+    /// Off for analysis: features keep every digit that is written, and colors leave with 16 bits.
+    bool roundingEnabled = true;
 };
 
 /// The cameras that a user sees: color cameras of each kind of feature names, and a mono camera.

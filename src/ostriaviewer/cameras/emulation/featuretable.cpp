@@ -141,6 +141,12 @@ void FeatureTable::remove(const QStringList& names)
     }
 }
 
+void FeatureTable::keepFractions()
+{
+    for (FeatureDefinition& feature : m_features)
+        feature.stepsPerUnit = 0;
+}
+
 const FeatureDefinition* FeatureTable::find(const QString& name) const
 {
     const int index = indexOf(name);

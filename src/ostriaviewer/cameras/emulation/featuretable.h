@@ -49,6 +49,9 @@ public:
     /// goes, the first cell stays.
     void remove(const QStringList& names);
 
+    /// Lets every floating feature keep what is written to it, to the last digit.
+    void keepFractions();
+
     /// \return  null if there is none
     const FeatureDefinition* find(const QString& name) const;
 

@@ -28,7 +28,16 @@ QVector<EntryDefinition> pixelFormats(const CameraModel& model)
     else
         formats += {format("YUV422_8", PixelType::YUV422_8), format("RGB8", PixelType::RGB8),
                     format("BGR8", PixelType::BGR8), format("BGRa8", PixelType::BGRa8)};
+    if (!model.roundingEnabled)
+        formats += format("RGB16", PixelType::RGB16);
     return formats;
+}
+
+PixelType usualPixelFormat(const CameraModel& model)
+{
+    if (model.sensor.mono)
+        return PixelType::Mono8;
+    return model.roundingEnabled ? PixelType::RGB8 : PixelType::RGB16;
 }
 
 } // namespace
@@ -49,6 +58,8 @@ FeatureTable modelFeatures(const CameraModel& model)
     if (!model.sensor.mono)
         addColorFeatures(table, model);
     addUserSetFeatures(table);
+    if (!model.roundingEnabled)
+        table.keepFractions();
     return table;
 }
 
@@ -93,7 +104,7 @@ void addImageFormatFeatures(FeatureTable& table, const CameraModel& model)
     table.integer(QStringLiteral("OffsetX"), 0, {0.0}, {width, QStringLiteral("Width"), -1}, 2);
     table.integer(QStringLiteral("OffsetY"), 0, {0.0}, {height, QStringLiteral("Height"), -1}, 2);
 
-    const PixelType usual = model.sensor.mono ? PixelType::Mono8 : PixelType::RGB8;
+    const PixelType usual = usualPixelFormat(model);
     table.enumeration(QStringLiteral("PixelFormat"), pixelFormats(model))
         .lockedBy(whileAcquiring())
         .from({static_cast<double>(usual)});
@@ -118,6 +129,20 @@ void addUserSetFeatures(FeatureTable& table)
     table.command(QStringLiteral("UserSetLoad")).lockedBy(whileAcquiring());
     table.command(QStringLiteral("UserSetSave")).lockedBy({QStringLiteral("UserSetSelector"), {0}});
     table.enumeration(QStringLiteral("UserSetDefault"), sets).notSaved();
+}
+
+void addTransportFeatures(FeatureTable& table)
+{
+    constexpr double largestPayload = 1e9;
+    table.beginCategory(QStringLiteral("AcquisitionControl"));
+    table
+        .enumeration(QStringLiteral("AcquisitionMode"),
+                     {QStringLiteral("Continuous"), QStringLiteral("SingleFrame")})
+        .lockedBy(whileAcquiring());
+    table.command(QStringLiteral("AcquisitionStart"));
+    table.command(QStringLiteral("AcquisitionStop"));
+    table.beginCategory(QStringLiteral("TransportLayerControl"));
+    table.integer(QStringLiteral("PayloadSize"), 0, {0.0}, {largestPayload}).readOnly();
 }
 
 } // namespace Cameras::Emulation

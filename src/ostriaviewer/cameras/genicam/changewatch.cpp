@@ -10,6 +10,7 @@
 #include <QHash>
 
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace Cameras::GenICam {
@@ -122,12 +123,16 @@ void ChangeWatch::end() noexcept
         --m_depth;
         return;
     }
-    for (Watch& watch : m_watches) {
-        Snapshot now = lookAt(*watch.feature);
-        if (now == watch.last)
-            continue;
-        watch.last = std::move(now);
-        watch.notify();
+    try {
+        for (Watch& watch : m_watches) {
+            Snapshot now = lookAt(*watch.feature);
+            if (now == watch.last)
+                continue;
+            watch.last = std::move(now);
+            watch.notify();
+        }
+    } catch (const std::bad_alloc&) {
+        // The camera is in the middle of being written; that must go on, without the news.
     }
     m_depth = 0;
 }

@@ -16,6 +16,11 @@ bool GErrorSlot::meansNotDefined() const
     return g_error_matches(m_error, ARV_GC_ERROR, ARV_GC_ERROR_PROPERTY_NOT_DEFINED) != FALSE;
 }
 
+bool GErrorSlot::isTimeout() const
+{
+    return g_error_matches(m_error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT) != FALSE;
+}
+
 QString GErrorSlot::reason() const
 {
     QString text = m_error ? QString::fromUtf8(m_error->message) : QString();

@@ -25,6 +25,9 @@ public:
     /// Whether the description says nothing about what was asked for, such as a limit.
     bool meansNotDefined() const;
 
+    /// Whether a device did not answer in time.
+    bool isTimeout() const;
+
     /// The reason, without the names of the nodes that it came through.
     QString reason() const;
 

@@ -235,11 +235,12 @@ TEST(FrameLoop, AReceiverMayDestroyIt)
 {
     auto destroyed = std::make_shared<std::promise<void>>();
     auto holder = std::make_shared<std::unique_ptr<FrameLoop>>();
-    std::mutex mutex;
-    std::unique_lock lock(mutex);
+    // Shared, as the loop's thread outlives this test for a moment.
+    auto mutex = std::make_shared<std::mutex>();
+    std::unique_lock lock(*mutex);
     *holder = std::make_unique<FrameLoop>(framesOf(microseconds(1)),
-                                          [&mutex, holder, destroyed](const auto&) {
-                                              const std::lock_guard guard(mutex);
+                                          [mutex, holder, destroyed](const auto&) {
+                                              const std::lock_guard guard(*mutex);
                                               holder->reset();
                                               destroyed->set_value();
                                           });

@@ -237,6 +237,27 @@ TEST(CameraModels, HaveOneNearAndOneFarOfEachRule)
     EXPECT_EQ(cases, wanted);
 }
 
+TEST_F(EmulationTest, ACameraWithoutRoundingKeepsEveryDigit)
+{
+    CameraModel model = smallModel();
+    const double fine = 1.0 + 1.0 / 65536.0;
+    const auto kept = [&] {
+        const auto camera = openCamera(model);
+        const auto ratio =
+            camera->parameterCollection()->floatParameter(QStringLiteral("BalanceRatio"));
+        ratio->setValue(fine);
+        return ratio->value();
+    };
+    EXPECT_EQ(kept(), 1.0) << "steps of 1/4096";
+    model.roundingEnabled = false;
+    EXPECT_EQ(kept(), fine);
+    EXPECT_EQ(openCamera(model)
+                  ->parameterCollection()
+                  ->enumerationParameter(QStringLiteral("PixelFormat"))
+                  ->value(),
+              QStringLiteral("RGB16"));
+}
+
 TEST(CameraModels, HaveSerialNumbersOfTheirOwn)
 {
     QSet<QString> numbers;

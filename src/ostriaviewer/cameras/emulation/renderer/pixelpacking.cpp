@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 
 namespace Cameras::Emulation {
 namespace {
@@ -31,6 +32,12 @@ void packCounts(const Word* values, int count, std::uint8_t* out)
         out[2 * i] = static_cast<std::uint8_t>(counts & 0xFF);
         out[2 * i + 1] = static_cast<std::uint8_t>(counts >> 8);
     }
+}
+
+/// The camera's words as they are, in the machine's byte order.
+void packWords(const Word* values, int count, std::uint8_t* out)
+{
+    std::memcpy(out, values, sizeof(Word) * static_cast<std::size_t>(count));
 }
 
 /// Moves the luma of the pixels to the beginning of the row.
@@ -108,6 +115,8 @@ void packColors(PixelType type, Word* rgb, int count, std::uint8_t* out)
 {
     if (type == PixelType::RGB8) {
         packBytes(rgb, 3 * count, out);
+    } else if (type == PixelType::RGB16) {
+        packWords(rgb, 3 * count, out);
     } else if (type == PixelType::BGR8) {
         packBgr<3>(rgb, count, out);
     } else if (type == PixelType::BGRa8) {

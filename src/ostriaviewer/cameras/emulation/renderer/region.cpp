@@ -25,6 +25,7 @@ bool suits(PixelType type, const SensorModel& sensor)
     case PixelType::BayerRG8:
     case PixelType::BayerRG12:
     case PixelType::RGB8:
+    case PixelType::RGB16:
     case PixelType::BGR8:
     case PixelType::BGRa8:
     case PixelType::YUV422_8:

@@ -54,6 +54,13 @@ TEST(PixelPacking, OrdersTheChannels)
     EXPECT_EQ(packed(PixelType::BGRa8, twoPixels, 4), (Bytes{1, 63, 255, 255, 255, 0, 0, 255}));
 }
 
+TEST(PixelPacking, KeepsEveryDigitOf16BitsLowByteFirst)
+{
+    // 65520 is 0xFFF0, 16000 is 0x3E80, 256 is 0x0100.
+    EXPECT_EQ(packed(PixelType::RGB16, twoPixels, 6),
+              (Bytes{0xF0, 0xFF, 0x80, 0x3E, 0x00, 0x01, 0, 0, 0, 0, 0xF0, 0xFF}));
+}
+
 // ITU-R BT.601: 0.299 R + 0.587 G + 0.114 B.
 TEST(PixelPacking, ReducesColorsToTheirLuma)
 {

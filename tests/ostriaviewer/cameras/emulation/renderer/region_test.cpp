@@ -67,12 +67,13 @@ TEST(Region, RefusesRegionsThatLeaveTheSensor)
 TEST(Region, RefusesFormatsThatTheSensorHasNot)
 {
     const SensorModel color = idealSensor(16, 8);
-    for (const PixelType type : {PixelType::Undefined, PixelType::Mono16, PixelType::RGB16,
-                                 PixelType::BayerBG8, static_cast<PixelType>(77)})
+    for (const PixelType type :
+         {PixelType::Undefined, PixelType::Mono16, PixelType::BayerBG8, static_cast<PixelType>(77)})
         expectRefused(color, [type](PipelineSettings& s) { s.pixelFormat = type; });
     SensorModel mono = color;
     mono.mono = true;
-    for (const PixelType type : {PixelType::RGB8, PixelType::BayerRG8, PixelType::YUV422_8})
+    for (const PixelType type :
+         {PixelType::RGB8, PixelType::RGB16, PixelType::BayerRG8, PixelType::YUV422_8})
         expectRefused(mono, [type](PipelineSettings& s) { s.pixelFormat = type; });
 }
 

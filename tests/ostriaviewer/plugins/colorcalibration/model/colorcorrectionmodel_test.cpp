@@ -290,6 +290,23 @@ TEST_F(ModelTest, AChangeThatCannotBeReadIsNotReported)
     EXPECT_TRUE(logTexts().isEmpty());
 }
 
+TEST_F(ModelTest, AFailedOpeningLeavesTheHostsLiveImageRunning)
+{
+    m_camera->open = true;
+    m_camera->grabbing = true;
+    m_status.cameraIsOpen = true;
+    m_control.refuses = true;
+    EXPECT_FALSE(open());
+    EXPECT_TRUE(m_camera->grabbing);
+    EXPECT_EQ(m_camera->stops, 0);
+    m_control.refuses = false;
+    m_camera->withParameters = false;
+    EXPECT_FALSE(open());
+    EXPECT_TRUE(m_camera->grabbing);
+    EXPECT_EQ(m_control.handles, 0);
+    EXPECT_TRUE(m_camera->open);
+}
+
 TEST_F(ModelTest, CloseFromInsideOfAWaitEndsTheWait)
 {
     ASSERT_TRUE(open());
@@ -313,77 +330,6 @@ TEST_F(ModelTest, CloseFromInsideOfAnOperationEndsTheOperation)
               (QStringList{"2 Whitebalance failed!",
                            "2 ColorCorrectionModelImpl::ExecuteWhitebalance:The camera is "
                            "closed."}));
-}
-
-/// A camera whose gray patch stands at the goal already, so that a run takes one pass.
-class ModelBrightnessTest : public ModelTest
-{
-protected:
-    ModelBrightnessTest()
-    {
-        ColorCalibration::PatchColors colors = castColors();
-        dlib::set_rowm(colors, 19) = 151.0;
-        showChart(*m_camera, colors);
-        m_camera->delivery = Delivery::OtherThread;
-    }
-};
-
-TEST_F(ModelBrightnessTest, ARunSaysWhenItHasFinished)
-{
-    ASSERT_TRUE(open());
-    QEventLoop loop;
-    QObject::connect(&m_model, &Model::AutoAdjustGray80PercentPatchFinished, &loop,
-                     &QEventLoop::quit);
-    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
-    loop.exec();
-    EXPECT_EQ(m_model.GetGain(), 0.0);
-    EXPECT_NEAR(m_model.GetExposureTime(), 1000.0, 10.0);
-}
-
-TEST_F(ModelBrightnessTest, ASecondRunEndsTheFirst)
-{
-    ASSERT_TRUE(open());
-    const QSignalSpy finished(&m_model, &Model::AutoAdjustGray80PercentPatchFinished);
-    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
-    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
-    QEventLoop loop;
-    QObject::connect(&m_model, &Model::AutoAdjustGray80PercentPatchFinished, &loop, [&] {
-        if (finished.count() >= 2)
-            loop.quit();
-    });
-    loop.exec();
-    EXPECT_EQ(finished.count(), 2);
-}
-
-TEST_F(ModelBrightnessTest, CloseEndsARunThatWaitsForAnImage)
-{
-    ASSERT_TRUE(open());
-    QSemaphore requested;
-    m_camera->delivery = Delivery::Never;
-    m_camera->onRequest = [&] {
-        requested.release();
-    };
-    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
-    requested.acquire();
-    EXPECT_TRUE(m_model.Close());
-    EXPECT_EQ(m_control.handles, 0);
-    EXPECT_FALSE(m_camera->open);
-}
-
-TEST_F(ModelBrightnessTest, ALossDuringARunEndsIt)
-{
-    ASSERT_TRUE(open());
-    m_camera->delivery = Delivery::Never;
-    m_camera->onRequest = [this] {
-        m_camera->loseConnection();
-    };
-    QEventLoop loop;
-    QObject::connect(&m_model, &Model::AutoAdjustGray80PercentPatchFinished, &loop,
-                     &QEventLoop::quit);
-    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
-    loop.exec();
-    EXPECT_EQ(logTexts().first(), "2 Autoadjust failed.");
-    EXPECT_TRUE(m_model.Close());
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 
 #include <QSignalSpy>
 
+#include <functional>
+
 using namespace ColorCalibration;
 
 namespace {
@@ -105,6 +107,38 @@ TEST_F(ModelCalibrationTest, ATransientFailureOfTheGrabLeavesTheLastImage)
     QVector<QColor> again;
     EXPECT_EQ(m_model.GetColorPatchValues(again, true), 24);
     EXPECT_EQ(again, first);
+}
+
+TEST_F(ModelCalibrationTest, NothingIsMeasuredOnAnImageOfOtherSettings)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(true));
+    const QVector<std::function<bool()>> changes{
+        [this] { return m_model.SetNeutralSettings(); },
+        [this] { return m_model.RestoreSettingsBackup(true); },
+        [this] { return m_model.LoadSettings("Gamma\t1\n"); },
+    };
+    for (const auto& change : changes) {
+        m_camera->delivery = Delivery::AtOnce;
+        ASSERT_TRUE(m_model.ApplyInitialCameraImageAndPatchValues());
+        ASSERT_TRUE(change());
+        m_camera->delivery = Delivery::Refused;
+        EXPECT_FALSE(m_model.ApplyInitialColorPatchValues());
+        QVector<QColor> colors;
+        EXPECT_EQ(m_model.GetColorPatchValues(colors, true), 0);
+    }
+}
+
+TEST_F(ModelCalibrationTest, ImagesAreCountedWhenTheyArrive)
+{
+    ASSERT_TRUE(open());
+    const quint64 before = m_model.TakenImages();
+    QVector<QColor> colors;
+    m_model.GetColorPatchValues(colors, true);
+    EXPECT_EQ(m_model.TakenImages(), before + 1);
+    m_camera->delivery = Delivery::Refused;
+    m_model.GetColorPatchValues(colors, true);
+    EXPECT_EQ(m_model.TakenImages(), before + 1);
 }
 
 TEST_F(ModelCalibrationTest, AnotherCameraIsNeverMeasuredOnTheImageOfTheFirst)

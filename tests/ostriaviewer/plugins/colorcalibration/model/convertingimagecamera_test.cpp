@@ -112,6 +112,22 @@ TEST_F(ConvertingImageCameraTest, GivesUpWhenNothingComes)
     Image image;
     EXPECT_FALSE(m_converting.GrabSingle(image, true));
     EXPECT_FALSE(image.isValid());
+    EXPECT_EQ(m_camera->stops, 1) << "its image must not answer the next request";
+}
+
+TEST_F(ConvertingImageCameraTest, OfTwoImagesInOneWaitTheSecondCounts)
+{
+    m_camera->delivery = Delivery::Never;
+    m_camera->onRequest = [this] {
+        for (const std::uint16_t level : {std::uint16_t{7}, std::uint16_t{8}}) {
+            nextImageIs(level);
+            m_camera->deliver();
+        }
+    };
+    Image image;
+    EXPECT_TRUE(m_converting.GrabSingle(image, true));
+    EXPECT_EQ(red(image), 8);
+    EXPECT_EQ(m_camera->stops, 0);
 }
 
 TEST_F(ConvertingImageCameraTest, FailedFramesAreNoImages)

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <stdexcept>
 #include <tuple>
 
@@ -53,19 +54,39 @@ protected:
         throw std::runtime_error("fault of the test");
     }
 
+    /// All but the test image, which is switched off by the opening.
+    QStringList settings()
+    {
+        m_camera->open = true;
+        QString text;
+        m_camera->parameters().saveFeatures(text, "@CameraDevice");
+        m_camera->open = false;
+        QStringList lines = text.split('\n');
+        lines.erase(std::remove_if(lines.begin(), lines.end(),
+                                   [](const QString& line) { return line.startsWith("Test"); }),
+                    lines.end());
+        return lines;
+    }
+
     /// Lets one call fail. \return  whether there was one with this number
     bool runWithFaultAt(int number, Fault fault)
     {
         int count = 0;
         QSettings().clear();
+        const QStringList before = settings();
         m_camera->features().beforeCall = [&](const QString&) {
             if (count++ == number)
                 fail(fault);
         };
-        if (!calibrate())
+        const bool hasFailed = !calibrate();
+        if (hasFailed)
             m_model.RestoreSettingsBackup(false);
         m_model.Close();
         m_camera->features().beforeCall = nullptr;
+        // A refused restoring cannot be made good for.
+        if (hasFailed && fault == Fault::Refusal) {
+            EXPECT_EQ(settings().join('\n').toStdString(), before.join('\n').toStdString());
+        }
         QCoreApplication::processEvents();
         return count > number;
     }

@@ -74,7 +74,10 @@ Item {
         property int transformedOffsetX: 0
         property int transformedOffsetY: 0
 
-        property string imagefile: qmlModelInterface.originalImageUrl
+        // The names of images come round, and those of earlier visits may still be in the cache.
+        // The provider does not look at the name, so each visit can have names of its own.
+        readonly property string visit: Date.now()
+        property string imagefile: qmlModelInterface.originalImageUrl + "/" + visit
         property string oldimagefile
         property real imageWidth: 0
         property real imageHeight: 0

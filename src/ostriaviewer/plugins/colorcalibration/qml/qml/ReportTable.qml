@@ -17,10 +17,11 @@ TableView {
     frameVisible: false
     horizontalScrollBarPolicy: wrapsHeader ? Qt.ScrollBarAlwaysOff : Qt.ScrollBarAsNeeded
     selectionMode: SelectionMode.SingleSelection
+    Accessible.name: tValueSummaries
 
+    // By the bar, as the view itself scrolls for the keys of pages.
     function scrollSideways(step) {
-        var rightmost = Math.max(0, flickableItem.contentWidth - viewport.width)
-        flickableItem.contentX = Math.max(0, Math.min(rightmost, flickableItem.contentX + step))
+        __horizontalScrollBar.value += step
     }
 
     Keys.onLeftPressed: scrollSideways(-mTableColumnMinWidth)
@@ -51,7 +52,7 @@ TableView {
 
     headerDelegate: Rectangle {
         implicitWidth: title.implicitWidth + margin
-        height: Math.max(2 * mDefaultPixelSize, title.contentHeight + margin)
+        height: Math.max(2 * mDefaultPixelSize, title.contentHeight + 0.8 * margin)
         color: cTavrinLightGrey
 
         Text {

@@ -12,9 +12,9 @@ Item {
 
     readonly property real sideWidth: 2 * mButtonWidth + margin
     readonly property real mainWidth: width - sideWidth - 2 * margin
-    readonly property real labelWidth: Math.max(calibrationLabel.implicitWidth,
-                                                summaryLabel.implicitWidth,
-                                                userSetLabel.implicitWidth)
+    readonly property real labelWidth: Math.ceil(Math.max(calibrationLabel.implicitWidth,
+                                                          summaryLabel.implicitWidth,
+                                                          userSetLabel.implicitWidth))
     readonly property real rowDistance: mButtonHeight + margin / 2
 
     property var userSetArray: []
@@ -107,7 +107,7 @@ Item {
         // Below the check box, which leaves its usual place to the handle of the divider.
         y: 1.4 * margin - distanceToImage
         width: page.mainWidth
-        height: 4 * page.rowDistance
+        height: 4 * page.rowDistance + margin / 2
 
         Text {
             id: calibrationLabel
@@ -188,7 +188,7 @@ Item {
             id: saveButton
             objectName: "saveButton"
             x: page.labelWidth + margin
-            y: 3 * page.rowDistance
+            y: 3 * page.rowDistance + margin / 2
             width: 2 * mButtonWidth
             height: mButtonHeight
             style: buttonStyle

@@ -19,6 +19,8 @@ Item {
         if (step === shownStep)
             loader.source = ""
         shownStep = step
+        // A page that goes does not take its tooltip along.
+        standardToolTip.visible = false
         loader.source = pageOf(step)
     }
 

@@ -6,9 +6,28 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
+namespace {
+
+/// Qt's platform without a screen never deletes the one screen that it pretends to have.
+std::unique_ptr<QGuiApplication> makeApplication(int& argc, char** argv)
+{
+#ifdef __SANITIZE_ADDRESS__
+    const __lsan::ScopedDisabler disabler;
+#endif
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -19,7 +38,9 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
-    const QGuiApplication application(argc, argv);
+    if (testing::GTEST_FLAG(list_tests))
+        return RUN_ALL_TESTS();
+    const std::unique_ptr<QGuiApplication> application = makeApplication(argc, argv);
     const TestSettings settings;
     return RUN_ALL_TESTS();
 }

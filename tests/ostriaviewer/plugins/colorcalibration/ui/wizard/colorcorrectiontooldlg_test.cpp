@@ -120,7 +120,8 @@ TEST_F(ColorCorrectionToolDlgTest, AClosedWindowCountsAsCancel)
 
 TEST_F(ColorCorrectionToolDlgTest, TheEndOfTheApplicationCountsAsCancel)
 {
-    run([] { QCoreApplication::quit(); });
+    QTimer::singleShot(0, [this] { run([] { QCoreApplication::quit(); }); });
+    QApplication::exec();
     EXPECT_EQ(m_model.calls(), givenBack);
     EXPECT_FALSE(m_dialog->isVisible());
 }

@@ -9,6 +9,8 @@
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
+    // All scenes of the tests have the same address.
+    qputenv("QML_DISABLE_DISK_CACHE", "1");
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const TestSettings settings;

@@ -5,8 +5,9 @@
 namespace ColorCalibration {
 
 BrightnessRun::BrightnessRun(CalibrationInterface* calibration,
-                             const Core::ParameterCollection::ParameterCollectionPtr& parameters)
-    : m_worker(calibration, parameters)
+                             const Core::ParameterCollection::ParameterCollectionPtr& parameters,
+                             QRecursiveMutex* lock)
+    : m_worker(calibration, parameters, lock)
 {
     m_worker.moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::started, &m_worker, &CameraAutoBrightnessHelper::doWork);

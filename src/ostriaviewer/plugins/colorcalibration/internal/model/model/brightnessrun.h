@@ -13,8 +13,10 @@ namespace ColorCalibration {
 class BrightnessRun
 {
 public:
+    /// \param lock  what the calibration's operations lock, may be null; not owned
     BrightnessRun(CalibrationInterface* calibration,
-                  const Core::ParameterCollection::ParameterCollectionPtr& parameters);
+                  const Core::ParameterCollection::ParameterCollectionPtr& parameters,
+                  QRecursiveMutex* lock = nullptr);
     ~BrightnessRun();
     BrightnessRun(const BrightnessRun&) = delete;
     BrightnessRun& operator=(const BrightnessRun&) = delete;

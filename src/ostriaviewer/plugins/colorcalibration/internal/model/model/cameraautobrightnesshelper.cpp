@@ -19,6 +19,7 @@ namespace {
 constexpr double damping = 0.8;
 constexpr double tolerancePercent = 10.0;
 constexpr unsigned long settlingMs = 200;
+constexpr int lockPollMs = 20;
 
 void logStep(const QString& text)
 {
@@ -30,12 +31,33 @@ void logStep(const QString& text)
 
 CameraAutoBrightnessHelper::CameraAutoBrightnessHelper(
     CalibrationInterface* calibration,
-    const Core::ParameterCollection::ParameterCollectionPtr& parameters)
+    const Core::ParameterCollection::ParameterCollectionPtr& parameters, QRecursiveMutex* lock)
     : m_calibration(calibration)
+    , m_lock(lock)
     , m_parameters(parameters)
 {}
 
 CameraAutoBrightnessHelper::~CameraAutoBrightnessHelper() = default;
+
+CameraAutoBrightnessHelper::Turn::Turn(CameraAutoBrightnessHelper& worker)
+    : m_worker(worker)
+{
+    QRecursiveMutex* const lock = m_worker.m_lock;
+    while (lock && !lock->tryLock(lockPollMs))
+        if (m_worker.m_stopRequested)
+            throw Stopped();
+    if (m_worker.m_stopRequested) {
+        if (lock)
+            lock->unlock();
+        throw Stopped();
+    }
+}
+
+CameraAutoBrightnessHelper::Turn::~Turn()
+{
+    if (m_worker.m_lock)
+        m_worker.m_lock->unlock();
+}
 
 void CameraAutoBrightnessHelper::stop()
 {
@@ -50,6 +72,8 @@ void CameraAutoBrightnessHelper::doWork()
     try {
         if (!m_stopRequested)
             run();
+    } catch (const Stopped&) {
+        // Nothing more is written to the camera, that is all.
     } catch (...) {
         reportFailure(QStringLiteral("Autoadjust failed."),
                       QStringLiteral("CameraAutoBrightnessHelper::doWork"), adapterLogCategory());
@@ -87,11 +111,11 @@ void CameraAutoBrightnessHelper::run()
     double minimum = 0.0;
     double gain = 0.0;
     double maximum = 0.0;
-    m_calibration->GetGainRange(minimum, gain, maximum);
-    m_calibration->SetGain(minimum);
+    calibration()->GetGainRange(minimum, gain, maximum);
+    calibration()->SetGain(minimum);
     // The first image may still have been exposed with the gain of before.
     QVector<QColor> discarded;
-    m_calibration->GetColorPatchValues(discarded, true);
+    calibration()->GetColorPatchValues(discarded, true);
 
     m_gainStage = false;
     bool reached = false;
@@ -108,11 +132,11 @@ void CameraAutoBrightnessHelper::adjust()
     double gainMinimum = 0.0;
     double gain = 0.0;
     double gainMaximum = 0.0;
-    m_calibration->GetGainRange(gainMinimum, gain, gainMaximum);
+    calibration()->GetGainRange(gainMinimum, gain, gainMaximum);
     double exposureMinimum = 0.0;
     double exposure = 0.0;
     double exposureMaximum = 0.0;
-    m_calibration->GetExposureTimeRange(exposureMinimum, exposure, exposureMaximum);
+    calibration()->GetExposureTimeRange(exposureMinimum, exposure, exposureMaximum);
 
     m_errorPercent = (ratio - 1.0) * 100.0;
     if (m_gainStage)
@@ -124,7 +148,7 @@ void CameraAutoBrightnessHelper::adjust()
 double CameraAutoBrightnessHelper::measurePeak()
 {
     QVector<QColor> colors;
-    m_calibration->GetColorPatchValues(colors, true);
+    calibration()->GetColorPatchValues(colors, true);
     const int index = ChartTargets().GrayPatchIndex();
     if (colors.size() <= index)
         throw Core::Exception::BaseException(
@@ -146,7 +170,7 @@ void CameraAutoBrightnessHelper::adjustExposure(double ratio, double gainMinimum
                                                 double exposure)
 {
     if (gain > gainMinimum)
-        m_calibration->SetGain(gainMinimum);
+        calibration()->SetGain(gainMinimum);
     const double step = (ratio - 1.0) * damping;
     double newExposure = step * exposure + exposure;
     logStep(QStringLiteral("Error: %1, OldValue: %2, NewValue: %3")
@@ -154,7 +178,7 @@ void CameraAutoBrightnessHelper::adjustExposure(double ratio, double gainMinimum
                 .arg(exposure)
                 .arg(newExposure));
     m_gainStage = m_exposureLimits.clamp(newExposure);
-    m_calibration->SetExposureTime(newExposure);
+    calibration()->SetExposureTime(newExposure);
 }
 
 void CameraAutoBrightnessHelper::adjustGain(double ratio, double gain)
@@ -168,7 +192,7 @@ void CameraAutoBrightnessHelper::adjustGain(double ratio, double gain)
                 .arg(added));
     if (m_gainLimits.clamp(newGain))
         m_running = false;
-    m_calibration->SetGain(newGain);
+    calibration()->SetGain(newGain);
 }
 
 } // namespace ColorCalibration

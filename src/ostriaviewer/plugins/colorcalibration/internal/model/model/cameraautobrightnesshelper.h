@@ -6,6 +6,7 @@
 #include "iparametercollection.h"
 
 #include <QObject>
+#include <QRecursiveMutex>
 
 #include <atomic>
 
@@ -14,18 +15,21 @@ namespace ColorCalibration {
 /// The worker of one run: exposure time first, gain once exposure has reached a limit.
 ///
 /// Lives in a thread of its own and reaches the camera through the calibration alone, so that each
-/// of its steps takes the model's lock by itself.
+/// of its steps takes the model's lock by itself. It never waits for that lock longer than until it
+/// is stopped, so that who holds the lock may wait for its end.
 class CameraAutoBrightnessHelper : public QObject
 {
     Q_OBJECT
 
 public:
     /// \param calibration  not owned, outlives the worker
+    /// \param lock         what the calibration's operations lock; null if nothing. Not owned
     CameraAutoBrightnessHelper(CalibrationInterface* calibration,
-                               const Core::ParameterCollection::ParameterCollectionPtr& parameters);
+                               const Core::ParameterCollection::ParameterCollectionPtr& parameters,
+                               QRecursiveMutex* lock = nullptr);
     ~CameraAutoBrightnessHelper() override;
 
-    /// Ends the run after its present pass, or before its first. Thread-safe.
+    /// Ends the run: no call of the calibration begins any more. Thread-safe.
     void stop();
 
 signals:
@@ -37,6 +41,26 @@ public slots:
     void doWork();
 
 private:
+    /// Thrown where the run has been stopped.
+    struct Stopped
+    {};
+
+    /// The calibration for one call, under its lock.
+    class Turn
+    {
+    public:
+        /// \throws Stopped
+        explicit Turn(CameraAutoBrightnessHelper& worker);
+        ~Turn();
+        Turn(const Turn&) = delete;
+        Turn& operator=(const Turn&) = delete;
+
+        CalibrationInterface* operator->() const { return m_worker.m_calibration; }
+
+    private:
+        CameraAutoBrightnessHelper& m_worker;
+    };
+
     struct Limits
     {
         double lowest;
@@ -46,6 +70,7 @@ private:
         bool clamp(double& value) const;
     };
 
+    Turn calibration() { return Turn(*this); }
     void readLimits();
     void run();
     void adjust();
@@ -54,6 +79,7 @@ private:
     void adjustGain(double ratio, double gain);
 
     CalibrationInterface* m_calibration;
+    QRecursiveMutex* m_lock;
     Core::ParameterCollection::ParameterCollectionPtr m_parameters;
     std::atomic_bool m_running{false};
     std::atomic_bool m_stopRequested{false};

@@ -10,6 +10,8 @@
 #include "reportfailure.h"
 #include "sfncgeneration.h"
 
+#include <QMutexLocker>
+
 #include <array>
 #include <cmath>
 
@@ -304,10 +306,11 @@ void CameraJustify::ActivateMonoPixelFormat()
     write.tryEntry(Name("PixelFormat"), Name("Mono12"));
 }
 
-void CameraJustify::StartAutoBrightness(CalibrationInterface* calibration)
+void CameraJustify::StartAutoBrightness(CalibrationInterface* calibration, QRecursiveMutex* lock)
 {
+    const QMutexLocker guard(&m_brightnessRunMutex);
     StopAutoBrightness();
-    m_brightnessRun = std::make_unique<BrightnessRun>(calibration, parameters());
+    m_brightnessRun = std::make_unique<BrightnessRun>(calibration, parameters(), lock);
     connect(m_brightnessRun->worker(), &CameraAutoBrightnessHelper::AutoBrightnessFinished, this,
             &CameraJustify::AutoBrightnessFinished);
     m_brightnessRun->start();
@@ -315,6 +318,7 @@ void CameraJustify::StartAutoBrightness(CalibrationInterface* calibration)
 
 void CameraJustify::StopAutoBrightness()
 {
+    const QMutexLocker guard(&m_brightnessRunMutex);
     m_brightnessRun.reset();
 }
 

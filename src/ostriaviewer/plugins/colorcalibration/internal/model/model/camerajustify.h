@@ -6,6 +6,7 @@
 #include "patchcolors.h"
 
 #include <QObject>
+#include <QRecursiveMutex>
 #include <QString>
 
 namespace ColorCalibration {
@@ -64,9 +65,11 @@ public:
 
     /// Starts a brightness run on a thread of its own; one that is under way is ended before.
     /// \param calibration  not owned, outlives the run
-    void StartAutoBrightness(CalibrationInterface* calibration);
+    /// \param lock         what the calibration's operations lock, may be null; not owned
+    void StartAutoBrightness(CalibrationInterface* calibration, QRecursiveMutex* lock = nullptr);
 
-    /// Ends a brightness run and waits for it. The caller must not hold what the run needs.
+    /// Ends a brightness run and waits for it. The caller may hold the lock of the run.
+    /// Thread-safe.
     void StopAutoBrightness();
 
     /// Keeps the camera's settings.
@@ -105,6 +108,7 @@ private:
     QString m_backup;
     QString m_initialBackup;
     std::unique_ptr<BrightnessRun> m_brightnessRun;
+    QRecursiveMutex m_brightnessRunMutex;
     QString m_userSetName = QStringLiteral("UserSet1");
     bool m_storeToUserSet = false;
     bool m_setUserSetDefault = false;

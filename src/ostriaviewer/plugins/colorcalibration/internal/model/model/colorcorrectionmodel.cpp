@@ -60,6 +60,11 @@ CalibrationSettings ColorCorrectionModel::LastCalibration() const
     return m_impl->LastCalibration();
 }
 
+quint64 ColorCorrectionModel::TakenImages() const
+{
+    return m_impl->TakenImages();
+}
+
 bool ColorCorrectionModel::Open(const Core::CameraPoolComponents::CameraPtr& camera)
 {
     return m_impl->Open(camera);

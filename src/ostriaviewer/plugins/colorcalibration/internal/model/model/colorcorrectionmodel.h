@@ -38,6 +38,10 @@ public:
     /// What the last calibration computed; neutral before the first.
     CalibrationSettings LastCalibration() const;
 
+    /// How many images this object has taken. Where an operation goes on without a new image, the
+    /// number stays.
+    quint64 TakenImages() const;
+
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;
     bool GrabImage(QImage& image, bool triggered) override;

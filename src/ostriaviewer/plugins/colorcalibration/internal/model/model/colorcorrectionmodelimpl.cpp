@@ -33,6 +33,17 @@ void endDelivery(ICamera& camera)
     }
 }
 
+/// The host's live image goes on behind an opening that has failed.
+void resumeDelivery(ICamera& camera)
+{
+    try {
+        if (!camera.isGrabbing())
+            camera.startGrabbing();
+    } catch (...) {
+        return;
+    }
+}
+
 } // namespace
 
 ColorCorrectionModelImpl::ColorCorrectionModelImpl(QObject* parent)
@@ -81,11 +92,15 @@ bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
     const QMutexLocker lock(&m_mutex);
     if (m_imageCamera || !camera)
         return false;
+    bool wasGrabbing = false;
     try {
+        wasGrabbing = camera->isGrabbing();
         openHandle(camera);
         return true;
     } catch (...) {
         abandonOpening();
+        if (wasGrabbing)
+            resumeDelivery(*camera);
         return false;
     }
 }
@@ -147,6 +162,7 @@ void ColorCorrectionModelImpl::abandonOpening()
 
 bool ColorCorrectionModelImpl::Close()
 {
+    // Before the mutex, so that a run in the middle of an image can come to its end.
     stopBrightnessRun();
     const QMutexLocker lock(&m_mutex);
     if (!m_imageCamera)
@@ -159,6 +175,8 @@ bool ColorCorrectionModelImpl::Close()
                    });
 }
 
+/// The handle is detached and its delivery ended before anything that a receiver uses is deleted,
+/// as an image may be on its way.
 void ColorCorrectionModelImpl::releaseCamera()
 {
     disconnectParameterSignals();
@@ -270,7 +288,6 @@ void ColorCorrectionModelImpl::stopBrightnessRun()
         const QMutexLocker lock(&m_justifyMutex);
         justify = m_justify;
     }
-    // Without the model's mutex: the run needs it to come to its end.
     if (justify)
         justify->StopAutoBrightness();
 }

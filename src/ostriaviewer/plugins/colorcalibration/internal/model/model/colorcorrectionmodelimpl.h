@@ -53,6 +53,10 @@ public:
     /// What the last calibration computed; neutral before the first.
     CalibrationSettings LastCalibration() const;
 
+    /// How many images this object has taken. Where an operation goes on without a new image, the
+    /// number stays.
+    quint64 TakenImages() const;
+
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;
     bool GrabImage(QImage& image, bool triggered) override;
@@ -115,6 +119,9 @@ private:
     void attachHandle(const CameraPtr& camera, const CameraPtr& handle);
     void abandonOpening();
     void releaseCamera();
+
+    /// What was measured belongs to settings that the camera will not have any more.
+    void forgetMeasurement();
     void onConnectionLost();
     void stopBrightnessRun();
 
@@ -159,6 +166,7 @@ private:
     QJsonObject m_resultsObject;
     Image m_initialImage;
     Image m_latestImage;
+    std::atomic<quint64> m_takenImages{0};
     double m_detectedGain = -1.0;
     double m_detectedExposure = -1.0;
     mutable QRecursiveMutex m_mutex;

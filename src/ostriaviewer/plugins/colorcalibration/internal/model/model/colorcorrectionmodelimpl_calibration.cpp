@@ -23,7 +23,7 @@ bool ColorCorrectionModelImpl::AutoAdjustGray80PercentPatch()
                    false, [this] {
                        if (!isCameraOpen())
                            return false;
-                       justify().StartAutoBrightness(this);
+                       justify().StartAutoBrightness(this, &m_mutex);
                        return true;
                    });
 }
@@ -79,7 +79,13 @@ bool ColorCorrectionModelImpl::grabAndMeasure(Image& target, bool triggered)
     if (m_discriminator->measureGrayPatch(m_latestImage.cameraImage()))
         emit Gray80PercentHitRateChanged(m_discriminator->grayHitRate());
     target = m_latestImage;
+    ++m_takenImages;
     return true;
+}
+
+quint64 ColorCorrectionModelImpl::TakenImages() const
+{
+    return m_takenImages;
 }
 
 bool ColorCorrectionModelImpl::GrabImage(QImage& image, bool triggered)
@@ -120,12 +126,14 @@ int ColorCorrectionModelImpl::collectColors(QVector<QColor>& out, bool grabImage
 int ColorCorrectionModelImpl::GetCurrentColorPatchValues(QVector<QColor>& out)
 {
     const QMutexLocker lock(&m_mutex);
-    if (!isCameraOpen())
-        return 0;
-    if (m_currentColors.isEmpty())
-        m_discriminator->patchColors(m_currentColors);
-    out += m_currentColors;
-    return out.size();
+    return guarded("", "ColorCorrectionModelImpl::GetCurrentColorPatchValues", 0, [&] {
+        if (!isCameraOpen())
+            return 0;
+        if (m_currentColors.isEmpty())
+            m_discriminator->patchColors(m_currentColors);
+        out += m_currentColors;
+        return out.size();
+    });
 }
 
 bool ColorCorrectionModelImpl::GetInitialCameraImage(QImage& image)
@@ -166,6 +174,7 @@ bool ColorCorrectionModelImpl::ApplyInitialCameraImageAndPatchValues()
 
 bool ColorCorrectionModelImpl::ExecuteWhitebalance()
 {
+    stopBrightnessRun();
     const QMutexLocker lock(&m_mutex);
     return guarded(
         "Whitebalance failed!", "ColorCorrectionModelImpl::ExecuteWhitebalance", false, [this] {
@@ -185,6 +194,7 @@ bool ColorCorrectionModelImpl::ExecuteWhitebalance()
 
 bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
 {
+    stopBrightnessRun();
     const QMutexLocker lock(&m_mutex);
     return guarded("Calibration failed.", "ColorCorrectionModelImpl::ExecuteCalibrationAndApply",
                    false, [this] {

@@ -71,6 +71,12 @@ void beginGridGroup(QSettings& settings, const QString& modelName)
 
 } // namespace
 
+void ColorCorrectionModelImpl::forgetMeasurement()
+{
+    m_latestImage = Image();
+    m_discriminator->setOutline(m_discriminator->outline());
+}
+
 bool ColorCorrectionModelImpl::StopGrabbing()
 {
     const QMutexLocker lock(&m_mutex);
@@ -84,12 +90,14 @@ bool ColorCorrectionModelImpl::StopGrabbing()
 
 bool ColorCorrectionModelImpl::LoadSettings(const QString& settings)
 {
+    stopBrightnessRun();
     const QMutexLocker lock(&m_mutex);
     return guarded("Error: Load settings to camera failed.",
                    "ColorCorrectionModelImpl::LoadSettings", false, [&] {
                        if (!isCameraOpen())
                            return true;
                        m_imageCamera->StopGrabbing();
+                       forgetMeasurement();
                        justify().LoadFeaturesFromString(settings);
                        return true;
                    });
@@ -107,12 +115,14 @@ bool ColorCorrectionModelImpl::LoadSettingsFromDevice(QIODevice* device)
 
 bool ColorCorrectionModelImpl::SetNeutralSettings()
 {
+    stopBrightnessRun();
     const QMutexLocker lock(&m_mutex);
     return guarded("Error: Set neutral camera settings failed.",
                    "ColorCorrectionModelImpl::SetNeutralSettings", false, [this] {
                        if (!isCameraOpen())
                            return true;
                        m_imageCamera->StopGrabbing();
+                       forgetMeasurement();
                        justify().SetBlackLevelNeutral();
                        justify().SetGammaNeutral();
                        justify().SetColorTransformationNeutral();
@@ -150,6 +160,7 @@ bool ColorCorrectionModelImpl::RestoreSettingsBackup(bool initialImage)
                        if (!isCameraOpen())
                            return true;
                        m_imageCamera->StopGrabbing();
+                       forgetMeasurement();
                        justify().RestoreBackup(initialImage);
                        return true;
                    });
@@ -259,6 +270,7 @@ double ColorCorrectionModelImpl::GetGain()
 
 bool ColorCorrectionModelImpl::StoreDetectedExposureAndGain()
 {
+    const QMutexLocker lock(&m_mutex);
     m_detectedGain = GetGain();
     m_detectedExposure = GetExposureTime();
     return m_detectedGain > -1.0 && m_detectedExposure > -1.0;
@@ -266,11 +278,12 @@ bool ColorCorrectionModelImpl::StoreDetectedExposureAndGain()
 
 bool ColorCorrectionModelImpl::RestoreDetectedExposureAndGain()
 {
+    stopBrightnessRun();
+    const QMutexLocker lock(&m_mutex);
     if (!(m_detectedGain > -1.0) || !(m_detectedExposure > -1.0))
         return false;
     const bool disabled =
         guarded("", "ColorCorrectionModelImpl::RestoreDetectedExposureAndGain", false, [this] {
-            const QMutexLocker lock(&m_mutex);
             if (!isCameraOpen())
                 return false;
             justify().DisableExposureAndGainAuto();

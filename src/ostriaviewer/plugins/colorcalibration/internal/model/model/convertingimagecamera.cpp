@@ -10,8 +10,6 @@
 #include <QPointer>
 #include <QTimer>
 
-#include <exception>
-
 using Core::CameraPoolComponents::CameraInfoPtr;
 using Core::CameraPoolComponents::CameraPtr;
 using Core::CameraPoolComponents::ICamera;
@@ -144,6 +142,9 @@ bool ConvertingImageCamera::waitForImage(const CameraPtr& camera, int timeoutMs,
         return false;
     timer.start(timeoutMs);
     loop.exec();
+    // Else the image of this request could be taken for that of the next one.
+    if (!arrived && camera->isOpen())
+        camera->stopGrabbing();
     return arrived;
 }
 

@@ -228,15 +228,15 @@ TEST_F(Step3, SelectsThePatchUnderTheMouseAndScrollsItToTheTop)
         return found.toInt();
     };
     // The header is 22 pixels high.
-    EXPECT_EQ(row(24), 3);
+    EXPECT_EQ(row(26), 3);
     select(5);
     EXPECT_EQ(selectedRows(), (QVector<int>{5}));
-    EXPECT_EQ(row(24), 5);
+    EXPECT_EQ(row(26), 5);
     select(-1);
     EXPECT_EQ(selectedRows(), (QVector<int>{5}));
     select(0);
     EXPECT_EQ(selectedRows(), (QVector<int>{0}));
-    EXPECT_EQ(row(24), 0);
+    EXPECT_EQ(row(26), 0);
 }
 
 TEST_F(Step3, MarksTheSelectedRow)
@@ -374,7 +374,7 @@ TEST_F(Step3, StartsTheLiveImage)
 
 TEST_F(Step3, TakesOneImageWhereTheLiveImageIsOff)
 {
-    open(2);
+    open(4);
     m_view->rootObject()->setProperty("autoRefreshChecked", false);
     m_calls.made.clear();
     m_model.setActiveStep(3);

@@ -7,6 +7,22 @@
 #include <QSettings>
 #include <QTest>
 
+namespace {
+
+/// Also finds what a repeater has made, which is no child of the object it is shown in.
+QQuickItem* shownItem(QQuickItem* parent, const QString& name)
+{
+    for (auto* child : parent->childItems()) {
+        if (child->objectName() == name)
+            return child;
+        if (auto* found = shownItem(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
 ResultsPages::ResultsPages()
 {
     QSettings().clear();
@@ -33,7 +49,12 @@ void ResultsPages::open(int step, const QSize& size)
     m_view->requestActivate();
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_view.get()));
     m_calls.made.clear();
+    auto* circle = shownItem(m_view->rootObject(), QString("step%1").arg(step));
+    ASSERT_NE(circle, nullptr);
+    item("progress")->setProperty("active", QVariant::fromValue(circle));
     m_model.setActiveStep(step);
+    // The pages of step 1 would be found before those that took their place.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_NE(page("toolBoxLoader"), nullptr);
 }
 

@@ -74,7 +74,6 @@ TEST_F(Keyboard, ReachesEveryControlOfSaving)
     EXPECT_EQ(round(Qt::Key_Tab), all);
     QStringList backwards{all};
     std::reverse(backwards.begin(), backwards.end());
-    backwards.move(0, backwards.size() - 1);
     EXPECT_EQ(round(Qt::Key_Backtab, Qt::ShiftModifier), backwards);
 }
 
@@ -91,18 +90,23 @@ TEST_F(Keyboard, ChoosesReportsByArrows)
 TEST_F(Keyboard, ScrollsATableSideways)
 {
     openPage(3);
+    auto* table = item("report3");
     item("reports")->setProperty("currentIndex", 3);
-    picture();
-    item("report3")->forceActiveFocus();
-    auto* flickable = item("report3")->property("flickableItem").value<QQuickItem*>();
+    // Ten columns, of which the first is 90 wide and the others 75.
+    const double hidden = 90 + 9 * 75 - table->property("viewport").value<QQuickItem*>()->width();
+    auto* bar = table->property("__horizontalScrollBar").value<QObject*>();
+    ASSERT_TRUE(waitFor([&] {
+        picture();
+        return bar->property("maximumValue").toDouble() == hidden;
+    }));
+    table->forceActiveFocus();
+    auto* flickable = table->property("flickableItem").value<QQuickItem*>();
     EXPECT_EQ(flickable->property("contentX"), 0);
     press(Qt::Key_Right);
     EXPECT_EQ(flickable->property("contentX"), 60);
     for (int i = 0; i < 20; ++i)
         press(Qt::Key_Right);
-    // Ten columns, of which the first is 90 wide and the others 75.
-    const double visible = item("report3")->property("viewport").value<QQuickItem*>()->width();
-    EXPECT_EQ(flickable->property("contentX"), 90 + 9 * 75 - visible);
+    EXPECT_EQ(flickable->property("contentX"), hidden);
     for (int i = 0; i < 20; ++i)
         press(Qt::Key_Left);
     EXPECT_EQ(flickable->property("contentX"), 0);

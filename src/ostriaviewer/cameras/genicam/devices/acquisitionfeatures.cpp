@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: Apache-2.0
+// The features by which a camera is told to send images.
+#include "acquisitionfeatures.h"
+
+#include "commandfeature_p.h"
+#include "genicamexception.h"
+#include "logging.h"
+#include "nodemap_p.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace Cameras::GenICam {
+namespace {
+
+QString modeName()
+{
+    return QStringLiteral("AcquisitionMode");
+}
+
+bool canBeSet(const Core::ParameterCollection::IEnumerationParameter& mode, const QString& entry)
+{
+    const auto entries = mode.entries();
+    return std::any_of(entries.begin(), entries.end(), [&entry](const auto& candidate) {
+        return candidate.name == entry && candidate.isSettable;
+    });
+}
+
+} // namespace
+
+AcquisitionFeatures::AcquisitionFeatures(
+    std::shared_ptr<NodeMap> nodeMap, Core::ParameterCollection::ParameterCollectionPtr parameters)
+    : m_nodeMap(std::move(nodeMap))
+    , m_parameters(std::move(parameters))
+{}
+
+AcquisitionFeatures::~AcquisitionFeatures()
+{
+    stop();
+}
+
+void AcquisitionFeatures::prepare(bool single)
+{
+    const std::lock_guard lock(m_mutex);
+    setMode(single);
+    m_isPrepared = true;
+}
+
+// A camera without a mode for one image is stopped after the first.
+void AcquisitionFeatures::setMode(bool single)
+{
+    const auto mode = m_parameters->enumerationParameter(modeName());
+    if (mode->isEmpty() || !mode->isReadable())
+        return;
+    QString wanted = QStringLiteral("Continuous");
+    if (single && canBeSet(*mode, QStringLiteral("SingleFrame")))
+        wanted = QStringLiteral("SingleFrame");
+    const QString present = mode->value();
+    if (present == wanted)
+        return;
+    mode->setValue(wanted);
+    m_previousMode = present;
+}
+
+std::size_t AcquisitionFeatures::payloadSize() const
+{
+    const auto payload = m_parameters->integerParameter(QStringLiteral("PayloadSize"));
+    const qint64 size = payload->value();
+    if (size <= 0)
+        throw ::GenICam::RuntimeException("PayloadSize: the camera tells no size of its images.");
+    return static_cast<std::size_t>(size);
+}
+
+void AcquisitionFeatures::start()
+{
+    const std::lock_guard lock(m_mutex);
+    m_isStarted = true;
+    lockFeatures(true);
+    execute("AcquisitionStart");
+}
+
+// It is not waited for the command's end: some cameras call it done when the last image is sent.
+void AcquisitionFeatures::execute(const char* command)
+{
+    const WriteLock lock(m_nodeMap->d());
+    startCommand(Feature::find(m_nodeMap->d(), QString::fromLatin1(command)));
+}
+
+// This node tells the description that images come; some cameras set it themselves.
+void AcquisitionFeatures::lockFeatures(bool locked)
+{
+    const auto node = m_parameters->integerParameter(QStringLiteral("TLParamsLocked"));
+    if (node->isWritable())
+        node->setValue(locked ? 1 : 0, false);
+}
+
+void AcquisitionFeatures::restoreMode()
+{
+    const QString mode = std::exchange(m_previousMode, {});
+    if (!mode.isEmpty())
+        m_parameters->enumerationParameter(modeName())->setValue(mode);
+}
+
+template <class Step>
+void AcquisitionFeatures::tryStep(const char* what, const Step& step) noexcept
+{
+    try {
+        step();
+    } catch (const std::exception& error) {
+        Core::Logging::createLogEntry(
+            Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
+            QStringLiteral("%1 (%2)").arg(QLatin1String(what), QString::fromUtf8(error.what())));
+    }
+}
+
+void AcquisitionFeatures::startAgain() noexcept
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_isStarted || !m_nodeMap->isConnected())
+        return;
+    tryStep("The camera could not be asked for another image.", [this] {
+        execute("AcquisitionStop");
+        execute("AcquisitionStart");
+    });
+}
+
+void AcquisitionFeatures::stop() noexcept
+{
+    const std::lock_guard lock(m_mutex);
+    if (!std::exchange(m_isPrepared, false) || !m_nodeMap->isConnected())
+        return;
+    if (std::exchange(m_isStarted, false)) {
+        tryStep("The camera could not be stopped.", [this] { execute("AcquisitionStop"); });
+        tryStep("The camera's features stay locked.", [this] { lockFeatures(false); });
+    }
+    tryStep("The camera's acquisition mode could not be restored.", [this] { restoreMode(); });
+}
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+// Work that nobody is to wait for.
+#pragma once
+
+#include <functional>
+
+namespace Cameras::GenICam {
+
+/// Runs work on a thread of its own, such as giving up a camera that has gone, which waits seconds
+/// for answers. What the work throws is lost. The program's end waits for it. Thread-safe.
+void runAside(std::function<void()> work);
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+// A received buffer as an image.
+#pragma once
+
+#include "grabresult.h"
+
+typedef struct _ArvBuffer ArvBuffer;
+
+namespace Cameras::GenICam {
+
+/// Copies the image out of a buffer that arrived whole. Reentrant.
+/// \param number  of the frame
+/// \return  a failed result with a reason where there is no image of a known pixel format in it
+Ostria::CGrabResultPtr toGrabResult(ArvBuffer* buffer, std::uint64_t number);
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+// What is known of a camera before it is opened.
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+namespace Cameras::GenICam {
+
+/// A plain value; reentrant.
+struct CameraIdentity
+{
+    QString id;               ///< what Device::open takes: IP address, or the library's name of it
+    QString modelName;        ///< empty: not known
+    QString serialNumber;     ///< empty: not known
+    bool isOnNetwork = false; ///< else on USB
+
+    /// The name for lists.
+    QString displayName() const
+    {
+        if (modelName.isEmpty())
+            return id;
+        const QString mark = serialNumber.isEmpty() ? id : serialNumber;
+        return QStringLiteral("%1 (%2)").arg(modelName, mark);
+    }
+};
+
+inline bool operator==(const CameraIdentity& one, const CameraIdentity& other)
+{
+    return one.id == other.id && one.modelName == other.modelName &&
+           one.serialNumber == other.serialNumber && one.isOnNetwork == other.isOnNetwork;
+}
+
+/// A network camera of which only the address is known.
+inline CameraIdentity cameraAt(const QString& address)
+{
+    return {address, {}, {}, true};
+}
+
+} // namespace Cameras::GenICam

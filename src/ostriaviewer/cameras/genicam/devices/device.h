@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+// A GigE Vision or USB3 Vision camera under control.
+#pragma once
+
+#include "registerport.h"
+#include "transportsettings.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+
+typedef struct _ArvDevice ArvDevice;
+typedef struct _ArvStream ArvStream;
+
+namespace Cameras::GenICam {
+
+/// A camera that this program controls, as registers. Thread-safe.
+class Device final : public IRegisterPort
+{
+public:
+    /// Takes control of a camera. Takes seconds if it does not answer.
+    /// \param id  the IP address of a network camera, which is asked directly, without a broadcast;
+    ///            else the library's name of a camera that hangs on USB
+    /// \throws ::GenICam::RuntimeException  it does not answer, or another program controls it
+    static std::shared_ptr<Device> open(const QString& id, const TransportSettings& settings = {});
+
+    /// Gives the control back. Does not wait for a camera that has gone.
+    ~Device() override;
+
+    /// The camera's own GenICam description.
+    /// \throws ::GenICam::RuntimeException  it has none that can be read
+    std::string description() const;
+
+    /// A stream without buffers; owned by the caller, who keeps the device meanwhile.
+    /// \throws ::GenICam::RuntimeException  the camera sends none, with the reason
+    ArvStream* createStream();
+
+    /// Is called once when the camera does not answer any more, on any thread, perhaps within a
+    /// call of the device or of its node map: it must use neither, nor wait. An empty function ends
+    /// that; waits for a call under way.
+    void setLostHandler(std::function<void()> handler);
+
+    bool isLost() const;
+
+    void read(std::uint64_t address, void* data, std::size_t size) override;
+    void write(std::uint64_t address, const void* data, std::size_t size) override;
+
+private:
+    explicit Device(ArvDevice* device);
+
+    static void onControlLost(ArvDevice* device, Device* self);
+    void becomeLost();
+
+    template <class Access>
+    void access(const Access& access);
+
+    ArvDevice* const m_device;
+    mutable std::mutex m_accessMutex; // one access to the device at a time
+    mutable std::mutex m_lostMutex;   // guards all below
+    std::function<void()> m_lostHandler;
+    bool m_isLost = false;
+};
+
+} // namespace Cameras::GenICam

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: Apache-2.0
+// Images as they come from a device.
+#include "framestream.h"
+
+#include "bufferimage_p.h"
+#include "genicamexception.h"
+
+#include <arv.h>
+
+#include <condition_variable>
+#include <mutex>
+#include <utility>
+
+namespace Cameras::GenICam {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// Enough for the frames of a fifth of a second at 50 frames per second.
+constexpr int bufferCount = 10;
+constexpr std::chrono::microseconds pollTime(20000);
+
+[[noreturn]] void fail(const QString& text)
+{
+    throw ::GenICam::RuntimeException(text.toStdString());
+}
+
+/// The library ends the program where memory is missing, so sizes that cannot be are refused.
+void requireSize(std::size_t payloadSize)
+{
+    constexpr std::size_t largestPayload = std::size_t{256} << 20;
+    if (payloadSize == 0)
+        fail(QStringLiteral("The camera does not tell how large its images are."));
+    if (payloadSize > largestPayload)
+        fail(QStringLiteral("The camera says that an image has %1 bytes, which is too much.")
+                 .arg(payloadSize));
+}
+
+ArvStream* makeStream(Device& device, std::size_t payloadSize)
+{
+    requireSize(payloadSize);
+    ArvStream* stream = device.createStream();
+    for (int index = 0; index < bufferCount; ++index)
+        arv_stream_push_buffer(stream, arv_buffer_new_allocate(payloadSize));
+    return stream;
+}
+
+} // namespace
+
+struct FrameStream::State
+{
+    State(std::shared_ptr<Device> openDevice, std::size_t payloadSize, Deliver receiver,
+          std::optional<Single> onlyOne)
+        : device(std::move(openDevice))
+        , stream(makeStream(*device, payloadSize))
+        , deliver(std::move(receiver))
+        , single(std::move(onlyOne))
+        , deadline(single ? Clock::now() + single->timeout : Clock::time_point::max())
+    {}
+
+    ~State() { g_object_unref(stream); }
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    const std::shared_ptr<Device> device;
+    ArvStream* const stream;
+    const Deliver deliver;
+    const std::optional<Single> single;
+    const Clock::time_point deadline;
+
+    mutable std::mutex mutex; ///< guards all below
+    std::condition_variable delivered;
+    std::thread::id thread;
+    bool isStopped = false;
+    bool isDelivering = false;
+    StreamStatistics counts;
+    std::uint64_t lastId = 0;
+    std::uint64_t number = 0;
+
+    bool isWanted() const;
+    bool beginDelivery();
+    void endDelivery(bool succeeded);
+    std::uint64_t countFrame(ArvBuffer* buffer);
+    void receive(ArvBuffer* buffer);
+    void dropDamaged();
+    void endAtDeadline();
+};
+
+bool FrameStream::State::isWanted() const
+{
+    const std::lock_guard lock(mutex);
+    return !isStopped && Clock::now() < deadline;
+}
+
+bool FrameStream::State::beginDelivery()
+{
+    const std::lock_guard lock(mutex);
+    isDelivering = !isStopped && Clock::now() < deadline;
+    return isDelivering;
+}
+
+void FrameStream::State::endDelivery(bool succeeded)
+{
+    const std::lock_guard lock(mutex);
+    isDelivering = false;
+    if (succeeded)
+        ++counts.delivered;
+    if (single)
+        isStopped = true;
+    delivered.notify_all();
+}
+
+/// Frames that never came count too, as the camera's own numbers tell of them.
+std::uint64_t FrameStream::State::countFrame(ArvBuffer* buffer)
+{
+    const std::lock_guard lock(mutex);
+    const std::uint64_t id = arv_buffer_get_frame_id(buffer);
+    number += lastId != 0 && id > lastId ? id - lastId : 1;
+    lastId = id;
+    return number;
+}
+
+void FrameStream::State::dropDamaged()
+{
+    {
+        const std::lock_guard lock(mutex);
+        ++counts.damaged;
+    }
+    if (single && isWanted())
+        single->again();
+}
+
+void FrameStream::State::receive(ArvBuffer* buffer)
+{
+    const std::uint64_t frame = countFrame(buffer);
+    if (arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS) {
+        dropDamaged();
+        return;
+    }
+    const Ostria::CGrabResultPtr result = toGrabResult(buffer, frame);
+    if (!isWanted())
+        return;
+    if (single)
+        single->end();
+    if (!beginDelivery())
+        return;
+    deliver(result);
+    endDelivery(result->GrabSucceeded());
+}
+
+void FrameStream::State::endAtDeadline()
+{
+    {
+        const std::lock_guard lock(mutex);
+        if (isStopped)
+            return;
+        isStopped = true;
+    }
+    single->end();
+}
+
+FrameStream::FrameStream(std::shared_ptr<Device> device, std::size_t payloadSize, Deliver deliver,
+                         std::optional<Single> single)
+    : m_state(std::make_shared<State>(std::move(device), payloadSize, std::move(deliver),
+                                      std::move(single)))
+    , m_thread([state = m_state] { run(state); })
+{}
+
+// A thread that waits for its receiver ends by itself, later.
+FrameStream::~FrameStream()
+{
+    stop();
+    bool isDelivering = false;
+    {
+        const std::lock_guard lock(m_state->mutex);
+        isDelivering = m_state->isDelivering;
+    }
+    if (isDelivering || m_thread.get_id() == std::this_thread::get_id())
+        m_thread.detach();
+    else
+        m_thread.join();
+}
+
+void FrameStream::run(const std::shared_ptr<State>& state)
+{
+    {
+        const std::lock_guard lock(state->mutex);
+        state->thread = std::this_thread::get_id();
+    }
+    while (state->isWanted()) {
+        ArvBuffer* buffer =
+            arv_stream_timeout_pop_buffer(state->stream, static_cast<guint64>(pollTime.count()));
+        if (!buffer)
+            continue;
+        state->receive(buffer);
+        arv_stream_push_buffer(state->stream, buffer);
+    }
+    if (state->single)
+        state->endAtDeadline();
+}
+
+void FrameStream::stop()
+{
+    std::unique_lock lock(m_state->mutex);
+    m_state->isStopped = true;
+    if (m_state->thread == std::this_thread::get_id())
+        return;
+    m_state->delivered.wait_for(lock, longestWait, [this] { return !m_state->isDelivering; });
+}
+
+bool FrameStream::isFinished() const
+{
+    return !m_state->isWanted();
+}
+
+StreamStatistics FrameStream::statistics() const
+{
+    guint64 completed = 0;
+    guint64 failures = 0;
+    guint64 underruns = 0;
+    arv_stream_get_statistics(m_state->stream, &completed, &failures, &underruns);
+    const std::lock_guard lock(m_state->mutex);
+    StreamStatistics statistics = m_state->counts;
+    statistics.overrun = underruns;
+    return statistics;
+}
+
+} // namespace Cameras::GenICam

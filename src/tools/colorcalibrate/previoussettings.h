@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+// The settings file of an earlier calibration.
+#pragma once
+
+#include "iparametercollection.h"
+
+#include <QString>
+
+namespace ColorCalibrate {
+
+/// \return  the file's text, at least one line of which is a setting
+/// \throws CommandError  the file cannot be read, is no settings file, or is far too large for one
+QString readPreviousSettings(const QString& fileName);
+
+/// \return  how many settings of the text are of features that the camera has not
+/// \throws CommandError  all of them are
+int countForeignSettings(const QString& text, const QString& fileName,
+                         Core::ParameterCollection::IParameterCollection& parameters);
+
+} // namespace ColorCalibrate

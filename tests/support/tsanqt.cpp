@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+// Lets ThreadSanitizer see the mutexes and threads of a Qt that is not instrumented.
+//
+// Mutexes are locked and threads waited for inside of the library, so that everything they guard
+// may look like a race. These definitions stand before the library's, and add what the sanitizer
+// must know.
+#include <QDeadlineTimer>
+#include <QMutex>
+#include <QThread>
+
+#include <climits>
+#include <dlfcn.h>
+#include <sanitizer/tsan_interface.h>
+
+namespace {
+
+template <typename Function>
+Function libraryFunction(const char* name)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+} // namespace
+
+void QMutex::lock() QT_MUTEX_LOCK_NOEXCEPT
+{
+    static const auto inLibrary = libraryFunction<void (*)(QMutex*)>("_ZN6QMutex4lockEv");
+    inLibrary(this);
+    __tsan_acquire(this);
+}
+
+bool QMutex::tryLock(int timeout) QT_MUTEX_LOCK_NOEXCEPT
+{
+    static const auto inLibrary = libraryFunction<bool (*)(QMutex*, int)>("_ZN6QMutex7tryLockEi");
+    const bool isLocked = inLibrary(this, timeout);
+    if (isLocked)
+        __tsan_acquire(this);
+    return isLocked;
+}
+
+void QMutex::unlock() noexcept
+{
+    static const auto inLibrary = libraryFunction<void (*)(QMutex*)>("_ZN6QMutex6unlockEv");
+    __tsan_release(this);
+    inLibrary(this);
+}
+
+void QThread::start(Priority priority)
+{
+    static const auto inLibrary =
+        libraryFunction<void (*)(QThread*, Priority)>("_ZN7QThread5startENS_8PriorityE");
+    // Emitted on the thread that ends, behind all that it has done.
+    QObject::connect(
+        this, &QThread::finished, this, [this] { __tsan_release(this); }, Qt::DirectConnection);
+    inLibrary(this, priority);
+}
+
+bool QThread::wait(QDeadlineTimer deadline)
+{
+    static const auto inLibrary =
+        libraryFunction<bool (*)(QThread*, QDeadlineTimer)>("_ZN7QThread4waitE14QDeadlineTimer");
+    const bool hasEnded = inLibrary(this, deadline);
+    if (hasEnded)
+        __tsan_acquire(this);
+    return hasEnded;
+}
+
+bool QThread::wait(unsigned long time)
+{
+    return wait(time == ULONG_MAX ? QDeadlineTimer(QDeadlineTimer::Forever)
+                                  : QDeadlineTimer(static_cast<qint64>(time)));
+}

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: Apache-2.0
+// Faults of an emulated camera at each step of a calibration.
+#include "calibrationsequence.h"
+#include "command.h"
+#include "emulatedhost.h"
+#include "settingsguard.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+
+using namespace ColorCalibrate;
+using Cameras::Emulation::EmulatedCamera;
+
+namespace {
+
+constexpr double exposure = 20000.0;
+
+/// Steps that take an image, in the order of the sequence.
+const QStringList imageSteps{
+    QStringLiteral("Taking the first image"),
+    QStringLiteral("Balancing white"),
+    QStringLiteral("Taking the image before calibration"),
+    QStringLiteral("Measuring the patches"),
+    QStringLiteral("Measuring the outcome"),
+};
+
+class CalibrationFaults : public testing::TestWithParam<int>
+{
+protected:
+    CalibrationFaults()
+        : m_host(reduced(supportedModels().at(GetParam())))
+    {
+        reopen();
+    }
+
+    void reopen()
+    {
+        ASSERT_TRUE(m_host.camera().open());
+        m_host.setExposure(exposure);
+    }
+
+    /// Lets a fault happen as soon as a step begins.
+    QString run(const QString& stepOfFault, const std::function<void()>& fault)
+    {
+        m_steps.clear();
+        CalibrationSequence sequence(
+            m_host.model(),
+            [&](const QString& step) {
+                // Neutral settings are set twice, and so on: the first time counts.
+                if (step == stepOfFault && !m_steps.contains(step))
+                    fault();
+                m_steps.append(step);
+            },
+            [] { return false; });
+        SequenceOptions options;
+        options.adjustExposure = false;
+        options.grid = m_host.chartGrid();
+        try {
+            sequence.run(m_host.pointer(), options);
+        } catch (const CommandError& error) {
+            return QString::fromUtf8(error.what());
+        }
+        // Given back, so that the next run finds it as this one did.
+        EXPECT_TRUE(m_host.model().RestoreSettingsBackup(false));
+        EXPECT_TRUE(m_host.model().Close());
+        return {};
+    }
+
+    QStringList allSteps()
+    {
+        EXPECT_EQ(run({}, [] {}).toStdString(), "");
+        QStringList steps = m_steps;
+        steps.removeDuplicates();
+        return steps;
+    }
+
+    EmulatedHost m_host;
+    QStringList m_steps;
+};
+
+/// Those that wait for an image for 5 s; one camera is enough.
+class MissingFrames : public CalibrationFaults
+{};
+
+} // namespace
+
+TEST_P(MissingFrames, ALostFrameEndsItAtTheStepThatNeedsIt)
+{
+    const QString before = m_host.settings();
+    for (const QString& step : imageSteps) {
+        // The first image may be taken twice.
+        const int frames = step == imageSteps.first() ? 2 : 1;
+        const QString message = run(step, [&] { m_host.camera().faults().loseFrames(frames); });
+        EXPECT_TRUE(message.contains(QLatin1String("delivered no image at the step \"") + step))
+            << step.toStdString() << ": " << message.toStdString();
+        m_host.camera().faults().loseFrames(0);
+        EXPECT_EQ(m_host.settings().toStdString(), before.toStdString()) << step.toStdString();
+    }
+}
+
+TEST_P(MissingFrames, ADamagedFrameIsNoImage)
+{
+    const QString before = m_host.settings();
+    const QString step = QStringLiteral("Measuring the patches");
+    const QString message = run(step, [&] { m_host.camera().faults().failFrames(1); });
+    EXPECT_TRUE(message.contains(QLatin1String("delivered no image"))) << message.toStdString();
+    EXPECT_EQ(m_host.settings().toStdString(), before.toStdString());
+}
+
+TEST_P(CalibrationFaults, ALateFrameIsWaitedFor)
+{
+    using std::chrono::milliseconds;
+    for (const QString& step : imageSteps)
+        EXPECT_EQ(run(step, [&] { m_host.camera().faults().delayFrames(1, milliseconds(300)); })
+                      .toStdString(),
+                  "")
+            << step.toStdString();
+}
+
+TEST_P(MissingFrames, AFrameThatComesTooLateIsNotTakenForAnotherOne)
+{
+    const QString before = m_host.settings();
+    const QString message = run(QStringLiteral("Measuring the patches"), [&] {
+        m_host.camera().faults().delayFrames(1, std::chrono::milliseconds(5200));
+    });
+    EXPECT_TRUE(message.contains(QLatin1String("delivered no image"))) << message.toStdString();
+    EXPECT_EQ(m_host.settings().toStdString(), before.toStdString());
+}
+
+TEST_P(CalibrationFaults, ALostConnectionIsToldAtEveryStep)
+{
+    for (const QString& step : allSteps()) {
+        const QString message = run(step, [&] { m_host.camera().loseConnection(); });
+        if (step == QLatin1String("Opening the camera")) {
+            EXPECT_FALSE(message.isEmpty());
+        } else {
+            EXPECT_EQ(message.toStdString(), "the camera has been disconnected")
+                << step.toStdString();
+        }
+        EXPECT_FALSE(m_host.camera().isOpen()) << step.toStdString();
+        m_host.camera().reconnect();
+        reopen();
+    }
+}
+
+TEST_P(CalibrationFaults, ARefusedWriteLeavesTheSettingsOrSaysThatTheyAreNot)
+{
+    const bool isOld = m_host.isOldGeneration();
+    const QString before = m_host.settings();
+    const QStringList steps = allSteps();
+    for (const QString& feature :
+         {isOld ? QStringLiteral("BlackLevelRaw") : QStringLiteral("BlackLevel"),
+          QStringLiteral("Gamma"), QStringLiteral("ColorTransformationValue"),
+          isOld ? QStringLiteral("BalanceRatioAbs") : QStringLiteral("BalanceRatio")})
+        for (const QString& step : steps) {
+            m_host.camera().close();
+            reopen();
+            ASSERT_EQ(m_host.settings().toStdString(), before.toStdString());
+            SettingsGuard guard(m_host.pointer());
+            m_host.camera().refuseWrites(feature, -1);
+            const QString message = run(step, [&] { m_host.camera().refuseWrites(feature); });
+            const bool isAsBefore = m_host.settings() == before;
+            const QString remark = guard.restore();
+            const std::string where = (feature + QLatin1String(" at ") + step).toStdString();
+            // Steps behind the last write of the feature are not hurt.
+            if (message.isEmpty()) {
+                EXPECT_EQ(remark.contains(QLatin1String("as they were")), isAsBefore) << where;
+            } else {
+                EXPECT_TRUE(isAsBefore || remark.contains(QLatin1String("COULD NOT BE RESTORED")))
+                    << where << ": " << message.toStdString() << remark.toStdString();
+            }
+            m_host.camera().refuseWrites(feature, -1);
+            EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were"))) << where;
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cameras, CalibrationFaults, testing::Values(0, 1, 2));
+INSTANTIATE_TEST_SUITE_P(Cameras, MissingFrames, testing::Values(0));

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+// Tests of how requests to end are kept.
+#include "interruption.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+using ColorCalibrate::Interruption;
+
+namespace {
+
+int caught = 0;
+
+extern "C" void count(int /*signal*/)
+{
+    ++caught;
+}
+
+} // namespace
+
+TEST(Interruption, KeepsEveryRequestToEnd)
+{
+    for (const int request : {SIGINT, SIGTERM, SIGHUP}) {
+        const Interruption interruption;
+        EXPECT_FALSE(Interruption::isRequested());
+        std::raise(request);
+        EXPECT_TRUE(Interruption::isRequested()) << request;
+    }
+}
+
+TEST(Interruption, DoesNotEndWhereNobodyReadsTheOutput)
+{
+    const Interruption interruption;
+    std::raise(SIGPIPE);
+    EXPECT_FALSE(Interruption::isRequested());
+}
+
+TEST(Interruption, LeavesTheHandlersAsTheyWere)
+{
+    const auto before = std::signal(SIGHUP, count);
+    {
+        const Interruption interruption;
+        std::raise(SIGHUP);
+    }
+    EXPECT_EQ(caught, 0);
+    std::raise(SIGHUP);
+    EXPECT_EQ(caught, 1);
+    std::signal(SIGHUP, before);
+}

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+// Opening, calibrating and closing a camera again and again leaves nothing behind.
+#include "calibrationsequence.h"
+#include "emulatedhost.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <cstddef>
+
+using namespace ColorCalibrate;
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isHeapCounted = false; // malloc is replaced
+#else
+constexpr bool isHeapCounted = true;
+#endif
+
+int threads()
+{
+    return static_cast<int>(QDir(QStringLiteral("/proc/self/task"))
+                                .entryList(QDir::Dirs | QDir::NoDotAndDotDot)
+                                .size());
+}
+
+int openFiles()
+{
+    return static_cast<int>(
+        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size());
+}
+
+std::size_t heap()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+void calibrateOnce(EmulatedHost& host)
+{
+    ASSERT_TRUE(host.camera().open());
+    host.setExposure(2000.0);
+    CalibrationSequence sequence(
+        host.model(), [](const QString&) {}, [] { return false; });
+    SequenceOptions options;
+    options.adjustExposure = false;
+    options.grid = host.chartGrid();
+    ASSERT_NO_THROW(sequence.run(host.pointer(), options));
+    ASSERT_TRUE(host.model().Close());
+    host.camera().close();
+}
+
+TEST(RepeatedCalibration, LeavesNeitherMemoryNorThreadsNorFilesBehind)
+{
+    constexpr int warmUp = 20;
+    constexpr int cycles = 200;
+    auto model = reduced(supportedModels().at(1));
+    model.sensor.fullScaleExposure = 1820.0; // ten times as fast as it is
+    EmulatedHost host(model);
+    for (int i = 0; i < warmUp; ++i)
+        calibrateOnce(host);
+    const std::size_t heapBefore = heap();
+    const int threadsBefore = threads();
+    const int filesBefore = openFiles();
+    for (int i = 0; i < cycles; ++i)
+        calibrateOnce(host);
+    // Less where a pool has let a thread go that was idle.
+    EXPECT_LE(threads(), threadsBefore);
+    EXPECT_LE(openFiles(), filesBefore);
+    const auto grown = static_cast<double>(heap()) - static_cast<double>(heapBefore);
+    // 256 bytes a cycle: less than one object of a camera, of which each opening makes hundreds.
+    if (isHeapCounted) {
+        EXPECT_LT(grown, cycles * 256.0);
+    }
+}
+
+} // namespace
