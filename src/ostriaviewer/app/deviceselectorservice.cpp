@@ -13,7 +13,12 @@ void DeviceSelectorService::select(const Core::CameraPoolComponents::DeviceBaseI
     if (device == m_selected)
         return;
     m_selected = device;
-    emit selectionChanged(device);
+    announce();
+}
+
+void DeviceSelectorService::announce()
+{
+    emit selectionChanged(m_selected);
 }
 
 } // namespace Viewer

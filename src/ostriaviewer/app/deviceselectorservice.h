@@ -21,6 +21,9 @@ public:
     /// Tells of the selection if it is another one.
     void select(const Core::CameraPoolComponents::DeviceBaseInfoPtr& device);
 
+    /// Tells of the selection again, for plugins that were not there when it was made.
+    void announce();
+
 private:
     Core::CameraPoolComponents::DeviceBaseInfoPtr m_selected;
 };

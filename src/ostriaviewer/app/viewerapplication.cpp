@@ -96,6 +96,7 @@ void ViewerApplication::start()
     m_window->show();
     startCamera();
     loadPlugins();
+    m_selector->announce();
 }
 
 // While the camera prepares its first image, plugins are loaded.

@@ -87,6 +87,20 @@ TEST_F(MainWindowTest, TellsPluginsOfSelectionOpeningAndLoss)
     EXPECT_EQ(told, (QStringList{"selected " + name, "opened " + name, "lost " + name}));
 }
 
+TEST_F(MainWindowTest, TellsWhoBeginsToListenLaterOfTheSelectionToo)
+{
+    DeviceSelectorService selector;
+    const Core::CameraPoolComponents::DeviceBaseInfoPtr device = m_second;
+    selector.select(device);
+    QList<Core::CameraPoolComponents::DeviceBaseInfoPtr> told;
+    QObject::connect(&selector, &DeviceSelectorService::selectionChanged,
+                     [&](const auto& selected) { told.append(selected); });
+    selector.select(device);
+    EXPECT_TRUE(told.isEmpty());
+    selector.announce();
+    EXPECT_EQ(told, QList{device});
+}
+
 TEST_F(MainWindowTest, LoadsPluginsAndTellsWhatCameOfThem)
 {
     QTemporaryDir plugins;

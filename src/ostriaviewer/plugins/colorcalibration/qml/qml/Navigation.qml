@@ -71,6 +71,13 @@ Row {
         onClicked: buttons.tryCancel()
     }
 
+    Connections {
+        target: qmlModelInterface
+        function onCleanupQML() {
+            cancelWarningDialog.close()
+        }
+    }
+
     MessageDialog {
         id: cancelWarningDialog
         objectName: "cancelWarningDialog"
