@@ -306,6 +306,17 @@ Rectangle {
         }
     }
 
+    // A box that outlived the wizard would lock the viewer, and answer for a camera that is closed.
+    Connections {
+        target: qmlModelInterface
+        function onCleanupQML() {
+            modelError.close()
+            modelWarning.close()
+            criticalError.close()
+            navigation.closeQuestion()
+        }
+    }
+
     Progress {
         id: progress
         objectName: "progress"

@@ -156,6 +156,23 @@ TEST_F(Navigation, KeepsReturnAndEscapeAliveWhileItsButtonsAreOff)
     EXPECT_EQ(m_model.activeStep(), 4);
 }
 
+class BoxLeftOpen : public Navigation, public testing::WithParamInterface<const char*>
+{};
+
+TEST_P(BoxLeftOpen, GoesWithTheWizardAndAnswersNothing)
+{
+    openAt(2);
+    QMetaObject::invokeMethod(object(GetParam()), "open");
+    ASSERT_EQ(boxes().size(), 1);
+    emit m_model.cleanupQML();
+    EXPECT_TRUE(waitFor([this] { return boxes().isEmpty(); }));
+    EXPECT_FALSE(takeCalls().contains("cancel()"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Wizard, BoxLeftOpen,
+                         testing::Values("modelError", "modelWarning", "criticalError",
+                                         "cancelWarningDialog", "autoAdjustGrayError"));
+
 TEST_F(Navigation, LaysTheBarOutByItsWidth)
 {
     openAt(1);

@@ -194,8 +194,11 @@ void WizardWindow::answer(QMessageBox::StandardButton button)
     auto* found = open.first()->button(button);
     ASSERT_NE(found, nullptr);
     found->click();
-    m_view->requestActivate();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_view.get()));
+    // No window manager gives the keyboard back.
+    ASSERT_TRUE(waitFor([this] {
+        m_view->requestActivate();
+        return QGuiApplication::focusWindow() == m_view.get();
+    }));
 }
 
 void WizardWindow::answerAll()
