@@ -255,16 +255,6 @@ Rectangle {
         }
     }
 
-    // A box that stays open would block the host after the wizard has gone.
-    Connections {
-        target: qmlModelInterface
-        function onCleanupQML() {
-            modelError.close()
-            modelWarning.close()
-            criticalError.close()
-        }
-    }
-
     MessageDialog {
         id: modelError
         objectName: "modelError"

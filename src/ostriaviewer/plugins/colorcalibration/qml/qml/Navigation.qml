@@ -75,13 +75,6 @@ Row {
         onClicked: buttons.tryCancel()
     }
 
-    Connections {
-        target: qmlModelInterface
-        function onCleanupQML() {
-            cancelWarningDialog.close()
-        }
-    }
-
     MessageDialog {
         id: cancelWarningDialog
         objectName: "cancelWarningDialog"
