@@ -120,7 +120,30 @@ TEST_P(CancellingOnStep, TakesEscapeInTheQuestionForANo)
     EXPECT_TRUE(boxes().isEmpty());
 }
 
+TEST_P(CancellingOnStep, TakesTheQuestionAwayWhenTheWizardEnds)
+{
+    openAt(GetParam());
+    press(Qt::Key_Escape);
+    ASSERT_EQ(boxes().size(), 1);
+    emit m_model.cleanupQML();
+    EXPECT_TRUE(boxes().isEmpty());
+    EXPECT_FALSE(takeCalls().contains("cancel()"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Wizard, CancellingOnStep, testing::Values(2, 3, 4));
+
+TEST_F(Navigation, TakesEachMessageAwayWhenTheWizardEnds)
+{
+    openAt(1);
+    for (const char* box : {"modelError", "modelWarning", "criticalError"}) {
+        QMetaObject::invokeMethod(object(box), "open");
+        ASSERT_EQ(boxes().size(), 1) << box;
+        takeCalls();
+        emit m_model.cleanupQML();
+        EXPECT_TRUE(boxes().isEmpty()) << box;
+        EXPECT_FALSE(takeCalls().contains("cancel()")) << box;
+    }
+}
 
 TEST_F(Navigation, KeepsReturnAndEscapeAliveWhileItsButtonsAreOff)
 {

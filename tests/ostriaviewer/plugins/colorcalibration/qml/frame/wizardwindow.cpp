@@ -197,8 +197,10 @@ void WizardWindow::answer(QMessageBox::StandardButton button)
     // No window manager gives the keyboard back.
     ASSERT_TRUE(waitFor([this] {
         m_view->requestActivate();
-        return QGuiApplication::focusWindow() == m_view.get();
+        return QGuiApplication::focusWindow() == m_view.get() && m_view->isActive() &&
+               boxes().isEmpty();
     }));
+    QCoreApplication::sendPostedEvents();
 }
 
 void WizardWindow::answerAll()
