@@ -219,8 +219,9 @@ TEST_P(CameraContract, GrabsUntilItIsStopped)
     ASSERT_TRUE(camera->grabSingle());
     EXPECT_TRUE(probe.waitFor(count + 1));
     EXPECT_EQ(probe.count(), count + 1);
-    if (!mode.isEmpty())
+    if (!mode.isEmpty()) {
         EXPECT_EQ(choice("AcquisitionMode")->value(), mode);
+    }
 }
 
 TEST_P(CameraContract, LocksItsImageSizeWhileItGrabs)
@@ -325,8 +326,8 @@ TEST_P(CameraContract, AnnouncesOnceThatItIsLostAndComesBack)
 
 INSTANTIATE_TEST_SUITE_P(Backends, CameraContract,
                          testing::Values(Backend::InProcess, Backend::Network),
-                         [](const auto& info) {
-                             return info.param == Backend::InProcess ? "InProcess" : "Network";
+                         [](const auto& test) {
+                             return test.param == Backend::InProcess ? "InProcess" : "Network";
                          });
 
 TEST(CameraBackends, HaveTheSameSettingsAndTheSamePixels)
