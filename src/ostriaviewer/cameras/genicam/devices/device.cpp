@@ -90,6 +90,9 @@ std::shared_ptr<Device> Device::open(const QString& id, const TransportSettings&
 {
     GErrorSlot error;
     ArvDevice* device = openDevice(id, error);
+    if (!device && error.isAboutDescription())
+        fail(QStringLiteral("The description of the camera \"%1\" cannot be used (%2).")
+                 .arg(id, error.reason()));
     if (!device)
         fail(QStringLiteral("The camera \"%1\" does not answer%2.")
                  .arg(id, error.isSet() ? QStringLiteral(" (%1)").arg(error.reason()) : QString()));

@@ -283,8 +283,8 @@ TEST_P(CameraContract, OneHandleGrabsAlone)
     FrameProbe probe(handle);
     ASSERT_TRUE(handle->grabSingle());
     EXPECT_TRUE(probe.waitFor(1));
-    handle.clear();
-    EXPECT_TRUE(camera->startGrabbing());
+    handle.clear(); // the delivering thread may hold it a little longer
+    EXPECT_TRUE(becomes([this] { return camera->startGrabbing(); }));
     camera->stopGrabbing();
 }
 

@@ -12,7 +12,6 @@
 
 #include <chrono>
 #include <cstring>
-#include <thread>
 
 using namespace Cameras;
 using Emulation::smallModel;
@@ -33,16 +32,6 @@ protected:
     {
         return camera->parameterCollection()->enumerationParameter(
             QStringLiteral("AcquisitionMode"));
-    }
-
-    /// Waits for what no signal tells.
-    template <class Condition>
-    static bool becomes(const Condition& condition)
-    {
-        const auto end = std::chrono::steady_clock::now() + patience;
-        while (!condition() && std::chrono::steady_clock::now() < end)
-            std::this_thread::yield();
-        return condition();
     }
 };
 
