@@ -138,6 +138,7 @@ TEST_F(NetworkCameras, AreMissedWhereverTheyVanish)
             [] { return false; });
         EXPECT_THROW(sequence.run(camera, options), CommandError) << lastStep.toStdString();
         camera->close();
+        vanish();
         serve();
     }
     EXPECT_EQ(lastStep, QStringLiteral("Measuring the outcome"));
