@@ -57,6 +57,15 @@ protected:
     }
     void vanish() { m_server.reset(); }
 
+    /// Whoever lost the camera could not put its settings back.
+    void loadFactorySettings() const
+    {
+        const auto parameters = m_served->parameterCollection();
+        parameters->enumerationParameter(QStringLiteral("UserSetSelector"))
+            ->setValue(QStringLiteral("Default"));
+        parameters->commandParameter(QStringLiteral("UserSetLoad"))->execute();
+    }
+
     static QJsonDocument runJson(const QStringList& arguments)
     {
         const Outcome outcome = runTool(arguments);
@@ -139,6 +148,7 @@ TEST_F(NetworkCameras, AreMissedWhereverTheyVanish)
         EXPECT_THROW(sequence.run(camera, options), CommandError) << lastStep.toStdString();
         camera->close();
         vanish();
+        loadFactorySettings();
         serve();
     }
     EXPECT_EQ(lastStep, QStringLiteral("Measuring the outcome"));
