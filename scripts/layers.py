@@ -108,11 +108,7 @@ LIBRARIES = [
     (
         "Aravis",
         ARAVIS,
-        [
-            "src/ostriaviewer/cameras/genicam",
-            "src/ostriaviewer/cameras/genicam/devices",
-            "src/ostriaviewer/cameras/emulation/served",
-        ],
+        ["src/ostriaviewer/cameras/genicam", "src/ostriaviewer/cameras/genicam/devices"],
         (".cpp",),
     ),
 ]

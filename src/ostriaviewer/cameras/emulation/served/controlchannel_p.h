@@ -4,7 +4,7 @@
 
 #include "bootstrapmemory_p.h"
 #include "framesender_p.h"
-#include "udpsocket_p.h"
+#include "udpsocket.h"
 
 #include <chrono>
 #include <memory>

@@ -2,8 +2,6 @@
 // Sends images as GigE Vision streams.
 #include "framesender_p.h"
 
-#include "udpsocket_p.h"
-
 #include <algorithm>
 #include <thread>
 #include <utility>

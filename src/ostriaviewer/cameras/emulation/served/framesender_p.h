@@ -4,6 +4,7 @@
 
 #include "grabresult.h"
 #include "gvcp_p.h"
+#include "udpsocket.h"
 
 #include <chrono>
 #include <memory>
@@ -11,8 +12,6 @@
 #include <random>
 
 namespace Cameras::Emulation {
-
-class UdpSocket;
 
 /// Sends frames in packets, and packets of the last frames again. Thread-safe.
 class FrameSender

@@ -3,7 +3,7 @@
 #include "gigeserver.h"
 
 #include "controlchannel_p.h"
-#include "udpsocket_p.h"
+#include "udpsocket.h"
 
 #include <array>
 #include <atomic>

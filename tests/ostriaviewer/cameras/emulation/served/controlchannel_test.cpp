@@ -49,10 +49,11 @@ private:
 class ControlChannelTest : public testing::Test
 {
 protected:
-    static constexpr UdpAddress client{0x7f000001, 5000};
-    static constexpr UdpAddress stranger{0x7f000001, 5001};
+    static constexpr Cameras::UdpAddress client{0x7f000001, 5000};
+    static constexpr Cameras::UdpAddress stranger{0x7f000001, 5001};
 
-    Bytes request(std::uint16_t command, const Bytes& payload, const UdpAddress& from = client)
+    Bytes request(std::uint16_t command, const Bytes& payload,
+                  const Cameras::UdpAddress& from = client)
     {
         Bytes bytes = {0x42, 0x01};
         Gvcp::append16(bytes, command);

@@ -11,7 +11,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
+#include <thread>
 
 /// A camera with what happens to cameras in the field.
 class CameraRig
@@ -76,6 +78,19 @@ private:
     QSharedPointer<Cameras::GenICam::GenicamCamera> m_camera;
     QSharedPointer<Cameras::GenICam::GenicamCamera> m_other;
 };
+
+/// Waits for what no signal tells.
+template <class Condition>
+bool becomes(const Condition& condition)
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+    bool holds = condition();
+    while (!holds && std::chrono::steady_clock::now() < end) {
+        std::this_thread::yield();
+        holds = condition();
+    }
+    return holds;
+}
 
 /// Whether this process has a network of its own.
 bool hasLoopback();

@@ -9,7 +9,7 @@
 
 typedef struct _GSocket GSocket;
 
-namespace Cameras::Emulation {
+namespace Cameras {
 
 struct UdpAddress
 {
@@ -32,7 +32,8 @@ struct Datagram
 class UdpSocket
 {
 public:
-    /// \param shared  others may have the same address
+    /// \param address  port 0 takes any that is free
+    /// \param shared   others may have the same address
     /// \throws std::runtime_error  the address cannot be had, with the reason
     UdpSocket(const UdpAddress& address, bool shared);
     ~UdpSocket();
@@ -49,4 +50,4 @@ private:
     GSocket* m_socket;
 };
 
-} // namespace Cameras::Emulation
+} // namespace Cameras

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // A socket for datagrams over IPv4.
-#include "udpsocket_p.h"
+#include "udpsocket.h"
 
 #include <gio/gio.h>
 
@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace Cameras::Emulation {
+namespace Cameras {
 namespace {
 
 GSocketAddress* toSocketAddress(const UdpAddress& address)
@@ -48,6 +48,7 @@ UdpSocket::UdpSocket(const UdpAddress& address, bool shared)
         g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, &error);
     if (!m_socket)
         fail(error);
+    g_socket_set_broadcast(m_socket, TRUE);
     GSocketAddress* own = toSocketAddress(address);
     const bool isBound = g_socket_bind(m_socket, own, shared, &error);
     g_object_unref(own);
@@ -92,4 +93,4 @@ std::optional<Datagram> UdpSocket::receive(std::chrono::milliseconds time)
     return datagram;
 }
 
-} // namespace Cameras::Emulation
+} // namespace Cameras
