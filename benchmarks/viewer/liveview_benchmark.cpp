@@ -43,9 +43,7 @@ Ostria::CGrabResultPtr cameraFrame()
 
 double processorSeconds()
 {
-    timespec time = {};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 QImage picture()

@@ -59,7 +59,7 @@ void measure(benchmark::State& state, const char* argument)
     for (auto _ : state) {
         QProcess process;
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process.start(QStringLiteral("/proc/self/exe"), {QString::fromLatin1(argument)});
+        process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(argument)});
         if (!process.waitForFinished(60000) || process.exitCode() != 0)
             state.SkipWithError("The program did not show a picture");
     }

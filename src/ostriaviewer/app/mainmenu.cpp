@@ -22,6 +22,7 @@ CId id(const char* name)
 MainMenu::MainMenu(QMenuBar& bar, MenuService& service, CameraCommands& camera, LiveView& view,
                    QObject* parent)
     : QObject(parent)
+    , m_commands(camera)
     , m_file(makeMenu(bar, "fileMenu"))
     , m_view(makeMenu(bar, "viewMenu"))
     , m_camera(makeMenu(bar, "cameraMenu"))
@@ -131,6 +132,9 @@ void MainMenu::publish(MenuService& service)
 void MainMenu::showPlaceholder()
 {
     const QList<QAction*> actions = m_tools->actions();
+    const auto camera = m_commands.camera();
+    m_noTool->setText(camera && !camera->isOpen() ? tr("Open the camera to see its tools")
+                                                  : tr("No tool for the selected camera"));
     m_noTool->setVisible(std::none_of(actions.begin(), actions.end(), [this](QAction* action) {
         return action != m_noTool && !action->isSeparator() && action->isVisible();
     }));
@@ -173,7 +177,6 @@ void MainMenu::retranslate()
     m_pixels->setText(tr("Zoom to &Pixels"));
     m_zoomIn->setText(tr("Zoom &In"));
     m_zoomOut->setText(tr("Zoom &Out"));
-    m_noTool->setText(tr("No tool for the selected camera"));
     m_plugins->setText(tr("&Plugins"));
     m_about->setText(tr("&About"));
     const QString themes[] = {tr("Like the &Desktop"), tr("&Light"), tr("&Dark")};

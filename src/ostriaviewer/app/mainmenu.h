@@ -54,6 +54,7 @@ private:
     void publish(MenuService& service);
     void showPlaceholder();
 
+    CameraCommands& m_commands;
     QMenu* m_file;
     QMenu* m_view;
     QMenu* m_camera;

@@ -94,12 +94,12 @@ void ViewerApplication::start()
 {
     m_window->restoreLayout();
     m_window->show();
-    startCamera();
     loadPlugins();
+    selectCamera();
 }
 
-// While the camera prepares its first image, plugins are loaded.
-void ViewerApplication::startCamera()
+// Plugins learn of what happens from then on alone, so they come first.
+void ViewerApplication::selectCamera()
 {
     const auto& cameras = m_cameras.cameras();
     if (m_arguments.camera.isEmpty()) {

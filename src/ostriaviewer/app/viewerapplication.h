@@ -54,7 +54,7 @@ private:
     void registerServices();
     void makeConnections();
     void loadPlugins();
-    void startCamera();
+    void selectCamera();
     void chooseTheme(Theme theme);
     void chooseLanguage(const QString& code);
     void showPlugins();

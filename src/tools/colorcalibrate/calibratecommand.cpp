@@ -33,6 +33,7 @@ namespace {
 struct Report
 {
     QString camera;
+    QString model;
     QString sfnc;
     SequenceResult result;
     CalibrationSettings settings;
@@ -123,6 +124,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
 {
     Report report;
     report.camera = camera->displayName();
+    report.model = camera->modelName();
     SettingsGuard guard(camera);
     requireSupported(cameras, camera);
     resolveUserSet(camera, saving);
@@ -172,6 +174,7 @@ QJsonObject toJson(const Report& report)
 {
     QJsonObject json = settingsJson(report.settings);
     json.insert(QStringLiteral("camera"), report.camera);
+    json.insert(QStringLiteral("model"), report.model);
     json.insert(QStringLiteral("sfnc"), report.sfnc);
     json.insert(QStringLiteral("grid"), gridJson(report.result.grid));
     json.insert(QStringLiteral("before"), deltasJson(report.before));

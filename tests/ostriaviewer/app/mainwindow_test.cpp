@@ -55,8 +55,13 @@ TEST_F(MainWindowTest, ToolsMenuSaysWhenThereIsNoTool)
     QMenuBar* bar = window().menuBar();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
     ASSERT_TRUE(waitUntil([&] { return menu->isVisible(); }));
-    EXPECT_EQ(menu->actions().constLast()->text(), "No tool for the selected camera");
+    EXPECT_EQ(menu->actions().constLast()->text(), "Open the camera to see its tools");
     EXPECT_TRUE(menu->actions().constLast()->isVisible());
+    QTest::keyClick(menu, Qt::Key_Escape);
+    window().commands().openAction()->trigger();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menu->menuAction()).center());
+    ASSERT_TRUE(waitUntil([&] { return menu->isVisible(); }));
+    EXPECT_EQ(menu->actions().constLast()->text(), "No tool for the selected camera");
     QTest::keyClick(menu, Qt::Key_Escape);
 }
 
@@ -100,6 +105,16 @@ TEST_F(MainWindowTest, LoadsPluginsAndTellsWhatCameOfThem)
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->findChild<QTreeWidget*>("plugins")->topLevelItemCount(), 2);
     QTest::keyClick(dialog, Qt::Key_Escape);
+}
+
+TEST_F(MainWindowTest, TellsPluginsOfTheCameraThatIsSelectedFromTheBeginning)
+{
+    QTemporaryDir plugins;
+    QFile::copy(TEST_PLUGINS "/good.so", plugins.filePath("good.so"));
+    qApp->setProperty("pluginCalls", QStringList());
+    startViewer(plugins.path());
+    EXPECT_EQ(qApp->property("pluginCalls").toStringList().constLast(),
+              "Good selected " + m_first->displayName());
 }
 
 TEST_F(MainWindowTest, RunsWithoutAPluginFolder)

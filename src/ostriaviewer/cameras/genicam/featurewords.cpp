@@ -7,24 +7,26 @@
 #include "nodemap_p.h"
 #include "nodeproperties_p.h"
 
+#include <QSet>
+
 namespace Cameras::GenICam {
 
 using Core::ParameterCollection::FeatureCategory;
 
 namespace {
 
-/// Categories that contain each other must not keep us for ever.
-constexpr int deepestCategory = 32;
-
 QString nameOf(ArvGcFeatureNode* node)
 {
     return QString::fromUtf8(arv_gc_feature_node_get_name(node));
 }
 
-FeatureCategory readCategory(NodeMapPrivate& map, ArvGcFeatureNode* node, int depth)
+/// \param seen  categories that were read already: those that contain each other must not keep us
+///              for ever
+FeatureCategory readCategory(NodeMapPrivate& map, ArvGcFeatureNode* node, QSet<QString>& seen)
 {
     FeatureCategory category;
     category.name = nameOf(node);
+    seen.insert(category.name);
     category.displayName = QString::fromUtf8(arv_gc_feature_node_get_display_name(node));
     if (category.displayName.isEmpty())
         category.displayName = category.name;
@@ -32,8 +34,8 @@ FeatureCategory readCategory(NodeMapPrivate& map, ArvGcFeatureNode* node, int de
         if (!ARV_IS_GC_CATEGORY(child)) {
             if (!Feature::find(map, nameOf(child)).isEmpty())
                 category.features.append(nameOf(child));
-        } else if (depth < deepestCategory) {
-            category.categories.push_back(readCategory(map, child, depth + 1));
+        } else if (!seen.contains(nameOf(child))) {
+            category.categories.push_back(readCategory(map, child, seen));
         }
     }
     return category;
@@ -65,7 +67,8 @@ std::vector<FeatureCategory> featureCategories(NodeMapPrivate& map)
     ArvGcNode* root = arv_gc_get_node(map.gc(), "Root");
     if (!ARV_IS_GC_CATEGORY(root))
         return {};
-    return readCategory(map, ARV_GC_FEATURE_NODE(root), 0).categories;
+    QSet<QString> seen;
+    return readCategory(map, ARV_GC_FEATURE_NODE(root), seen).categories;
 }
 
 } // namespace Cameras::GenICam

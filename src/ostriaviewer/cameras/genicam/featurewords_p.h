@@ -19,7 +19,8 @@ QString descriptionOf(const Feature& feature);
 /// The unit of a number, nothing where there is none.
 QString unitOf(const Feature& feature);
 
-/// The categories below the root, with the features that the camera implements.
+/// The categories below the root, each once, with the features that the camera
+/// implements.
 std::vector<Core::ParameterCollection::FeatureCategory> featureCategories(NodeMapPrivate& map);
 
 } // namespace Cameras::GenICam

@@ -2,6 +2,7 @@
 // A plugin that notes what the viewer calls, and fails where a test wants it to.
 #pragma once
 
+#include "ideviceselectorservice.h"
 #include "iplugin.h"
 
 #include <QCoreApplication>
@@ -20,7 +21,17 @@ public:
 
     bool setServiceRegistry(const QWeakPointer<Core::Service::CServiceRegistry>& registry) override
     {
-        return note(QStringLiteral("registry")) && !registry.isNull();
+        const auto services = registry.toStrongRef();
+        if (const auto selector =
+                services ? services->find<Plugin::CameraSelector::IDeviceSelectorService>()
+                         : nullptr)
+            connect(selector.data(),
+                    &Plugin::CameraSelector::IDeviceSelectorService::selectionChanged, this,
+                    [this](const Core::CameraPoolComponents::DeviceBaseInfoPtr& device) {
+                        note(QStringLiteral("selected ") +
+                             (device ? device->displayName() : QStringLiteral("nothing")));
+                    });
+        return note(QStringLiteral("registry")) && services;
     }
     bool initialize() override { return note(QStringLiteral("initialize")); }
     bool extensionsInitialized(const QSharedPointer<QStringList>& arguments) override

@@ -258,6 +258,47 @@ TEST_F(CameraPoolTest, ParametersAreThereWhileTheCameraIsOpen)
     EXPECT_FALSE(service->parameterCollection(m_first));
 }
 
+TEST_F(CameraPoolTest, ARecordedCameraIsBusyUntilItsRecorderSaysThatItHasEnded)
+{
+    int asked = 0;
+    m_pool.recordings()->begin(m_first.data(), [&asked] { ++asked; });
+    EXPECT_TRUE(m_status->isAcquiringOrRecording(m_first));
+    EXPECT_FALSE(m_status->isAcquiringOrRecording(m_second));
+    m_registry.find<ICameraStreamControlService>()->stopAllAcquisitionsAndRecordings();
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(m_status->isAcquiringOrRecording(m_first));
+    m_pool.recordings()->end(m_first.data());
+    EXPECT_FALSE(m_status->isAcquiringOrRecording(m_first));
+}
+
+TEST_F(CameraPoolTest, ARecordingMayEndWhenItIsAskedTo)
+{
+    m_pool.recordings()->begin(m_first.data(),
+                               [this] { m_pool.recordings()->end(m_first.data()); });
+    m_registry.find<ICameraStreamControlService>()->stopAllAcquisitionsAndRecordings();
+    EXPECT_FALSE(m_status->isAcquiringOrRecording(m_first));
+}
+
+TEST_F(CameraPoolTest, CamerasTellOfEachChangeOfTheirState)
+{
+    QStringList told;
+    const auto note = [&] {
+        told.append(!m_first->isOpen()      ? QStringLiteral("closed")
+                    : m_first->isGrabbing() ? QStringLiteral("grabbing")
+                                            : QStringLiteral("open"));
+    };
+    QObject::connect(m_first.data(), &HostCamera::stateChanged, note);
+    m_pool.open(m_first);
+    m_pool.open(m_first);
+    m_first->startGrabbing();
+    m_first->stopGrabbing();
+    m_first->stopGrabbing();
+    m_first->close();
+    m_first->close();
+    EXPECT_EQ(told, (QStringList{QStringLiteral("open"), QStringLiteral("grabbing"),
+                                 QStringLiteral("open"), QStringLiteral("closed")}));
+}
+
 TEST_F(CameraPoolTest, NullCamerasAreRefused)
 {
     EXPECT_FALSE(m_status->isCameraOpen({}));
