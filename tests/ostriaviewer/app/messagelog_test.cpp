@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Messages reach the user whole and in order, and can be filtered and copied.
+#include "animations.h"
 #include "messagelogpanel.h"
 #include "messagelogservice.h"
 
@@ -23,6 +24,8 @@ using namespace Core::Logging;
 class MessageLogTest : public testing::Test
 {
 protected:
+    ~MessageLogTest() override { waitForAnimations(m_panel); }
+
     int shownRows() { return m_panel.findChild<QTreeView*>("messages")->model()->rowCount(); }
 
     MessageLogModel m_model;

@@ -2,7 +2,9 @@
 // Settings survive, whoever wrote them.
 #include "viewersettings.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <gtest/gtest.h>
@@ -22,6 +24,7 @@ protected:
     void write(const QByteArray& content) const
     {
         QSettings().sync();
+        QDir().mkpath(QFileInfo(m_file).path());
         QFile file(m_file);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(m_file);
         file.write(content);

@@ -2,6 +2,7 @@
 // What tests of the viewer's window share: a viewer with two small cameras, and real clicks.
 #pragma once
 
+#include "animations.h"
 #include "emulationtest.h"
 #include "viewerapplication.h"
 
@@ -37,6 +38,12 @@ protected:
             Cameras::Emulation::smallModel(Cameras::Emulation::FeatureNames::FirstGeneration);
         m_first = makeCamera(Cameras::Emulation::smallModel());
         m_second = makeCamera(second);
+    }
+
+    ~ViewerTest() override
+    {
+        if (m_viewer)
+            waitForAnimations(window());
     }
 
     void startViewer(const QString& pluginFolder = {}, const QString& camera = {})
