@@ -6,6 +6,19 @@
 
 namespace {
 
+std::string nameOf(const testing::TestParamInfo<Cameras::Emulation::FeatureNames>& names)
+{
+    switch (names.param) {
+    case Cameras::Emulation::FeatureNames::FirstGeneration:
+        return "FirstGeneration";
+    case Cameras::Emulation::FeatureNames::SecondGeneration:
+        return "SecondGeneration";
+    case Cameras::Emulation::FeatureNames::SecondGenerationMaker:
+        return "SecondGenerationMaker";
+    }
+    return {};
+}
+
 class Finish : public WizardRun,
                public testing::WithParamInterface<Cameras::Emulation::FeatureNames>
 {
@@ -84,7 +97,8 @@ TEST_P(Finish, LeavesTheCalibratedValuesInTheCamera)
 INSTANTIATE_TEST_SUITE_P(WizardRun, Finish,
                          testing::Values(Cameras::Emulation::FeatureNames::FirstGeneration,
                                          Cameras::Emulation::FeatureNames::SecondGeneration,
-                                         Cameras::Emulation::FeatureNames::SecondGenerationMaker));
+                                         Cameras::Emulation::FeatureNames::SecondGenerationMaker),
+                         nameOf);
 
 class FinishTwice : public Finish
 {};
@@ -113,6 +127,7 @@ TEST_P(FinishTwice, CancellingTheSecondRunKeepsTheFirst)
 }
 
 INSTANTIATE_TEST_SUITE_P(WizardRun, FinishTwice,
-                         testing::Values(Cameras::Emulation::FeatureNames::SecondGeneration));
+                         testing::Values(Cameras::Emulation::FeatureNames::SecondGeneration),
+                         nameOf);
 
 } // namespace
