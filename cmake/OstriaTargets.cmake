@@ -67,9 +67,9 @@ endif()
 
 # A GoogleTest program; each of its tests becomes one ctest entry. The label "realtime" keeps its
 # tests out of runs under sanitizers, SERIAL lets each run alone, DISPLAY gives each a screen and
-# settings of its own, for programs that open windows.
+# settings of its own, for programs that open windows, LOOPBACK a network of its own.
 function(ostria_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY" ""
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY;LOOPBACK" ""
         "SOURCES;DEPS;LABELS;ENVIRONMENT")
     _ostria_check_arguments(arg)
     if(NOT arg_LABELS)
@@ -92,6 +92,10 @@ function(ostria_add_test name)
             CROSSCOMPILING_EMULATOR "${PROJECT_SOURCE_DIR}/scripts/with-display")
     else()
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
+    endif()
+    if(arg_LOOPBACK)
+        set_target_properties(${name} PROPERTIES
+            CROSSCOMPILING_EMULATOR "${PROJECT_SOURCE_DIR}/scripts/with-loopback")
     endif()
     gtest_discover_tests(${name}
         DISCOVERY_TIMEOUT 120

@@ -27,6 +27,14 @@ LAYERS = {
         "src/ostriaviewer/cameras/emulation/renderer",
     ],
     "src/ostriaviewer/cameras/emulation/renderer": ["src/ostria"],
+    "src/ostriaviewer/cameras/emulation/served": [
+        "src/ostria",
+        "src/ostriaviewer/core",
+        "src/ostriaviewer/cameras/genicam",
+        "src/ostriaviewer/cameras/pool",
+        "src/ostriaviewer/cameras/emulation",
+        "src/ostriaviewer/cameras/emulation/renderer",
+    ],
     "src/ostriaviewer/app": [
         "src/ostria",
         "src/ostriaviewer/core",

@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<int>(size));
     try {
         const auto saved = ColorCalibrate::parseResults(bytes, QStringLiteral("fuzz"));
-        const QString html = ColorCalibration::BuildHtml(saved.camera, saved.results,
+        const QString html = ColorCalibration::BuildHtml(saved.model, saved.results,
                                                          QDateTime::fromSecsSinceEpoch(0, Qt::UTC));
         if (!html.startsWith(QStringLiteral("<!DOCTYPE html>")) ||
             !html.endsWith(QStringLiteral("</body></html>")) ||

@@ -33,6 +33,7 @@ namespace {
 struct Report
 {
     QString camera;
+    QString model;
     QString sfnc;
     SequenceResult result;
     CalibrationSettings settings;
@@ -45,6 +46,7 @@ void addOptions(CommandLine& line)
     line.addOption(QStringLiteral("camera"),
                    QStringLiteral("The camera's name, as \"colorcalibrate list\" shows it."),
                    QStringLiteral("name"));
+    addCameraOptions(line);
     line.addOption(QStringLiteral("grid"),
                    QStringLiteral("The chart's corners in image pixels, \"x,y x,y x,y x,y\": upper "
                                   "left, upper right, lower left, lower right; or \"auto\", the "
@@ -89,9 +91,10 @@ SequenceOptions readOptions(const CommandLine& line)
 
 ToolCameras makeCameras(const CommandLine& line)
 {
+    const CameraSelection selection = readCameraOptions(line);
     if (!line.isSet(QStringLiteral("scene")))
-        return ToolCameras();
-    return ToolCameras(readScene(line.value(QStringLiteral("scene"))));
+        return ToolCameras({}, selection);
+    return ToolCameras(readScene(line.value(QStringLiteral("scene"))), selection);
 }
 
 /// The support test can be made on an open camera alone.
@@ -123,6 +126,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
 {
     Report report;
     report.camera = camera->displayName();
+    report.model = camera->modelName();
     SettingsGuard guard(camera);
     requireSupported(cameras, camera);
     resolveUserSet(camera, saving);
@@ -172,6 +176,7 @@ QJsonObject toJson(const Report& report)
 {
     QJsonObject json = settingsJson(report.settings);
     json.insert(QStringLiteral("camera"), report.camera);
+    json.insert(QStringLiteral("model"), report.model);
     json.insert(QStringLiteral("sfnc"), report.sfnc);
     json.insert(QStringLiteral("grid"), gridJson(report.result.grid));
     json.insert(QStringLiteral("before"), deltasJson(report.before));
@@ -196,14 +201,17 @@ void writeText(std::ostream& out, const Report& report)
 void calibrateCommand(const QStringList& arguments, const Streams& streams)
 {
     CommandLine line(
-        QStringLiteral("calibrate --camera NAME [options]"),
+        QStringLiteral("calibrate --camera NAME | --address IP [options]"),
         QStringLiteral("Calibrates a camera that looks at the chart, and prints how far each patch "
                        "was off\nbefore and after. On failure and on Ctrl-C the camera's settings "
                        "are restored."));
     addOptions(line);
     if (!line.parse(arguments, 0, streams.out))
         return;
-    const QString name = line.requiredValue(QStringLiteral("camera"));
+    // An address is enough: there is one camera then.
+    const QString name = line.isSet(QStringLiteral("address"))
+                             ? line.value(QStringLiteral("address"))
+                             : line.requiredValue(QStringLiteral("camera"));
     const SequenceOptions options = readOptions(line);
     const SavingOptions saving = readSavingOptions(line);
     const ToolCameras cameras = makeCameras(line);

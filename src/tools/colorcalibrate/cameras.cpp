@@ -3,17 +3,23 @@
 #include "cameras.h"
 
 #include "command.h"
+#include "discovery.h"
 #include "emulatedcamera.h"
+#include "genicamcamera.h"
 #include "imagefile.h"
 
 #include <QStringList>
 
 using Cameras::HostCameraPtr;
 using Cameras::Emulation::Scene;
+using Cameras::GenICam::GenicamCamera;
+using Cameras::GenICam::TransportSettings;
 
 namespace ColorCalibrate {
 
-ToolCameras::ToolCameras(const std::optional<Scene>& scene)
+namespace {
+
+QList<HostCameraPtr> emulatedCameras(const std::optional<Scene>& scene)
 {
     Cameras::Emulation::EmulationOptions options;
     if (scene)
@@ -21,11 +27,42 @@ ToolCameras::ToolCameras(const std::optional<Scene>& scene)
     QList<HostCameraPtr> cameras;
     for (const Cameras::Emulation::CameraModel& model : Cameras::Emulation::everydayModels())
         cameras.append(Cameras::Emulation::EmulatedCamera::create(model, options));
+    return cameras;
+}
+
+QList<HostCameraPtr> realCameras(const CameraSelection& selection)
+{
+    TransportSettings settings;
+    settings.packetSize = selection.packetSize;
+    settings.interfaces = selection.interfaces;
+    if (!selection.address.isEmpty())
+        return {GenicamCamera::create(Cameras::GenICam::cameraAt(selection.address), settings)};
+    QList<HostCameraPtr> cameras;
+    if (selection.isLooking)
+        for (const auto& identity :
+             Cameras::GenICam::findNetworkCameras(settings) + Cameras::GenICam::findUsbCameras())
+            cameras.append(GenicamCamera::create(identity, settings));
+    return cameras;
+}
+
+} // namespace
+
+ToolCameras::ToolCameras(const std::optional<Scene>& scene, const CameraSelection& selection)
+{
+    QList<HostCameraPtr> cameras = realCameras(selection);
+    if (selection.hasEmulated)
+        cameras = emulatedCameras(scene) + cameras;
     m_pool = std::make_unique<Cameras::CameraPool>(cameras);
     m_pool->registerServices(m_registry);
 }
 
 ToolCameras::~ToolCameras() = default;
+
+QString ToolCameras::backendOf(const HostCameraPtr& camera)
+{
+    return camera.dynamicCast<GenicamCamera>() ? QStringLiteral("genicam")
+                                               : QStringLiteral("emulation");
+}
 
 HostCameraPtr ToolCameras::find(const QString& name) const
 {
@@ -35,6 +72,8 @@ HostCameraPtr ToolCameras::find(const QString& name) const
             return camera;
         names.append(QStringLiteral("\"%1\"").arg(camera->displayName()));
     }
+    if (names.isEmpty())
+        throw CommandError(QStringLiteral("there is no camera \"%1\"; none was found").arg(name));
     throw CommandError(QStringLiteral("there is no camera \"%1\"; there are %2")
                            .arg(name, names.join(QStringLiteral(", "))));
 }

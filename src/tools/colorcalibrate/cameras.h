@@ -2,6 +2,7 @@
 // The cameras that the tool can see, with the services around them.
 #pragma once
 
+#include "backends.h"
 #include "camerapool.h"
 #include "scene.h"
 
@@ -15,11 +16,16 @@ namespace ColorCalibrate {
 class ToolCameras
 {
 public:
+    /// Takes a second where cameras are to be looked for.
     /// \param scene  what the emulated cameras see, the chart if missing
-    explicit ToolCameras(const std::optional<Cameras::Emulation::Scene>& scene = {});
+    explicit ToolCameras(const std::optional<Cameras::Emulation::Scene>& scene = {},
+                         const CameraSelection& selection = {});
     ~ToolCameras();
 
     const QList<Cameras::HostCameraPtr>& all() const { return m_pool->cameras(); }
+
+    /// "emulation" or "genicam".
+    static QString backendOf(const Cameras::HostCameraPtr& camera);
 
     /// A camera by its display name or its model name.
     /// \throws CommandError  there is none; the message names those that there are

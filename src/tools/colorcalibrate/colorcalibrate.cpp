@@ -8,6 +8,7 @@
 #include "listcommand.h"
 #include "measurecommand.h"
 #include "reportcommand.h"
+#include "servecommand.h"
 
 #include <algorithm>
 #include <array>
@@ -25,13 +26,14 @@ struct Subcommand
     void (*run)(const QStringList& arguments, const Streams& streams);
 };
 
-constexpr std::array<Subcommand, 6> subcommands{{
+constexpr std::array<Subcommand, 7> subcommands{{
     {"calibrate", "the full calibration of a camera", calibrateCommand},
     {"compute", "camera settings from 24 measured patch colors", computeCommand},
     {"find", "the corners of the chart in an image", findCommand},
     {"list", "the cameras that can be seen", listCommand},
     {"measure", "the 24 patch colors of an image of the chart", measureCommand},
     {"report", "the report of an earlier calibration, again", reportCommand},
+    {"serve", "an emulated camera as a GigE Vision device", serveCommand},
 }};
 
 void writeHelp(std::ostream& out)

@@ -36,7 +36,7 @@ ListedCamera describe(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
         camera->modelName(),
         parameters ? parameters->sfncVersion().toString() : QString(),
         ColorCalibration::isCameraSupported(camera, cameras.parameterService()),
-        QStringLiteral("emulation"),
+        ToolCameras::backendOf(camera),
         isOpen ? QString() : camera->lastErrorText()};
     if (!wasOpen)
         camera->close();
@@ -67,19 +67,23 @@ void listCommand(const QStringList& arguments, const Streams& streams)
     CommandLine line(QStringLiteral("list [options]"),
                      QStringLiteral("Lists the cameras that can be seen, and whether they can be "
                                     "calibrated."));
+    addCameraOptions(line);
     line.addFlag(QStringLiteral("json"),
                  QStringLiteral("Print [{\"name\", \"model\", \"sfnc\", \"supported\", "
                                 "\"backend\"}, ...]."));
     if (!line.parse(arguments, 0, streams.out))
         return;
 
-    const ToolCameras cameras;
+    const CameraSelection selection = readCameraOptions(line);
+    const ToolCameras cameras({}, selection);
     QJsonArray array;
     std::string rows = QStringLiteral("%1 SFNC    Supported  Backend\n")
                            .arg(QStringLiteral("Name"), -40)
                            .toStdString();
     for (const Cameras::HostCameraPtr& camera : cameras.all()) {
         const ListedCamera listed = describe(cameras, camera);
+        if (listed.sfnc.isEmpty() && !selection.address.isEmpty())
+            throw CommandError(camera->lastErrorText());
         array.append(toJson(listed));
         rows += toRow(listed);
         if (!listed.problem.isEmpty())

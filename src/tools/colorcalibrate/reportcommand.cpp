@@ -32,9 +32,9 @@ void reportCommand(const QStringList& arguments, const Streams& streams)
     const QString directory = line.requiredValue(QStringLiteral("out"));
     const QString fileName = line.positional(0);
     const SavedResults saved = parseResults(readResultsText(fileName), fileName);
-    const QString camera =
-        line.isSet(QStringLiteral("camera")) ? line.value(QStringLiteral("camera")) : saved.camera;
-    if (camera.isEmpty())
+    const QString model =
+        line.isSet(QStringLiteral("camera")) ? line.value(QStringLiteral("camera")) : saved.model;
+    if (model.isEmpty())
         throw CommandError(
             QStringLiteral("%1 does not name the camera; do so with --camera MODEL").arg(fileName),
             WrongUsage);
@@ -42,10 +42,10 @@ void reportCommand(const QStringList& arguments, const Streams& streams)
     const FailureLog log;
     const QDateTime now = QDateTime::currentDateTime();
     const QString report = ColorCalibration::MakeOutputFolder(
-                               directory, QStringLiteral("Calibration_Report"), camera, now) +
+                               directory, QStringLiteral("Calibration_Report"), model, now) +
                            QStringLiteral("/calibration_report.html");
     if (!ColorCalibration::WriteTextFile(report,
-                                         ColorCalibration::BuildHtml(camera, saved.results, now)))
+                                         ColorCalibration::BuildHtml(model, saved.results, now)))
         throw CommandError(
             QStringLiteral("the report could not be written (%1)").arg(log.lastFailure()));
     streams.out << report.toStdString() << "\n";

@@ -49,7 +49,8 @@ SavedResults parseResults(const QByteArray& text, const QString& name)
     const QJsonObject object = document.object();
     SavedResults saved;
     if (object.contains(QStringLiteral("results"))) {
-        saved.camera = object.value(QStringLiteral("camera")).toString();
+        saved.model = object.value(QStringLiteral("model"))
+                          .toString(object.value(QStringLiteral("camera")).toString());
         saved.results = object.value(QStringLiteral("results")).toObject();
     } else {
         saved.results = object;

@@ -10,7 +10,7 @@ namespace ColorCalibrate {
 
 struct SavedResults
 {
-    QString camera; ///< empty where the file holds the results object alone
+    QString model; ///< of the camera; empty where the file holds the results object alone
     QJsonObject results;
 };
 

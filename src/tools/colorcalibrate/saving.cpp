@@ -5,11 +5,21 @@
 #include "failurelog.h"
 #include "iparametercollection.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStringList>
 
 namespace ColorCalibrate {
 namespace {
+
+/// The path itself, or what exists nearest above it.
+QFileInfo nearestExisting(const QString& path)
+{
+    QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    while (!info.exists() && !info.isRoot())
+        info.setFile(info.absolutePath());
+    return info;
+}
 
 /// A folder that does not exist yet is made when something is saved.
 QString writableFolder(const CommandLine& line, const QString& option)
@@ -19,12 +29,13 @@ QString writableFolder(const CommandLine& line, const QString& option)
     const QString folder = line.value(option);
     if (folder.isEmpty())
         throw CommandError(QStringLiteral("--%1 wants a folder").arg(option), WrongUsage);
-    const QFileInfo info(folder);
-    if (info.exists() && !info.isDir())
-        throw CommandError(QStringLiteral("--%1: \"%2\" is no folder").arg(option, folder));
-    if (info.exists() && !info.isWritable())
-        throw CommandError(QStringLiteral("--%1: \"%2\" cannot be written to").arg(option, folder));
-    return info.absoluteFilePath();
+    const QFileInfo info = nearestExisting(folder);
+    const QString place = info.absoluteFilePath();
+    if (!info.isDir())
+        throw CommandError(QStringLiteral("--%1: \"%2\" is no folder").arg(option, place));
+    if (!info.isWritable())
+        throw CommandError(QStringLiteral("--%1: \"%2\" cannot be written to").arg(option, place));
+    return QFileInfo(folder).absoluteFilePath();
 }
 
 void attempt(QStringList& failures, const QString& what, const std::function<bool()>& save)

@@ -53,13 +53,21 @@ TEST_F(ReportCommand, MakesTheReportOfAResultsObject)
 TEST_F(ReportCommand, TakesTheCameraFromWhatCalibratePrinted)
 {
     const Outcome outcome =
-        report(R"({"camera":"Camera 7","sfnc":"2.3.0","results":)" + smallest + "}");
+        report(R"({"camera":"Camera 7 no. 12","model":"Camera 7","sfnc":"2.3.0","results":)" +
+               smallest + "}");
     ASSERT_EQ(outcome.code, 0) << outcome.err;
     EXPECT_TRUE(textOf(outcome).contains(QStringLiteral("Calibration Report for Camera 7")));
     EXPECT_TRUE(QFileInfo(QString::fromStdString(outcome.out).trimmed())
                     .dir()
                     .dirName()
                     .startsWith(QStringLiteral("Calibration_Report_Camera 7_")));
+}
+
+TEST_F(ReportCommand, TakesTheCamerasNameWhereItsModelIsNotTold)
+{
+    const Outcome outcome = report(R"({"camera":"Camera 7 no. 12","results":)" + smallest + "}");
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_TRUE(textOf(outcome).contains(QStringLiteral("Calibration Report for Camera 7 no. 12")));
 }
 
 TEST_F(ReportCommand, AsksForACameraThatNobodyNamed)

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QPair>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <gmock/gmock.h>
@@ -99,6 +101,30 @@ TEST_F(Saving, MakesTheFolderThatIsNamed)
     EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("Calibrated.cst")});
 }
 
+TEST_F(Saving, TheReportComesAgainFromWhatWasPrinted)
+{
+    const Outcome outcome = calibrate({QStringLiteral("--save-summary"), folder.path()});
+    ASSERT_EQ(outcome.code, 0) << outcome.err;
+    const auto onlyReport = [](const QString& directory) {
+        const QStringList folders = QDir(directory).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        EXPECT_EQ(folders.size(), 1);
+        QFile file(directory + QLatin1Char('/') + folders.value(0) +
+                   QStringLiteral("/calibration_report.html"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        QString html = QString::fromUtf8(file.readAll());
+        html.remove(QRegularExpression(QStringLiteral("<div class=\"report-info\">.*</div>")));
+        return qMakePair(folders.value(0).section(QLatin1Char('_'), 0, 2), html);
+    };
+    const auto first = onlyReport(folder.path());
+    const QString again = path(QStringLiteral("again"));
+    const Outcome report =
+        runTool({QStringLiteral("report"),
+                 writeFile(QStringLiteral("results.json"), QByteArray::fromStdString(outcome.out)),
+                 QStringLiteral("--out"), again});
+    ASSERT_EQ(report.code, 0) << report.err;
+    EXPECT_EQ(onlyReport(again), first);
+}
+
 TEST_F(Saving, TellsTheResultsObject)
 {
     const Outcome outcome = calibrate({});
@@ -155,19 +181,22 @@ TEST_F(Saving, RefusesFoldersItCannotUseBeforeItTouchesTheCamera)
     const Outcome outcome = calibrate({QStringLiteral("--save-summary"), file.fileName()});
     EXPECT_EQ(outcome.code, WorkFailed);
     EXPECT_THAT(outcome.err, HasSubstr("is no folder"));
+    const Outcome below = calibrate(
+        {QStringLiteral("--save-settings"), file.fileName() + QStringLiteral("/new/below")});
+    EXPECT_EQ(below.code, WorkFailed);
+    EXPECT_THAT(below.err, HasSubstr("file\" is no folder"));
     EXPECT_EQ(calibrate({QStringLiteral("--default")}).code, WrongUsage);
     EXPECT_EQ(calibrate({QStringLiteral("--save-settings"), QString()}).code, WrongUsage);
 }
 
 TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
 {
-    QFile file(path(QStringLiteral("file")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    // No file system takes a name as long.
     const Outcome outcome = calibrate(
-        {QStringLiteral("--save-settings"), file.fileName() + QStringLiteral("/below"),
+        {QStringLiteral("--save-settings"), path(QString(5000, QLatin1Char('x'))),
          QStringLiteral("--user-set"), QStringLiteral("UserSet3"), QStringLiteral("--default")});
     EXPECT_EQ(outcome.code, WorkFailed);
     EXPECT_THAT(outcome.err, HasSubstr("the camera is calibrated and stays so"));
-    EXPECT_THAT(outcome.err, HasSubstr("file/below"));
+    EXPECT_THAT(outcome.err, HasSubstr("xxx (Cannot write the file"));
     EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
 }

@@ -21,10 +21,13 @@
 namespace Cameras::Emulation {
 namespace {
 
-std::shared_ptr<const FeatureTable> tableOf(const CameraModel& model, const QStringList& missing)
+std::shared_ptr<const FeatureTable> tableOf(const CameraModel& model,
+                                            const EmulationOptions& options)
 {
     auto table = std::make_shared<FeatureTable>(modelFeatures(model));
-    table->remove(missing);
+    if (options.hasTransport)
+        addTransportFeatures(*table);
+    table->remove(options.missingFeatures);
     return table;
 }
 
@@ -61,7 +64,7 @@ QSharedPointer<EmulatedCamera> EmulatedCamera::create(const CameraModel& model,
 EmulatedCamera::EmulatedCamera(const CameraModel& model, const EmulationOptions& options)
     : m_model(model)
     , m_options(options)
-    , m_store(std::make_shared<RegisterStore>(tableOf(model, options.missingFeatures)))
+    , m_store(std::make_shared<RegisterStore>(tableOf(model, options)))
     , m_scene(options.scene)
 {}
 
@@ -125,11 +128,15 @@ bool EmulatedCamera::openDevice()
     return m_device != nullptr;
 }
 
+std::string EmulatedCamera::description() const
+{
+    return describe(m_model.name, *m_store->table(), m_store->layout());
+}
+
 std::shared_ptr<EmulatedCamera::Device> EmulatedCamera::makeDevice()
 {
     startUserSets(*m_store, UserSets(m_store->table(), settingsFile(m_model, m_options)));
-    const auto nodeMap = GenICam::NodeMap::create(
-        m_store, describe(m_model.name, *m_store->table(), m_store->layout()));
+    const auto nodeMap = GenICam::NodeMap::create(m_store, description());
     m_isSceneNew = false;
     return std::make_shared<Device>(
         Device{nodeMap, GenICam::createParameterCollection(nodeMap, m_model.name),

@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <mutex>
+#include <string>
 
 namespace Cameras::Emulation {
 
@@ -25,6 +26,7 @@ struct EmulationOptions
     QString settingsFolder;      ///< for the user sets; empty: the application's data folder
     QStringList missingFeatures; ///< features that this camera is to be without
     Scene scene = Scene();       ///< what stands before the camera
+    bool hasTransport = false;   ///< with the features that a client needs to ask for images
 };
 
 /// An emulated camera: a GenICam description over registers, and a renderer that turns the values
@@ -57,6 +59,10 @@ public:
     Core::ParameterCollection::ParameterCollectionPtr parameterCollection() override;
 
     const CameraModel& model() const { return m_model; }
+
+    /// For whoever serves the camera: its registers, and the description of them.
+    const std::shared_ptr<RegisterStore>& registers() const { return m_store; }
+    std::string description() const;
 
     /// Puts another scene before the camera, effective with the next frame.
     void setScene(const Scene& scene);

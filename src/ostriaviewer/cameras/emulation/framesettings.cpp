@@ -197,6 +197,14 @@ Ostria::COstriaImage toMosaic(const Ostria::COstriaImage& rgb, PixelType type)
     return mosaic;
 }
 
+qint64 payloadSize(const FeatureValues& values)
+{
+    const Ostria::PixelTypeInfo* info = Ostria::pixelTypeInfo(wantedPixelType(values));
+    const double pixels =
+        values.value(QStringLiteral("Width")) * values.value(QStringLiteral("Height"));
+    return info ? static_cast<qint64>(pixels * info->bitsPerPixel / 8.0) : 0;
+}
+
 std::chrono::microseconds exposureTime(const FeatureValues& values)
 {
     return std::chrono::microseconds(

@@ -25,6 +25,9 @@ bool isProcessedRaw(const FeatureValues& values);
 /// \throws std::invalid_argument  the image is not RGB8, or the type is another
 Ostria::COstriaImage toMosaic(const Ostria::COstriaImage& rgb, Ostria::PixelType type);
 
+/// Bytes of a frame.
+qint64 payloadSize(const FeatureValues& values);
+
 /// How long the sensor takes light.
 std::chrono::microseconds exposureTime(const FeatureValues& values);
 

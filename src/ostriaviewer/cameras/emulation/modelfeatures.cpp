@@ -131,4 +131,18 @@ void addUserSetFeatures(FeatureTable& table)
     table.enumeration(QStringLiteral("UserSetDefault"), sets).notSaved();
 }
 
+void addTransportFeatures(FeatureTable& table)
+{
+    constexpr double largestPayload = 1e9;
+    table.beginCategory(QStringLiteral("AcquisitionControl"));
+    table
+        .enumeration(QStringLiteral("AcquisitionMode"),
+                     {QStringLiteral("Continuous"), QStringLiteral("SingleFrame")})
+        .lockedBy(whileAcquiring());
+    table.command(QStringLiteral("AcquisitionStart"));
+    table.command(QStringLiteral("AcquisitionStop"));
+    table.beginCategory(QStringLiteral("TransportLayerControl"));
+    table.integer(QStringLiteral("PayloadSize"), 0, {0.0}, {largestPayload}).readOnly();
+}
+
 } // namespace Cameras::Emulation

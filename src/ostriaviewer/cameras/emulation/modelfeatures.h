@@ -18,6 +18,10 @@ void addAnalogFeatures(FeatureTable& table, const CameraModel& model);
 void addColorFeatures(FeatureTable& table, const CameraModel& model);
 void addUserSetFeatures(FeatureTable& table);
 
+/// What a client of a transport layer needs to ask for images: acquisition mode, start, stop, and
+/// the size of an image. They lie behind all others, which keep their registers.
+void addTransportFeatures(FeatureTable& table);
+
 /// While this holds, images are being taken.
 Condition whileAcquiring();
 

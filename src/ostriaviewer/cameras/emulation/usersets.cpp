@@ -71,7 +71,10 @@ void UserSets::read()
     QFile file(m_file);
     if (!file.open(QIODevice::ReadOnly) || file.size() > longest)
         return;
-    const QJsonObject root = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    if (!document.isObject())
+        return;
+    const QJsonObject root = document.object();
     m_sets = root.value(setsKey).toObject();
     const QString startUp = root.value(startUpKey).toString();
     const FeatureDefinition* choice = m_table->find(startUpKey);
@@ -109,6 +112,8 @@ void UserSets::save(const QString& set, const FeatureValues& values)
         if (isSaved(feature) && now != cells(feature, factory))
             stored.insert(feature.name, now);
     }
+    // Another program may have saved other sets meanwhile.
+    read();
     QJsonObject sets = m_sets;
     sets.insert(set, stored);
     write(sets, m_startUpSet);
@@ -116,6 +121,7 @@ void UserSets::save(const QString& set, const FeatureValues& values)
 
 void UserSets::setStartUpSet(const QString& set)
 {
+    read();
     write(m_sets, set);
 }
 

@@ -70,8 +70,7 @@ public:
         const int tab = line.indexOf(QLatin1Char('\t'));
         const QStringRef name = tab < 0 ? line : line.left(tab);
         if (tab < 0)
-            m_errors.add(number,
-                         QStringLiteral("\"%1\" has no tab and no value.").arg(shown(name)));
+            passOver(number, line);
         else if (const Feature* feature = find(name))
             apply(number, *feature, line.mid(tab + 1).toString());
         else
@@ -95,6 +94,21 @@ private:
         return feature.isEmpty() ? nullptr : &*m_features.insert(key, feature);
     }
 
+    /// A line without a value may have been a selector's.
+    void passOver(int number, const QStringRef& line)
+    {
+        m_errors.add(number, QStringLiteral("\"%1\" has no tab and no value.").arg(shown(line)));
+        const QStringRef words = line.trimmed();
+        if (const Feature* feature = find(words.left(words.indexOf(QLatin1Char(' ')))))
+            lose(m_map.tree().indexOf(feature->name()));
+    }
+
+    void lose(int index)
+    {
+        if (index >= 0)
+            m_lostSelectors.insert(index);
+    }
+
     void apply(int number, const Feature& feature, const QString& value)
     {
         m_map.requireConnection();
@@ -107,8 +121,7 @@ private:
             m_map.requireConnection();
             m_errors.add(number, QString::fromStdString(refusal.what()));
             m_hasRefusals = true;
-            if (index >= 0)
-                m_lostSelectors.insert(index);
+            lose(index);
         }
     }
 

@@ -21,6 +21,11 @@ bool GErrorSlot::isTimeout() const
     return g_error_matches(m_error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT) != FALSE;
 }
 
+bool GErrorSlot::isAboutDescription() const
+{
+    return g_error_matches(m_error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_GENICAM_NOT_FOUND) != FALSE;
+}
+
 QString GErrorSlot::reason() const
 {
     QString text = m_error ? QString::fromUtf8(m_error->message) : QString();

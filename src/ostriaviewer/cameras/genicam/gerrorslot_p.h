@@ -28,6 +28,9 @@ public:
     /// Whether a device did not answer in time.
     bool isTimeout() const;
 
+    /// Whether a device's description cannot be read or understood.
+    bool isAboutDescription() const;
+
     /// The reason, without the names of the nodes that it came through.
     QString reason() const;
 

@@ -24,8 +24,15 @@ QString stringValue(const Feature& feature)
 void setString(const Feature& feature, const QString& text)
 {
     feature.requireWritable();
+    const QByteArray bytes = text.toUtf8();
+    GErrorSlot lengthError;
+    const gint64 longest = arv_gc_string_get_max_length(ARV_GC_STRING(feature.node()), lengthError);
+    feature.check(lengthError);
+    // Aravis would cut it off, and say nothing.
+    if (longest > 0 && bytes.size() > longest)
+        feature.fail(QStringLiteral("the text is longer than %1 bytes").arg(longest));
     GErrorSlot error;
-    arv_gc_string_set_value(ARV_GC_STRING(feature.node()), text.toUtf8().constData(), error);
+    arv_gc_string_set_value(ARV_GC_STRING(feature.node()), bytes.constData(), error);
     feature.check(error);
 }
 

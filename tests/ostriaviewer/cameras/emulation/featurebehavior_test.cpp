@@ -3,6 +3,8 @@
 #include "emulationtest.h"
 #include "genicamexception.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 #include <limits>
 
@@ -44,6 +46,25 @@ protected:
     {
         floating(name)->setValue(value);
         return floating(name)->value();
+    }
+    /// Another value that the feature takes now; the same where there is none.
+    QString otherValue(const QString& name, const QString& value)
+    {
+        if (const auto choice = m_features->enumerationParameter(name); !choice->isEmpty()) {
+            for (const auto& entry : choice->entries())
+                if (entry.isSettable && entry.name != value)
+                    return entry.name;
+            return value;
+        }
+        const auto otherOf = [&value](double minimum, double maximum) {
+            return QString::number(value.toDouble() == minimum ? maximum : minimum, 'g', 17);
+        };
+        if (const auto number = m_features->floatParameter(name); !number->isEmpty())
+            return otherOf(number->minimum(), number->maximum());
+        if (const auto integer = m_features->integerParameter(name); !integer->isEmpty())
+            return otherOf(static_cast<double>(integer->minimum()),
+                           static_cast<double>(integer->maximum()));
+        return value == QLatin1String("0") ? QStringLiteral("1") : QStringLiteral("0");
     }
     QString saved()
     {
@@ -238,6 +259,46 @@ TEST_F(FeatureBehavior, SavedSettingsBringEverythingBack)
         m_features->loadFeatures(between, errors, QStringLiteral("@CameraDevice"));
         EXPECT_EQ(errors.toStdString(), "");
         EXPECT_EQ(saved(), between);
+    }
+}
+
+TEST_F(FeatureBehavior, SavedSettingsBringEveryFeatureBack)
+{
+    const auto isSelector = [](const QString& name) {
+        return name.endsWith(QLatin1String("Selector")) || name == QLatin1String("LUTIndex");
+    };
+    for (const FeatureNames names : {FeatureNames::FirstGeneration, FeatureNames::SecondGeneration,
+                                     FeatureNames::SecondGenerationMaker}) {
+        open(names);
+        const QString before = saved();
+        QStringList alone; // features with a single value
+        QString errors;
+        for (const QString& line : before.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+            const QString name = line.section(QLatin1Char('\t'), 0, 0);
+            if (name.startsWith(QLatin1Char('#')))
+                continue;
+            const QString value = line.section(QLatin1Char('\t'), 1);
+            const QString next = isSelector(name) ? value : otherValue(name, value);
+            if (next == value)
+                alone.append(line);
+            m_features->loadFeatures(name + QLatin1Char('\t') + next, errors,
+                                     QStringLiteral("@CameraDevice"));
+        }
+        const QStringList now = saved().split(QLatin1Char('\n'));
+        QStringList kept;
+        for (const QString& line : before.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+            const QString name = line.section(QLatin1Char('\t'), 0, 0);
+            if (!name.startsWith(QLatin1Char('#')) && !alone.contains(line) && now.contains(line))
+                kept.append(line);
+        }
+        EXPECT_EQ(kept.join(QLatin1Char('\n')).toStdString(), "") << "not changed";
+        EXPECT_LT(
+            alone.filter(QRegularExpression(QStringLiteral("^(?!.*Selector\t|LUTIndex)"))).size(),
+            4);
+
+        m_features->loadFeatures(before, errors, QStringLiteral("@CameraDevice"));
+        EXPECT_EQ(errors.toStdString(), "");
+        EXPECT_EQ(saved().toStdString(), before.toStdString());
     }
 }
 

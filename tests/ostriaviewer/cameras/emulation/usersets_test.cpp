@@ -143,6 +143,30 @@ TEST_F(UserSetsTest, TwoModelsHaveTheirOwn)
     EXPECT_EQ(gain(*maker)->value(), 0.0);
 }
 
+TEST_F(UserSetsTest, TwoThatHaveOneCameraOpenDoNotUndoEachOther)
+{
+    const auto first = openCamera(smallModel());
+    const auto second = openCamera(smallModel());
+    gain(*second)->setValue(3.0);
+    save(*second, "UserSet1");
+    choose(*second, "UserSetDefault", "UserSet1");
+    gain(*first)->setValue(5.0);
+    save(*first, "UserSet2");
+
+    const auto third = openCamera(smallModel());
+    EXPECT_EQ(gain(*third)->value(), 3.0) << "the default that the second chose";
+    load(*third, "UserSet2");
+    EXPECT_EQ(gain(*third)->value(), 5.0);
+    load(*third, "UserSet1");
+    EXPECT_EQ(gain(*third)->value(), 3.0);
+
+    choose(*first, "UserSetDefault", "UserSet2");
+    const auto fourth = openCamera(smallModel());
+    EXPECT_EQ(gain(*fourth)->value(), 5.0);
+    load(*fourth, "UserSet1");
+    EXPECT_EQ(gain(*fourth)->value(), 3.0);
+}
+
 TEST_F(UserSetsTest, DamagedFilesHarmNothing)
 {
     for (const QByteArray& text :

@@ -142,6 +142,36 @@ TEST_F(FeatureStreamReader, KeepsValuesOfASelectorThatCouldNotBeSet)
     EXPECT_EQ(camera->floatParameter("BalanceRatio"_q)->value(), 2.0);
 }
 
+TEST_F(FeatureStreamReader, ASelectorWithoutAValueLosesWhatFollowsIt)
+{
+    for (const QString& broken : {"BalanceRatioSelector"_q, "BalanceRatioSelector Blue"_q,
+                                  "  BalanceRatioSelector  Blue"_q, "BalanceRatioSelector\t"_q}) {
+        camera->enumerationParameter("BalanceRatioSelector"_q)->setValue("Red"_q);
+        camera->floatParameter("BalanceRatio"_q)->setValue(1.0);
+        const QStringList errors =
+            load(broken + "\nBalanceRatio\t2\n"_q).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        ASSERT_EQ(errors.size(), 2) << broken.toStdString();
+        EXPECT_EQ(errors.last(),
+                  "Line 2: BalanceRatio: skipped, as BalanceRatioSelector could not be set."_q);
+        EXPECT_EQ(camera->floatParameter("BalanceRatio"_q)->value(), 1.0) << broken.toStdString();
+    }
+    EXPECT_EQ(load("BalanceRatioSelector\nBalanceRatioSelector\tBlue\nBalanceRatio\t3\n"_q)
+                  .count(QLatin1Char('\n')),
+              1)
+        << "the next one that has a value counts again";
+    EXPECT_EQ(camera->floatParameter("BalanceRatio"_q)->value(), 3.0);
+}
+
+TEST_F(FeatureStreamReader, ATextThatIsTooLongIsRefusedWhole)
+{
+    ASSERT_EQ(load("DeviceName\t0123456789abcdef\n"_q), QString());
+    const QString full = savedLines();
+    EXPECT_EQ(load("DeviceName\t0123456789abcdefg\n"_q),
+              "Line 1: DeviceName: the text is longer than 16 bytes.\n"_q);
+    EXPECT_NE(load("DeviceName\t0123456789abcd\u6821\n"_q), QString()) << "bytes count";
+    EXPECT_EQ(savedLines(), full);
+}
+
 TEST_F(FeatureStreamReader, GarbageHarmsNothing)
 {
     const auto registers = port->bytes();
@@ -167,6 +197,17 @@ TEST_F(FeatureStreamReader, KeepsTheListOfErrorsReadable)
     EXPECT_EQ(errors.count(QLatin1Char('\n')), 1001);
     EXPECT_TRUE(errors.endsWith("And 99000 more lines.\n"_q));
     EXPECT_LT(load(QString(1000, QChar(1))).size(), 100);
+}
+
+TEST_F(FeatureStreamReader, ReadsAMillionLines)
+{
+    QString many;
+    for (int index = 0; index < 500'000; ++index)
+        many += "# nothing\r\nNoSuch\t1\r\n"_q;
+    const QString errors = load(many + "Gain\t2.5\r\n"_q);
+    EXPECT_TRUE(errors.startsWith("Line 2: the camera has no feature \"NoSuch\".\nLine 4: "_q));
+    EXPECT_TRUE(errors.endsWith("And 499000 more lines.\n"_q));
+    EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 2.5);
 }
 
 TEST_F(FeatureStreamReader, ThrowsWhenTheConnectionIsLostOnTheWay)

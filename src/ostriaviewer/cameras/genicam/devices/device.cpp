@@ -3,11 +3,14 @@
 #include "device.h"
 
 #include "aside_p.h"
+#include "devicewatch_p.h"
 #include "genicamexception.h"
 #include "gerrorslot_p.h"
 
 #include <arv.h>
 
+#include <chrono>
+#include <future>
 #include <utility>
 #include <vector>
 
@@ -90,6 +93,9 @@ std::shared_ptr<Device> Device::open(const QString& id, const TransportSettings&
 {
     GErrorSlot error;
     ArvDevice* device = openDevice(id, error);
+    if (!device && error.isAboutDescription())
+        fail(QStringLiteral("The description of the camera \"%1\" cannot be used (%2).")
+                 .arg(id, error.reason()));
     if (!device)
         fail(QStringLiteral("The camera \"%1\" does not answer%2.")
                  .arg(id, error.isSet() ? QStringLiteral(" (%1)").arg(error.reason()) : QString()));
@@ -98,7 +104,12 @@ std::shared_ptr<Device> Device::open(const QString& id, const TransportSettings&
         fail(QStringLiteral("The camera is being used by another application."));
     }
     applySettings(device, settings);
-    return std::shared_ptr<Device>(new Device(device));
+    std::shared_ptr<Device> result(new Device(device));
+    result->m_watch = std::make_shared<DeviceWatch>(device, [weak = result->weak_from_this()] {
+        if (const auto self = weak.lock())
+            self->becomeLost();
+    });
+    return result;
 }
 
 Device::Device(ArvDevice* device)
@@ -109,11 +120,17 @@ Device::Device(ArvDevice* device)
 
 Device::~Device()
 {
+    constexpr std::chrono::milliseconds longestWait(500);
     g_signal_handlers_disconnect_by_data(m_device, this);
-    if (isLost())
-        runAside([device = m_device] { g_object_unref(device); });
-    else
-        g_object_unref(m_device);
+    const auto released = std::make_shared<std::promise<void>>();
+    m_watch->end();
+    runAside([device = m_device, watch = m_watch, released] {
+        watch->wait();
+        g_object_unref(device);
+        released->set_value();
+    });
+    if (!isLost())
+        released->get_future().wait_for(longestWait);
 }
 
 void Device::onControlLost(ArvDevice* /*device*/, Device* self)

@@ -17,8 +17,10 @@ typedef struct _ArvStream ArvStream;
 
 namespace Cameras::GenICam {
 
+class DeviceWatch;
+
 /// A camera that this program controls, as registers. Thread-safe.
-class Device final : public IRegisterPort
+class Device final : public IRegisterPort, public std::enable_shared_from_this<Device>
 {
 public:
     /// Takes control of a camera. Takes seconds if it does not answer.
@@ -58,6 +60,7 @@ private:
     void access(const Access& access);
 
     ArvDevice* const m_device;
+    std::shared_ptr<DeviceWatch> m_watch;
     mutable std::mutex m_accessMutex; // one access to the device at a time
     mutable std::mutex m_lostMutex;   // guards all below
     std::function<void()> m_lostHandler;

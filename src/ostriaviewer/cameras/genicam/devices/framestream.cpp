@@ -58,12 +58,12 @@ struct FrameStream::State
         , deadline(single ? Clock::now() + single->timeout : Clock::time_point::max())
     {}
 
-    ~State() { g_object_unref(stream); }
+    ~State() { release(); }
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
     const std::shared_ptr<Device> device;
-    ArvStream* const stream;
+    ArvStream* stream; ///< null once released; the mutex guards that
     const Deliver deliver;
     const std::optional<Single> single;
     const Clock::time_point deadline;
@@ -84,7 +84,33 @@ struct FrameStream::State
     void receive(ArvBuffer* buffer);
     void dropDamaged();
     void endAtDeadline();
+    bool giveBack(ArvBuffer* buffer);
+    void release();
 };
+
+/// \return  false if there is no stream any more
+bool FrameStream::State::giveBack(ArvBuffer* buffer)
+{
+    const std::lock_guard lock(mutex);
+    if (stream)
+        arv_stream_push_buffer(stream, buffer);
+    else
+        g_object_unref(buffer);
+    return stream != nullptr;
+}
+
+/// A stream that ends tells the camera to send nowhere, so it must have ended before the next one
+/// begins. Only while the thread does not wait for a buffer.
+void FrameStream::State::release()
+{
+    ArvStream* ended = nullptr;
+    {
+        const std::lock_guard lock(mutex);
+        ended = std::exchange(stream, nullptr);
+    }
+    if (ended)
+        g_object_unref(ended);
+}
 
 bool FrameStream::State::isWanted() const
 {
@@ -175,10 +201,12 @@ FrameStream::~FrameStream()
         const std::lock_guard lock(m_state->mutex);
         isDelivering = m_state->isDelivering;
     }
-    if (isDelivering || m_thread.get_id() == std::this_thread::get_id())
+    if (isDelivering || m_thread.get_id() == std::this_thread::get_id()) {
+        m_state->release();
         m_thread.detach();
-    else
+    } else {
         m_thread.join();
+    }
 }
 
 void FrameStream::run(const std::shared_ptr<State>& state)
@@ -193,7 +221,8 @@ void FrameStream::run(const std::shared_ptr<State>& state)
         if (!buffer)
             continue;
         state->receive(buffer);
-        arv_stream_push_buffer(state->stream, buffer);
+        if (!state->giveBack(buffer))
+            return;
     }
     if (state->single)
         state->endAtDeadline();
@@ -218,8 +247,8 @@ StreamStatistics FrameStream::statistics() const
     guint64 completed = 0;
     guint64 failures = 0;
     guint64 underruns = 0;
-    arv_stream_get_statistics(m_state->stream, &completed, &failures, &underruns);
     const std::lock_guard lock(m_state->mutex);
+    arv_stream_get_statistics(m_state->stream, &completed, &failures, &underruns);
     StreamStatistics statistics = m_state->counts;
     statistics.overrun = underruns;
     return statistics;

@@ -226,6 +226,7 @@ int GenicamCamera::defaultTimeoutMs() const
 bool GenicamCamera::begin(bool single, std::chrono::milliseconds timeout)
 {
     end();
+    exchangeAcquisition({});
     const auto opened = connection();
     if (!opened)
         return false;

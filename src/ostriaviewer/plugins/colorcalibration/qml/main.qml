@@ -280,7 +280,31 @@ Rectangle {
         icon: StandardIcon.Critical
         title: tMsgHeader
         text: ""
-        onAccepted: qmlModelInterface.cancel()
+
+        // The box tells of one answer twice.
+        property bool answered: false
+
+        onVisibleChanged: {
+            if (visible)
+                answered = false
+        }
+        onAccepted: {
+            if (answered)
+                return
+            answered = true
+            qmlModelInterface.cancel()
+        }
+    }
+
+    // A box that outlived the wizard would lock the viewer, and answer for a camera that is closed.
+    Connections {
+        target: qmlModelInterface
+        function onCleanupQML() {
+            modelError.close()
+            modelWarning.close()
+            criticalError.close()
+            navigation.closeQuestion()
+        }
     }
 
     Progress {

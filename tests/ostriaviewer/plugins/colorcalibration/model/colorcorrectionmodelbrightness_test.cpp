@@ -92,6 +92,12 @@ protected:
     /// Opens, keeps the settings, and returns when the worker has asked for its image.
     void startRun()
     {
+        // An image of the run before may still be in the making.
+        m_camera->releaseImage();
+        m_camera->joinDeliveries();
+        m_camera->onRequest = nullptr;
+        m_camera->delivery = Delivery::AtOnce;
+        m_requested.acquire(m_requested.available());
         ASSERT_TRUE(open());
         // The patch is too dark, so that the worker would raise the exposure time.
         showChart(*m_camera, castColors());

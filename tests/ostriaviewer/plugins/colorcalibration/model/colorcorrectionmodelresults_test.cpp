@@ -154,6 +154,40 @@ TEST_F(ModelResultsTest, UserSetsThatFailAreLogged)
                            "2 ColorCorrectionModelImpl::StoreSettingsInUserSet:reason"}));
 }
 
+TEST_F(ModelResultsTest, AUserSetThatRefusesLeavesDefaultAndStateAsTheyWere)
+{
+    m_camera->parameters().addEnumeration("UserSetDefault", {"Default", "UserSet1", "MYUSERSET2"});
+    ASSERT_TRUE(open());
+    failAt("execute UserSetSave");
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", true));
+    EXPECT_EQ(m_camera->features().get("UserSetDefault").value, "Default")
+        << "the camera would start with a set that lacks the settings";
+    m_camera->features().beforeCall = nullptr;
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.ExecuteWhitebalance());
+    EXPECT_FALSE(writes().contains("execute UserSetSave")) << "not armed";
+
+    ASSERT_TRUE(m_model.StoreSettingsInUserSet("MYUSERSET2", false));
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("NoSuchSet", true));
+    m_camera->features().forget();
+    ASSERT_TRUE(m_model.ExecuteWhitebalance());
+    EXPECT_EQ(writes().mid(writes().size() - 2),
+              (QStringList{"UserSetSelector = MYUSERSET2", "execute UserSetSave"}))
+        << "armed as it was";
+}
+
+TEST_F(ModelResultsTest, WhatWasMeasuredBeforeACalibrationIsNotItsOutcome)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.ApplyInitialCameraImageAndPatchValues());
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    EXPECT_TRUE(m_model.GetCalibrationResultsJson()["Colors"].toObject().isEmpty());
+    EXPECT_FALSE(m_model.SaveSummaryToFile(m_folder.path()));
+    EXPECT_TRUE(logTexts().last().contains("calibrated.png")) << "no image of other settings";
+}
+
 TEST_F(ModelResultsTest, ACameraWithoutUserSetsSaysSo)
 {
     use(QSharedPointer<FakeCamera>::create());

@@ -103,6 +103,45 @@ TEST_F(ModelTest, SettingsAreLoadedFromTextAndDevice)
     EXPECT_TRUE(logTexts().isEmpty());
 }
 
+TEST_F(ModelTest, FilesThatAreNoSettingsAreRefused)
+{
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    for (const QByteArray& bytes :
+         {QByteArray(), QByteArray("# Gamma\t1\n"), QByteArray("Gamma 1\r\n"), QByteArray("\t1\n"),
+          QByteArray("\x7f"
+                     "ELF\0\1\2\xff",
+                     8),
+          QByteArray(100'000, '\0')}) {
+        QBuffer device;
+        device.setData(bytes);
+        device.open(QIODevice::ReadOnly);
+        EXPECT_FALSE(m_model.LoadSettingsFromDevice(&device));
+        EXPECT_EQ(logTexts().last(), "2 ColorCorrectionModelImpl::LoadSettingsFromDevice:This is "
+                                     "no settings file: no line has a "
+                                     "feature's name, a tab and a value.");
+    }
+    QBuffer large;
+    large.setData(QByteArray(16 * 1024 * 1024 - 8, '#') + "\nGamma\t3\n");
+    large.open(QIODevice::ReadOnly);
+    EXPECT_FALSE(m_model.LoadSettingsFromDevice(&large));
+    EXPECT_EQ(logTexts().last(), "2 ColorCorrectionModelImpl::LoadSettingsFromDevice:The file is "
+                                 "too large for a settings file.");
+    EXPECT_TRUE(writes().isEmpty());
+}
+
+TEST_F(ModelTest, ASettingThatDoesNotComeBackIsTold)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_TRUE(logTexts().isEmpty());
+    m_camera->features().remove("Gamma");
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(logTexts(), QStringList("2 Not all settings of the camera came back; the first that "
+                                      "did not: Gamma\t0.25"));
+}
+
 TEST_F(ModelTest, MonoImageAndAutoFunctionsReachTheCamera)
 {
     ASSERT_TRUE(open());
@@ -295,6 +334,19 @@ TEST_F(ModelTest, TheGridIsKeptAsSharesOfTheImagePerCameraModel)
     m_camera->model = "Fake 200";
     ASSERT_TRUE(open());
     EXPECT_EQ(m_model.GetGridPosition(), TrapezoidPoints({12, 8}, {108, 8}, {12, 72}, {108, 72}));
+}
+
+TEST_F(ModelTest, TheGridIsKeptForModelsOfAnyName)
+{
+    const TrapezoidPoints outline({30, 20}, {90, 24}, {36, 60}, {96, 64});
+    m_camera->model = QString::fromUtf8("a/b\\c: <d> & \"e\" %1 \u6821\u6b63");
+    ASSERT_TRUE(open());
+    m_model.SetGridPosition(outline);
+    ASSERT_TRUE(m_model.Close());
+    m_model.SetGridPosition(TrapezoidPoints({1, 2}, {3, 4}, {5, 6}, {7, 8}));
+    QSettings().sync();
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_model.GetGridPosition(), outline);
 }
 
 TEST_F(ModelTest, AGridThatCannotBeUsedFallsBackToTheMiddle)

@@ -6,7 +6,10 @@
 #include "reportdata.h"
 
 #include <QDir>
+#include <QSemaphore>
 #include <QTemporaryDir>
+#include <QThreadPool>
+#include <QtConcurrentRun>
 
 using namespace ColorCalibration;
 
@@ -110,6 +113,25 @@ TEST_F(CalibrationResultTest, EndsASummaryWithTheFirstFailure)
         << "the image before calibration comes after the one that is missing";
     ASSERT_EQ(log.entries().size(), 1);
     EXPECT_TRUE(log.entries().first().text.contains("calibrated.png"));
+}
+
+TEST_F(CalibrationResultTest, SavesWhileOthersHoldAllThreadsOfThePool)
+{
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    QSemaphore busy;
+    QSemaphore end;
+    QVector<QFuture<void>> others;
+    for (int i = 0; i < pool.maxThreadCount(); ++i)
+        others << QtConcurrent::run([&] {
+            busy.release();
+            end.acquire();
+        });
+    busy.acquire(others.size());
+    EXPECT_TRUE(saveSummary());
+    end.release(others.size());
+    for (QFuture<void>& other : others)
+        other.waitForFinished();
+    EXPECT_EQ(entries(m_reportFolder).size(), 5);
 }
 
 TEST_F(CalibrationResultTest, SavesNothingWithoutADirectory)

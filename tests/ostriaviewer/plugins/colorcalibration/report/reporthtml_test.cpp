@@ -80,6 +80,18 @@ TEST(BuildHtml, EscapesResults)
     EXPECT_TRUE(html.contains("<td>&lt;img src=x onerror=alert(1)&gt;</td>"));
 }
 
+TEST(BuildHtml, PaintsNoRowInTheColorsOfAnotherPatch)
+{
+    QJsonObject results = sampleResults();
+    QJsonObject colors = results.value("Colors").toObject();
+    colors.remove("Patch01");
+    results.insert("Colors", colors);
+    const QString html = report("M", results);
+    EXPECT_TRUE(html.contains("tr:nth-child(2){}"));
+    EXPECT_TRUE(html.contains("tr:nth-child(3){--initial:" +
+                              colors["Patch02"].toObject()["Initial"].toString()));
+}
+
 TEST(BuildHtml, StaysWholeWithoutResults)
 {
     const QString html = report("M", {});

@@ -56,7 +56,8 @@ void ColorCorrectionToolDlg::connectDataModel()
     using Data = QmlDataModelInterface;
     connect(this, &QDialog::finished, this, &ColorCorrectionToolDlg::onDialogFinish);
     for (const auto decision : {&Data::signalCancel, &Data::signalFinished}) {
-        connect(m_dataModel, decision, this, [this] { m_decided = true; });
+        // A message box that outlived its wizard may still answer.
+        connect(m_dataModel, decision, this, [this] { m_decided = m_running; });
         connect(m_dataModel, decision, this, &QWidget::close);
     }
     connect(m_dataModel, &Data::forwardCameraRemoved, this,

@@ -3,8 +3,10 @@
 #include "qmldatamodelinterface.h"
 
 #include "colorcorrectionmodel.h"
+#include "guarded.h"
 #include "originalimageprovider.h"
 #include "qmlostriacamera.h"
+#include "settingsfile.h"
 
 #include <QApplication>
 #include <QFile>
@@ -13,6 +15,7 @@
 #include <QtConcurrent>
 
 #include <algorithm>
+#include <optional>
 
 namespace ColorCalibration {
 namespace {
@@ -53,11 +56,10 @@ bool QmlDataModelInterface::loadSettings(QString cstString)
     QFile file(cstString);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    const QString text = QString::fromUtf8(file.readAll());
-    if (file.error() != QFileDevice::NoError)
-        return false;
+    const auto text = guarded("", "QmlDataModelInterface::loadSettings", std::optional<QString>(),
+                              [&file] { return readSettingsText(file); });
     file.close();
-    return m_model->LoadSettings(text);
+    return text && m_model->LoadSettings(*text);
 }
 
 void QmlDataModelInterface::cancel()

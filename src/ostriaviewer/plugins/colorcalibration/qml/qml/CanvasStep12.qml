@@ -153,7 +153,8 @@ Item {
             ctx.lineWidth = 1
             if (!showGrid.checked || initial)
                 return
-            // Twice, so that it shows on dark and on bright pictures.
+            // Lines along the pixels, and twice, so that they show on dark and on bright pictures.
+            ctx.translate(0.5, 0.5)
             drawGrid(ctx, 0)
             ctx.strokeStyle = "white"
             drawGrid(ctx, 1)

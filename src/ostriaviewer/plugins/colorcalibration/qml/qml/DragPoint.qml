@@ -62,13 +62,13 @@ Item {
             point.mousePressed()
         }
         onMouseXChanged: {
-            if (!point.dragActive)
+            if (!point.dragActive || mouseX === pressX)
                 return
             point.x += mouseX - pressX
             point.pointChanged(disc.x, disc.y)
         }
         onMouseYChanged: {
-            if (!point.dragActive)
+            if (!point.dragActive || mouseY === pressY)
                 return
             point.y += mouseY - pressY
             point.pointChanged(disc.x, disc.y)

@@ -7,6 +7,9 @@ MouseArea {
 
     property alias text: input.text
 
+    // Return only confirms what was typed, in place of leading to the next step.
+    property bool confirmsWithReturn: false
+
     signal editFinished(string text)
     signal openFileDialog()
     signal toolTip(real mouseX, real mouseY)
@@ -40,6 +43,8 @@ MouseArea {
             Accessible.role: Accessible.EditableText
             onTextChanged: forceActiveFocus()
             onEditingFinished: field.editFinished(text)
+            Keys.priority: Keys.AfterItem
+            Keys.onReturnPressed: event.accepted = field.confirmsWithReturn
         }
 
         Rectangle {

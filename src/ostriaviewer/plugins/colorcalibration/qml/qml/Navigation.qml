@@ -37,6 +37,10 @@ Row {
             cancel()
     }
 
+    function closeQuestion() {
+        cancelWarningDialog.close()
+    }
+
     spacing: margin
 
     Button {

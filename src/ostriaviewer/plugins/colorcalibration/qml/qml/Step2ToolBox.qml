@@ -265,6 +265,7 @@ Item {
         function onCleanupQML() {
             Utility.cleanUpQml()
             checkTimer.stop()
+            autoAdjustGrayError.close()
         }
     }
 }

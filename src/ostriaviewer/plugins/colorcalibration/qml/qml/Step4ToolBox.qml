@@ -122,6 +122,7 @@ Item {
             x: page.labelWidth + margin
             anchors.verticalCenter: calibrationLabel.verticalCenter
             text: qmlModelInterface.calibrationFileToSave
+            confirmsWithReturn: true
             onEditFinished: qmlModelInterface.calibrationFileToSave = text
             onOpenFileDialog: calibrationDialog.openDialog()
             onToolTip: Utility.showToolTip(page, calibrationFile, mouseX, mouseY,
@@ -143,6 +144,7 @@ Item {
             x: page.labelWidth + margin
             anchors.verticalCenter: summaryLabel.verticalCenter
             text: qmlModelInterface.summaryFileToSave
+            confirmsWithReturn: true
             onEditFinished: qmlModelInterface.summaryFileToSave = text
             onOpenFileDialog: summaryDialog.openDialog()
             onToolTip: Utility.showToolTip(page, summaryFile, mouseX, mouseY, tSaveSummaryTooltip)

@@ -31,6 +31,8 @@ Item {
             id: label
             objectName: "toolTipText"
             anchors.centerIn: parent
+            // A long line would not fit beside the mouse in a window of 800.
+            width: Math.min(implicitWidth, 3.4 * mButtonWidth)
             font.pixelSize: mDefaultPixelSize
             wrapMode: Text.WordWrap
         }

@@ -14,7 +14,7 @@
     </message>
     <message>
         <source>&lt;p&gt;The camera has been disconnected.&lt;br/&gt;Reconnect the camera to the computer and open it to continue using the Color Calibrator.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;カメラとの接続が切断されました。&lt;br/&gt;カラーキャリブレーターの使用を続けるには、カメラをコンピューターに接続し直して開いてください。&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;カメラとの接続が切断されました。&lt;br/&gt;カラーキャリブレーターの使用を続けるには、カメラをコンピューターに接続し直してから、カメラを開いてください。&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Image acquisition is slowed down by certain parameter settings in the camera, e.g., exposure time.</source>
@@ -44,11 +44,11 @@
     </message>
     <message>
         <source>Couldn&apos;t apply &lt;br&gt; initial values.</source>
-        <translation>初期値を &lt;br&gt; 適用できませんでした。</translation>
+        <translation>初期値を&lt;br&gt;適用できませんでした。</translation>
     </message>
     <message>
         <source>Couldn&apos;t apply initial camera image or set original patch color values.</source>
-        <translation>カメラの初期画像を適用できないか、パッチの元の色の値を設定できませんでした。</translation>
+        <translation>カメラの初期画像を適用できなかったか、パッチの元の色の値を設定できませんでした。</translation>
     </message>
     <message>
         <source>Couldn&apos;t restore detected exposure and gain values.</source>
@@ -64,15 +64,15 @@
     </message>
     <message>
         <source>No initial parameters (min, max, value) &lt;br&gt; for exposure time available.</source>
-        <translation>露光時間の初期パラメーター（最小値、最大値、現在値）を &lt;br&gt; 取得できません。</translation>
+        <translation>露光時間の初期パラメーター（最小値、最大値、現在値）を&lt;br&gt;取得できませんでした。</translation>
     </message>
     <message>
         <source>No initial parameters (min, max, value) &lt;br&gt; for gain value available.</source>
-        <translation>ゲインの初期パラメーター（最小値、最大値、現在値）を &lt;br&gt; 取得できません。</translation>
+        <translation>ゲインの初期パラメーター（最小値、最大値、現在値）を&lt;br&gt;取得できませんでした。</translation>
     </message>
     <message>
         <source>Unable to set neutral settings.</source>
-        <translation>ニュートラル設定を適用できません。</translation>
+        <translation>ニュートラル設定を適用できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Original</source>
-        <translation>元</translation>
+        <translation>元の値</translation>
     </message>
     <message>
         <source>Target</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>To use the Color Calibrator, the LUT had to be disabled. Using a LUT and the Color Calibrator at the same time, would adversely affect the color calibration.</source>
-        <translation>カラーキャリブレーターを使用するため、LUTは無効にされました。LUTとカラーキャリブレーターを同時に使用すると、カラーキャリブレーションに悪影響を及ぼします。</translation>
+        <translation>カラーキャリブレーターを使用するため、LUTを無効にしました。LUTとカラーキャリブレーターを同時に使用すると、カラーキャリブレーションに悪影響を及ぼします。</translation>
     </message>
 </context>
 <context>
@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Original</source>
-        <translation>元</translation>
+        <translation>元の値</translation>
     </message>
     <message>
         <source>Saturation</source>
@@ -340,11 +340,11 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Selected Camera: </source>
-        <translation>選択中のカメラ: </translation>
+        <translation>選択中のカメラ：</translation>
     </message>
     <message>
         <source>Load camera settings</source>
-        <translation>カメラ設定の読み込み</translation>
+        <translation>カメラ設定を読み込む</translation>
     </message>
     <message>
         <source>Load camera settings that were saved in a .cst file in a previous session.</source>
@@ -352,7 +352,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>To manually change the size and position of the grid, use the handles provided. The grid must be at least the same size as the color chart.&lt;br&gt;Click &lt;b&gt;Next&lt;/b&gt; to confirm the position of the grid.</source>
-        <translation>グリッドの大きさと位置を手動で変更するには、四隅のハンドルを使用します。グリッドはカラーチャートと同じか、それより大きくする必要があります。&lt;br&gt;&lt;b&gt;次へ&lt;/b&gt;をクリックして、グリッドの位置を確定します。</translation>
+        <translation>グリッドの大きさと位置を手動で変更するには、四隅のハンドルを使用します。グリッドは、カラーチャートと同じ大きさか、それより大きくする必要があります。&lt;br&gt;&lt;b&gt;次へ&lt;/b&gt;をクリックして、グリッドの位置を確定します。</translation>
     </message>
     <message>
         <source>Auto-position Grid</source>
@@ -376,7 +376,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Single Shot</source>
-        <translation>シングルショット</translation>
+        <translation>1枚撮影</translation>
     </message>
     <message>
         <source>Capture a single image.</source>
@@ -452,11 +452,11 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Review the color values in the above image by moving the mouse over the patches in the grid. To display an overview of the values of a certain parameter, pick an item in the &lt;b&gt;Calibration Reports&lt;/b&gt; list. Click &lt;b&gt;Next&lt;/b&gt; to continue with these values.</source>
-        <translation>グリッド内のパッチにマウスを合わせて、上の画像の色の値を確認します。特定のパラメーターの値の一覧を表示するには、&lt;b&gt;キャリブレーションレポート&lt;/b&gt;リストから項目を選択します。この値で続けるには、&lt;b&gt;次へ&lt;/b&gt;をクリックします。</translation>
+        <translation>グリッド内のパッチにマウスを合わせて、上の画像の色の値を確認します。特定のパラメーターの値の一覧を表示するには、&lt;b&gt;キャリブレーションレポート&lt;/b&gt;リストから項目を選択します。これらの値で続行するには、&lt;b&gt;次へ&lt;/b&gt;をクリックします。</translation>
     </message>
     <message>
         <source>To use the Color Calibrator, the LUT had to be disabled. Using a LUT and the Color Calibrator at the same time, would adversely affect the color calibration.</source>
-        <translation>カラーキャリブレーターを使用するため、LUTは無効にされました。LUTとカラーキャリブレーターを同時に使用すると、カラーキャリブレーションに悪影響を及ぼします。</translation>
+        <translation>カラーキャリブレーターを使用するため、LUTを無効にしました。LUTとカラーキャリブレーターを同時に使用すると、カラーキャリブレーションに悪影響を及ぼします。</translation>
     </message>
     <message>
         <source>1 - Target Value</source>
@@ -504,7 +504,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Recalibrate Camera</source>
-        <translation>カメラを再キャリブレーション</translation>
+        <translation>再キャリブレーション</translation>
     </message>
     <message>
         <source>Automatically recalibrate the camera.</source>
@@ -516,7 +516,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Autoadjust values &lt;br&gt; impossible!</source>
-        <translation>値を自動調整 &lt;br&gt; できません。</translation>
+        <translation>値を自動調整&lt;br&gt;できませんでした。</translation>
     </message>
     <message>
         <source>The image size is too small to achieve a good calibration result. Ideally, the color checker should fill the whole image view area.</source>
@@ -544,7 +544,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Couldn&apos;t store settings in user set: </source>
-        <translation>設定を次のユーザーセットに保存できませんでした: </translation>
+        <translation>設定を次のユーザーセットに保存できませんでした：</translation>
     </message>
     <message>
         <source>Grid could not be positioned automatically.</source>
@@ -560,7 +560,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>The calibration process failed because the image is either too bright or too dark. Adjust the brightness and try again.</source>
-        <translation>画像が明るすぎるか暗すぎるため、キャリブレーションに失敗しました。明るさを調整して、もう一度お試しください。</translation>
+        <translation>画像が明るすぎるか暗すぎるため、キャリブレーションに失敗しました。明るさを調整して、もう一度実行してください。</translation>
     </message>
     <message>
         <source>Source</source>

@@ -14,11 +14,11 @@
     </message>
     <message>
         <source>&lt;p&gt;The camera has been disconnected.&lt;br/&gt;Reconnect the camera to the computer and open it to continue using the Color Calibrator.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;카메라 연결이 끊어졌습니다.&lt;br/&gt;컬러 캘리브레이터를 계속 사용하려면 카메라를 컴퓨터에 다시 연결한 후 여십시오.&lt;/p&gt;</translation>
+        <translation>&lt;p&gt;카메라 연결이 끊어졌습니다.&lt;br/&gt;컬러 캘리브레이터를 계속 사용하려면 카메라를 컴퓨터에 다시 연결하고 카메라를 여십시오.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Image acquisition is slowed down by certain parameter settings in the camera, e.g., exposure time.</source>
-        <translation>노출 시간 등 카메라의 특정 파라미터 설정으로 인해 이미지 획득이 느려지고 있습니다.</translation>
+        <translation>노출 시간 등 카메라의 특정 파라미터 설정으로 인해 이미지 획득 속도가 느려졌습니다.</translation>
     </message>
 </context>
 <context>
@@ -40,53 +40,53 @@
     </message>
     <message>
         <source>Could not load previous settings.</source>
-        <translation>이전 설정을 불러올 수 없습니다.</translation>
+        <translation>이전 설정을 불러오지 못했습니다.</translation>
     </message>
     <message>
         <source>Couldn&apos;t apply &lt;br&gt; initial values.</source>
-        <translation>초기값을 &lt;br&gt; 적용할 수 없습니다.</translation>
+        <translation>초깃값을&lt;br&gt;적용하지 못했습니다.</translation>
     </message>
     <message>
         <source>Couldn&apos;t apply initial camera image or set original patch color values.</source>
-        <translation>카메라의 초기 이미지를 적용하거나 패치의 원래 색상 값을 설정할 수 없습니다.</translation>
+        <translation>카메라의 초기 이미지를 적용하거나 패치의 원래 색 값을 설정하지 못했습니다.</translation>
     </message>
     <message>
         <source>Couldn&apos;t restore detected exposure and gain values.</source>
-        <translation>검출한 노출 시간 및 게인 값을 복원할 수 없습니다.</translation>
+        <translation>검출한 노출 시간 및 게인 값을 복원하지 못했습니다.</translation>
     </message>
     <message>
         <source>Couldn&apos;t restore preneutral camera settings.</source>
-        <translation>중립 설정을 적용하기 전의 카메라 설정을 복원할 수 없습니다.</translation>
+        <translation>중립 설정을 적용하기 전의 카메라 설정을 복원하지 못했습니다.</translation>
     </message>
     <message>
         <source>Couldn&apos;t store detected exposure and gain values.</source>
-        <translation>검출한 노출 시간 및 게인 값을 저장할 수 없습니다.</translation>
+        <translation>검출한 노출 시간 및 게인 값을 저장하지 못했습니다.</translation>
     </message>
     <message>
         <source>No initial parameters (min, max, value) &lt;br&gt; for exposure time available.</source>
-        <translation>노출 시간의 초기 파라미터(최솟값, 최댓값, 현재 값)를 &lt;br&gt; 사용할 수 없습니다.</translation>
+        <translation>노출 시간의 초기 파라미터(최솟값, 최댓값, 현재 값)를&lt;br&gt;가져오지 못했습니다.</translation>
     </message>
     <message>
         <source>No initial parameters (min, max, value) &lt;br&gt; for gain value available.</source>
-        <translation>게인의 초기 파라미터(최솟값, 최댓값, 현재 값)를 &lt;br&gt; 사용할 수 없습니다.</translation>
+        <translation>게인의 초기 파라미터(최솟값, 최댓값, 현재 값)를&lt;br&gt;가져오지 못했습니다.</translation>
     </message>
     <message>
         <source>Unable to set neutral settings.</source>
-        <translation>중립 설정을 적용할 수 없습니다.</translation>
+        <translation>중립 설정을 적용하지 못했습니다.</translation>
     </message>
 </context>
 <context>
     <name>QMLExposureTime</name>
     <message>
         <source>Couldn&apos;t set exposureTime!&lt;br&gt;</source>
-        <translation>노출 시간을 설정할 수 없습니다!&lt;br&gt;</translation>
+        <translation>노출 시간을 설정하지 못했습니다.&lt;br&gt;</translation>
     </message>
 </context>
 <context>
     <name>QMLGainvalue</name>
     <message>
         <source>Couldn&apos;t set gain value!&lt;br&gt;</source>
-        <translation>게인 값을 설정할 수 없습니다!&lt;br&gt;</translation>
+        <translation>게인 값을 설정하지 못했습니다.&lt;br&gt;</translation>
     </message>
 </context>
 <context>
@@ -97,11 +97,11 @@
     </message>
     <message>
         <source>Color Adjustment Hue</source>
-        <translation>색 조정 색조</translation>
+        <translation>색 조정: 색조</translation>
     </message>
     <message>
         <source>Color Adjustment Saturation</source>
-        <translation>색 조정 채도</translation>
+        <translation>색 조정: 채도</translation>
     </message>
     <message>
         <source>Color Transformation</source>
@@ -109,7 +109,7 @@
     </message>
     <message>
         <source>Colors</source>
-        <translation>색상</translation>
+        <translation>색</translation>
     </message>
     <message>
         <source>Current</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Original</source>
-        <translation>원본</translation>
+        <translation>원래 값</translation>
     </message>
     <message>
         <source>Target</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>To use the Color Calibrator, the LUT had to be disabled. Using a LUT and the Color Calibrator at the same time, would adversely affect the color calibration.</source>
-        <translation>컬러 캘리브레이터를 사용하기 위해 LUT를 비활성화해야 했습니다. LUT와 컬러 캘리브레이터를 동시에 사용하면 컬러 캘리브레이션에 나쁜 영향을 줍니다.</translation>
+        <translation>컬러 캘리브레이터를 사용하기 위해 LUT를 비활성화했습니다. LUT와 컬러 캘리브레이터를 동시에 사용하면 컬러 캘리브레이션에 부정적인 영향을 줍니다.</translation>
     </message>
 </context>
 <context>
@@ -179,11 +179,11 @@
     </message>
     <message>
         <source>Color Adjustment Hue</source>
-        <translation>색 조정 색조</translation>
+        <translation>색 조정: 색조</translation>
     </message>
     <message>
         <source>Color Adjustment Saturation</source>
-        <translation>색 조정 채도</translation>
+        <translation>색 조정: 채도</translation>
     </message>
     <message>
         <source>Color Transformation</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Colors</source>
-        <translation>색상</translation>
+        <translation>색</translation>
     </message>
     <message>
         <source>Contrast</source>
@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Original</source>
-        <translation>원본</translation>
+        <translation>원래 값</translation>
     </message>
     <message>
         <source>Saturation</source>
@@ -352,7 +352,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>To manually change the size and position of the grid, use the handles provided. The grid must be at least the same size as the color chart.&lt;br&gt;Click &lt;b&gt;Next&lt;/b&gt; to confirm the position of the grid.</source>
-        <translation>그리드의 크기와 위치를 수동으로 변경하려면 모서리의 핸들을 사용하십시오. 그리드는 컬러 차트와 같거나 더 커야 합니다.&lt;br&gt;&lt;b&gt;다음&lt;/b&gt;을 클릭하여 그리드 위치를 확정하십시오.</translation>
+        <translation>그리드의 크기와 위치를 수동으로 변경하려면 네 모서리의 핸들을 사용하십시오. 그리드의 크기는 컬러 차트와 같거나 그보다 커야 합니다.&lt;br&gt;&lt;b&gt;다음&lt;/b&gt;을 클릭하여 그리드 위치를 확정하십시오.</translation>
     </message>
     <message>
         <source>Auto-position Grid</source>
@@ -368,11 +368,11 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Automatically adjust the exposure time and the gain once.</source>
-        <translation>노출 시간과 게인을 한 번 자동으로 조정합니다.</translation>
+        <translation>노출 시간과 게인을 한 번만 자동으로 조정합니다.</translation>
     </message>
     <message>
         <source>Change the &lt;b&gt;Exposure Time&lt;/b&gt; and &lt;b&gt;Gain&lt;/b&gt; settings, using the sliders or the arrow keys of your keyboard, to adjust the brightness in the image (the needle should point to the green section of the dial). Clicking the &lt;b&gt;Auto&lt;/b&gt; button will adjust the settings automatically. The image is temporarily displayed in grayscale to achieve an optimal calibration result. Any changes you make here will immediately change the camera’s settings. Click &lt;b&gt;Next&lt;/b&gt; to start the calibration.</source>
-        <translation>슬라이더나 키보드의 화살표 키로 &lt;b&gt;노출 시간&lt;/b&gt;과 &lt;b&gt;게인&lt;/b&gt;을 변경하여 이미지의 밝기를 조정하십시오(계기의 바늘이 녹색 구간을 가리켜야 합니다). &lt;b&gt;자동&lt;/b&gt; 버튼을 클릭하면 자동으로 조정됩니다. 최적의 캘리브레이션 결과를 얻기 위해 이미지가 일시적으로 흑백으로 표시됩니다. 여기서 변경한 값은 카메라 설정에 즉시 적용됩니다. &lt;b&gt;다음&lt;/b&gt;을 클릭하면 캘리브레이션이 시작됩니다.</translation>
+        <translation>슬라이더나 키보드의 화살표 키로 &lt;b&gt;노출 시간&lt;/b&gt;과 &lt;b&gt;게인&lt;/b&gt;을 변경하여 이미지의 밝기를 조정하십시오(계기의 바늘이 녹색 구간을 가리켜야 합니다). &lt;b&gt;자동&lt;/b&gt; 버튼을 클릭하면 자동으로 조정됩니다. 최적의 캘리브레이션 결과를 얻기 위해 이미지가 일시적으로 회색조로 표시됩니다. 여기서 변경한 값은 카메라 설정에 즉시 적용됩니다. &lt;b&gt;다음&lt;/b&gt;을 클릭하면 캘리브레이션이 시작됩니다.</translation>
     </message>
     <message>
         <source>Single Shot</source>
@@ -416,7 +416,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Use the slider to compare the colors in the image before and after calibration. Click &lt;b&gt;Save&lt;/b&gt; to save all selected files and settings. Click &lt;b&gt;Finish&lt;/b&gt; to complete the calibration. If you click &lt;b&gt;Cancel&lt;/b&gt;, the original settings will be restored.</source>
-        <translation>슬라이더를 사용하여 캘리브레이션 전후 이미지의 색을 비교하십시오. &lt;b&gt;저장&lt;/b&gt;을 클릭하면 선택한 파일과 설정이 모두 저장됩니다. &lt;b&gt;마침&lt;/b&gt;을 클릭하면 캘리브레이션이 완료됩니다. &lt;b&gt;취소&lt;/b&gt;를 클릭하면 원래 설정으로 복원됩니다.</translation>
+        <translation>슬라이더를 사용하여 캘리브레이션 전후 이미지의 색을 비교하십시오. &lt;b&gt;저장&lt;/b&gt;을 클릭하면 선택한 파일과 설정이 모두 저장됩니다. &lt;b&gt;마침&lt;/b&gt;을 클릭하면 캘리브레이션을 마칩니다. &lt;b&gt;취소&lt;/b&gt;를 클릭하면 원래 설정으로 복원됩니다.</translation>
     </message>
     <message>
         <source>Save</source>
@@ -452,15 +452,15 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Review the color values in the above image by moving the mouse over the patches in the grid. To display an overview of the values of a certain parameter, pick an item in the &lt;b&gt;Calibration Reports&lt;/b&gt; list. Click &lt;b&gt;Next&lt;/b&gt; to continue with these values.</source>
-        <translation>그리드의 패치 위로 마우스를 옮겨 위 이미지의 색상 값을 확인하십시오. 특정 파라미터의 값을 한눈에 보려면 &lt;b&gt;캘리브레이션 보고서&lt;/b&gt; 목록에서 항목을 선택하십시오. 이 값으로 계속하려면 &lt;b&gt;다음&lt;/b&gt;을 클릭하십시오.</translation>
+        <translation>그리드의 패치에 마우스를 올려 위쪽 이미지의 색 값을 확인하십시오. 특정 파라미터의 값을 한눈에 보려면 &lt;b&gt;캘리브레이션 보고서&lt;/b&gt; 목록에서 항목을 선택하십시오. 이 값들로 계속하려면 &lt;b&gt;다음&lt;/b&gt;을 클릭하십시오.</translation>
     </message>
     <message>
         <source>To use the Color Calibrator, the LUT had to be disabled. Using a LUT and the Color Calibrator at the same time, would adversely affect the color calibration.</source>
-        <translation>컬러 캘리브레이터를 사용하기 위해 LUT를 비활성화해야 했습니다. LUT와 컬러 캘리브레이터를 동시에 사용하면 컬러 캘리브레이션에 나쁜 영향을 줍니다.</translation>
+        <translation>컬러 캘리브레이터를 사용하기 위해 LUT를 비활성화했습니다. LUT와 컬러 캘리브레이터를 동시에 사용하면 컬러 캘리브레이션에 부정적인 영향을 줍니다.</translation>
     </message>
     <message>
         <source>1 - Target Value</source>
-        <translation>1 - 목표값</translation>
+        <translation>1 - 목표 값</translation>
     </message>
     <message>
         <source>2 - Original Value</source>
@@ -476,7 +476,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Shows whether the target value for calibration has been reached.</source>
-        <translation>캘리브레이션 목표값에 도달했는지 표시합니다.</translation>
+        <translation>캘리브레이션 목표 값에 도달했는지 표시합니다.</translation>
     </message>
     <message>
         <source>Too bright</source>
@@ -492,7 +492,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Use the slider to compare the colors in images before and after calibration.</source>
-        <translation>슬라이더를 사용하여 캘리브레이션 전후 이미지의 색을 비교하십시오.</translation>
+        <translation>슬라이더로 캘리브레이션 전후 이미지의 색을 비교합니다.</translation>
     </message>
     <message>
         <source>Before Calibration</source>
@@ -504,7 +504,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Recalibrate Camera</source>
-        <translation>카메라 재캘리브레이션</translation>
+        <translation>다시 캘리브레이션</translation>
     </message>
     <message>
         <source>Automatically recalibrate the camera.</source>
@@ -516,7 +516,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Autoadjust values &lt;br&gt; impossible!</source>
-        <translation>값을 자동으로 &lt;br&gt; 조정할 수 없습니다!</translation>
+        <translation>값을 자동으로&lt;br&gt;조정하지 못했습니다.</translation>
     </message>
     <message>
         <source>The image size is too small to achieve a good calibration result. Ideally, the color checker should fill the whole image view area.</source>
@@ -536,19 +536,19 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Couldn&apos;t save settings to file path!&lt;br&gt;</source>
-        <translation>지정한 파일 경로에 설정을 저장할 수 없습니다!&lt;br&gt;</translation>
+        <translation>지정한 파일 경로에 설정을 저장하지 못했습니다.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Couldn&apos;t save summary!&lt;br&gt;</source>
-        <translation>요약을 저장할 수 없습니다!&lt;br&gt;</translation>
+        <translation>요약을 저장하지 못했습니다.&lt;br&gt;</translation>
     </message>
     <message>
         <source>Couldn&apos;t store settings in user set: </source>
-        <translation>다음 사용자 세트에 설정을 저장할 수 없습니다: </translation>
+        <translation>다음 사용자 세트에 설정을 저장하지 못했습니다: </translation>
     </message>
     <message>
         <source>Grid could not be positioned automatically.</source>
-        <translation>그리드를 자동으로 배치할 수 없습니다.</translation>
+        <translation>그리드를 자동으로 배치하지 못했습니다.</translation>
     </message>
     <message>
         <source>The image is too dark. Adjust the exposure time and the gain to achieve optimum brightness.&lt;br&gt;</source>
@@ -560,7 +560,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>The calibration process failed because the image is either too bright or too dark. Adjust the brightness and try again.</source>
-        <translation>이미지가 너무 밝거나 어두워 캘리브레이션에 실패했습니다. 밝기를 조정한 후 다시 시도하십시오.</translation>
+        <translation>이미지가 너무 밝거나 너무 어두워 캘리브레이션에 실패했습니다. 밝기를 조정한 후 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>Source</source>

@@ -44,11 +44,11 @@
     </message>
     <message>
         <source>Couldn&apos;t apply &lt;br&gt; initial values.</source>
-        <translation>无法应用 &lt;br&gt; 初始值。</translation>
+        <translation>无法应用&lt;br&gt;初始值。</translation>
     </message>
     <message>
         <source>Couldn&apos;t apply initial camera image or set original patch color values.</source>
-        <translation>无法应用相机的初始图像或设置色块的原始颜色值。</translation>
+        <translation>无法应用相机的初始图像，或无法设置色块的原始颜色值。</translation>
     </message>
     <message>
         <source>Couldn&apos;t restore detected exposure and gain values.</source>
@@ -56,19 +56,19 @@
     </message>
     <message>
         <source>Couldn&apos;t restore preneutral camera settings.</source>
-        <translation>无法恢复中性设置之前的相机设置。</translation>
+        <translation>无法恢复应用中性设置之前的相机设置。</translation>
     </message>
     <message>
         <source>Couldn&apos;t store detected exposure and gain values.</source>
-        <translation>无法存储检测到的曝光时间和增益值。</translation>
+        <translation>无法保存检测到的曝光时间和增益值。</translation>
     </message>
     <message>
         <source>No initial parameters (min, max, value) &lt;br&gt; for exposure time available.</source>
-        <translation>没有可用的曝光时间初始参数 &lt;br&gt; （最小值、最大值、当前值）。</translation>
+        <translation>曝光时间的初始参数（最小值、最大值、当前值）&lt;br&gt;不可用。</translation>
     </message>
     <message>
         <source>No initial parameters (min, max, value) &lt;br&gt; for gain value available.</source>
-        <translation>没有可用的增益初始参数 &lt;br&gt; （最小值、最大值、当前值）。</translation>
+        <translation>增益的初始参数（最小值、最大值、当前值）&lt;br&gt;不可用。</translation>
     </message>
     <message>
         <source>Unable to set neutral settings.</source>
@@ -79,14 +79,14 @@
     <name>QMLExposureTime</name>
     <message>
         <source>Couldn&apos;t set exposureTime!&lt;br&gt;</source>
-        <translation>无法设置曝光时间！&lt;br&gt;</translation>
+        <translation>无法设置曝光时间。&lt;br&gt;</translation>
     </message>
 </context>
 <context>
     <name>QMLGainvalue</name>
     <message>
         <source>Couldn&apos;t set gain value!&lt;br&gt;</source>
-        <translation>无法设置增益值！&lt;br&gt;</translation>
+        <translation>无法设置增益值。&lt;br&gt;</translation>
     </message>
 </context>
 <context>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Original</source>
-        <translation>原始</translation>
+        <translation>原始值</translation>
     </message>
     <message>
         <source>Target</source>
@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>To use the Color Calibrator, the LUT had to be disabled. Using a LUT and the Color Calibrator at the same time, would adversely affect the color calibration.</source>
-        <translation>为使用色彩校准器，必须停用 LUT。同时使用 LUT 和色彩校准器会对色彩校准产生不利影响。</translation>
+        <translation>为使用色彩校准器，已停用 LUT。同时使用 LUT 和色彩校准器会对色彩校准产生不利影响。</translation>
     </message>
 </context>
 <context>
@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Original</source>
-        <translation>原始</translation>
+        <translation>原始值</translation>
     </message>
     <message>
         <source>Saturation</source>
@@ -315,7 +315,7 @@
     <message>
         <source>If you cancel the color calibration, any changes you made will be lost. The original settings will be restored. 
 Do you really want to cancel?</source>
-        <translation>如果取消色彩校准，您所做的所有更改都将丢失，并恢复原来的设置。
+        <translation>如果取消色彩校准，您所做的所有更改都将丢失，并恢复原始设置。
 确定要取消吗？</translation>
     </message>
     <message>
@@ -336,7 +336,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Continuously capture five images per second.</source>
-        <translation>以每秒五帧的速度连续采集图像。</translation>
+        <translation>以每秒 5 帧的速度连续采集图像。</translation>
     </message>
     <message>
         <source>Selected Camera: </source>
@@ -416,7 +416,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Use the slider to compare the colors in the image before and after calibration. Click &lt;b&gt;Save&lt;/b&gt; to save all selected files and settings. Click &lt;b&gt;Finish&lt;/b&gt; to complete the calibration. If you click &lt;b&gt;Cancel&lt;/b&gt;, the original settings will be restored.</source>
-        <translation>使用滑块比较校准前后图像中的颜色。单击&lt;b&gt;保存&lt;/b&gt;，保存所有选定的文件和设置。单击&lt;b&gt;完成&lt;/b&gt;，结束校准。如果单击&lt;b&gt;取消&lt;/b&gt;，将恢复原来的设置。</translation>
+        <translation>使用滑块比较校准前后图像中的颜色。单击&lt;b&gt;保存&lt;/b&gt;可保存所有选定的文件和设置。单击&lt;b&gt;完成&lt;/b&gt;可结束校准。单击&lt;b&gt;取消&lt;/b&gt;将恢复原始设置。</translation>
     </message>
     <message>
         <source>Save</source>
@@ -432,7 +432,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Save camera settings in a user set.</source>
-        <translation>将相机设置保存到某个用户集中。</translation>
+        <translation>将相机设置保存到用户集。</translation>
     </message>
     <message>
         <source>Save settings as default</source>
@@ -448,15 +448,15 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Show an overview of the original and new camera settings by parameter.</source>
-        <translation>按参数显示原来的和新的相机设置概览。</translation>
+        <translation>按参数显示原始相机设置和新相机设置的概览。</translation>
     </message>
     <message>
         <source>Review the color values in the above image by moving the mouse over the patches in the grid. To display an overview of the values of a certain parameter, pick an item in the &lt;b&gt;Calibration Reports&lt;/b&gt; list. Click &lt;b&gt;Next&lt;/b&gt; to continue with these values.</source>
-        <translation>将鼠标移到网格中的色块上，检查上方图像中的颜色值。要显示某个参数的值的概览，请在&lt;b&gt;校准报告&lt;/b&gt;列表中选择一项。单击&lt;b&gt;下一步&lt;/b&gt;，使用这些值继续。</translation>
+        <translation>将鼠标移到网格中的色块上，可查看上方图像中的颜色值。要显示某个参数值的概览，请在&lt;b&gt;校准报告&lt;/b&gt;列表中选择一项。要使用这些值继续，请单击&lt;b&gt;下一步&lt;/b&gt;。</translation>
     </message>
     <message>
         <source>To use the Color Calibrator, the LUT had to be disabled. Using a LUT and the Color Calibrator at the same time, would adversely affect the color calibration.</source>
-        <translation>为使用色彩校准器，必须停用 LUT。同时使用 LUT 和色彩校准器会对色彩校准产生不利影响。</translation>
+        <translation>为使用色彩校准器，已停用 LUT。同时使用 LUT 和色彩校准器会对色彩校准产生不利影响。</translation>
     </message>
     <message>
         <source>1 - Target Value</source>
@@ -516,7 +516,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Autoadjust values &lt;br&gt; impossible!</source>
-        <translation>无法自动 &lt;br&gt; 调整数值！</translation>
+        <translation>无法自动&lt;br&gt;调整这些值。</translation>
     </message>
     <message>
         <source>The image size is too small to achieve a good calibration result. Ideally, the color checker should fill the whole image view area.</source>
@@ -536,11 +536,11 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Couldn&apos;t save settings to file path!&lt;br&gt;</source>
-        <translation>无法将设置保存到该文件路径！&lt;br&gt;</translation>
+        <translation>无法将设置保存到指定的文件路径。&lt;br&gt;</translation>
     </message>
     <message>
         <source>Couldn&apos;t save summary!&lt;br&gt;</source>
-        <translation>无法保存摘要！&lt;br&gt;</translation>
+        <translation>无法保存摘要。&lt;br&gt;</translation>
     </message>
     <message>
         <source>Couldn&apos;t store settings in user set: </source>

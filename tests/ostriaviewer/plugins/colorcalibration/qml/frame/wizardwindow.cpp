@@ -21,6 +21,23 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& text
         ADD_FAILURE() << text.toStdString();
 }
 
+// What a repeater makes is a child of its item alone, not of an object.
+QObject* find(QObject* parent, const QString& name)
+{
+    if (parent->objectName() == name)
+        return parent;
+    QObjectList children = parent->children();
+    if (const auto* item = qobject_cast<QQuickItem*>(parent)) {
+        for (auto* child : item->childItems())
+            children << child;
+    }
+    for (auto* child : children) {
+        if (auto* found = find(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 WizardWindow::WizardWindow()
@@ -78,21 +95,21 @@ void WizardWindow::openAt(int step)
 
 QObject* WizardWindow::object(const char* name)
 {
-    auto* found = m_view->rootObject()->findChild<QObject*>(name);
+    auto* found = find(m_view->rootObject(), name);
     EXPECT_NE(found, nullptr) << "nothing of the name " << name;
     return found;
 }
 
 QQuickItem* WizardWindow::item(const char* name)
 {
-    auto* found = m_view->rootObject()->findChild<QQuickItem*>(name);
+    auto* found = qobject_cast<QQuickItem*>(find(m_view->rootObject(), name));
     EXPECT_NE(found, nullptr) << "no item of the name " << name;
     return found;
 }
 
 bool WizardWindow::hasItem(const char* name)
 {
-    return m_view->rootObject()->findChild<QQuickItem*>(name) != nullptr;
+    return find(m_view->rootObject(), name) != nullptr;
 }
 
 QVariant WizardWindow::property(const char* name, const char* property)
@@ -177,7 +194,13 @@ void WizardWindow::answer(QMessageBox::StandardButton button)
     auto* found = open.first()->button(button);
     ASSERT_NE(found, nullptr);
     found->click();
-    QCoreApplication::processEvents();
+    // No window manager gives the keyboard back.
+    ASSERT_TRUE(waitFor([this] {
+        m_view->requestActivate();
+        return QGuiApplication::focusWindow() == m_view.get() && m_view->isActive() &&
+               boxes().isEmpty();
+    }));
+    QCoreApplication::sendPostedEvents();
 }
 
 void WizardWindow::answerAll()

@@ -135,6 +135,18 @@ TEST_F(Keyboard, FinishesFromTheFirstMomentOfSaving)
     EXPECT_EQ(m_calls.made.last(), "finish");
 }
 
+TEST_F(Keyboard, TakesATypedFolderWithReturnInsteadOfFinishing)
+{
+    openPage(4);
+    auto* input = item("calibrationFile")->findChild<QQuickItem*>("textInput");
+    input->forceActiveFocus();
+    input->setProperty("text", "/x");
+    press(Qt::Key_Return);
+    EXPECT_EQ(m_model.m_settingsFile, "/x");
+    EXPECT_FALSE(m_calls.made.contains("finish"));
+    EXPECT_EQ(m_model.activeStep(), 4);
+}
+
 TEST_F(Keyboard, AsksBeforeItGivesUp)
 {
     for (int step : {3, 4}) {

@@ -53,6 +53,8 @@ void ResultsPages::open(int step, const QSize& size)
     ASSERT_NE(circle, nullptr);
     item("progress")->setProperty("active", QVariant::fromValue(circle));
     m_model.setActiveStep(step);
+    // The pages of step 1 would be found before those that took their place.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ASSERT_NE(page("toolBoxLoader"), nullptr);
 }
 

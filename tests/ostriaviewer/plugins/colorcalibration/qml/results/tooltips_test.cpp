@@ -2,6 +2,8 @@
 // What the mouse brings up over the controls of the pages of results.
 #include "resultspages.h"
 
+#include <ostream>
+
 namespace {
 
 struct ToolTip
@@ -10,6 +12,11 @@ struct ToolTip
     const char* item;
     const char* text;
 };
+
+void PrintTo(const ToolTip& toolTip, std::ostream* out)
+{
+    *out << toolTip.item << " of step " << toolTip.step;
+}
 
 class ToolTips : public ResultsPages, public testing::WithParamInterface<ToolTip>
 {

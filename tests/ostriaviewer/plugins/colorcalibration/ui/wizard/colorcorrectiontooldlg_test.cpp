@@ -105,6 +105,15 @@ TEST_F(ColorCorrectionToolDlgTest, CancelRestoresOnce)
     EXPECT_EQ(m_model.calls(), givenBack);
 }
 
+TEST_F(ColorCorrectionToolDlgTest, ADecisionThatComesAfterItsEndCountsForNoLaterRun)
+{
+    run([this] { m_data->finish(); });
+    emit m_data->signalCancel();
+    m_model.takeCalls();
+    run([this] { m_dialog->close(); });
+    EXPECT_EQ(m_model.calls(), givenBack);
+}
+
 TEST_F(ColorCorrectionToolDlgTest, AClosedWindowCountsAsCancel)
 {
     run([this] { m_dialog->close(); });

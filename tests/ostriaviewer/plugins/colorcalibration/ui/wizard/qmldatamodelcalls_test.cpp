@@ -120,6 +120,14 @@ TEST_F(QmlDataModelCallsTest, AFileThatCannotBeReadDoesNotTouchTheCamera)
     EXPECT_FALSE(m_data.loadSettings(folder.filePath("absent.cst")));
     EXPECT_FALSE(m_data.loadSettings(folder.path())) << "a folder";
     EXPECT_FALSE(m_data.loadSettings(QString()));
+    QFile binary(folder.filePath("binary.cst"));
+    ASSERT_TRUE(binary.open(QIODevice::WriteOnly));
+    binary.write(QByteArray(1000, '\xfe'));
+    binary.close();
+    EXPECT_FALSE(m_data.loadSettings(binary.fileName()));
+    if (QFile::exists("/dev/zero")) {
+        EXPECT_FALSE(m_data.loadSettings("/dev/zero")) << "a file without end";
+    }
     EXPECT_TRUE(m_model.calls().isEmpty());
 }
 

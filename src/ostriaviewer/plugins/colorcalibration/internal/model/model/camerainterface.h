@@ -43,7 +43,8 @@ public:
     /// without an open camera.
     virtual bool LoadSettings(const QString& settings) = 0;
 
-    /// Reads all text from the device, which stays the caller's, and applies it.
+    /// Reads all text from the device, which stays the caller's, and applies it. False if that has
+    /// no setting, or is more than a settings file can be.
     virtual bool LoadSettingsFromDevice(QIODevice* device) = 0;
 
     /// Switches all colour processing and all automatic functions off. True also without an open

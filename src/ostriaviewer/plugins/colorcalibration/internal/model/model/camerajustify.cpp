@@ -14,6 +14,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 using Core::CameraPoolComponents::CameraPtr;
 using Core::ParameterCollection::ParameterCollectionPtr;
@@ -37,10 +38,10 @@ const Name adjustmentSaturation(
     "@CameraDevice/ColorAdjustmentSaturation|@CameraDevice/TvrColorAdjustmentSaturation");
 const QString cameraNodeMap = QStringLiteral("@CameraDevice");
 
-void log(const char* text)
+void log(const QString& text, Core::Logging::ELogLevel level = Core::Logging::Debug)
 {
     static const Core::Logging::CatId category = Core::Logging::getCatId(adapterLogCategory());
-    Core::Logging::createLogEntry(Core::Logging::Debug, category, QLatin1String(text));
+    Core::Logging::createLogEntry(level, category, text);
 }
 
 /// The camera is asked once more: an answer that changes between two questions comes from a camera
@@ -189,7 +190,7 @@ void CameraJustify::SetColorTransformationNeutral()
     if (isOldGeneration(*collection))
         return;
     if (!ParameterWrites(collection).guardedEntry(lightSourcePreset, Name("Off")))
-        log("Couldn't get or write (Tvr)LightSourcePreset");
+        log(Name("Couldn't get or write (Tvr)LightSourcePreset"));
 }
 
 void CameraJustify::WriteColorAdjustment(const ColorAdjustment& adjustment)
@@ -211,8 +212,9 @@ void CameraJustify::WriteColorAdjustment(const ColorAdjustment& adjustment)
             saturation->setValue(adjustment(sectors + sector));
         }
     } else {
-        log("Couldn't get or write one of the following parameters: (Tvr)ColorAdjustmentSelector, "
-            "(Tvr)ColorAdjustmentSaturation, (Tvr)ColorAdjustmentSelector");
+        log(Name("Couldn't get or write one of the following parameters: "
+                 "(Tvr)ColorAdjustmentSelector, (Tvr)ColorAdjustmentSaturation, "
+                 "(Tvr)ColorAdjustmentSelector"));
     }
     persistToUserSet();
 }
@@ -335,8 +337,13 @@ void CameraJustify::CreateBackup(bool initial)
 
 void CameraJustify::RestoreBackup(bool initial)
 {
-    if (!backup(initial).isEmpty())
-        LoadFeaturesFromString(backup(initial));
+    if (backup(initial).isEmpty())
+        return;
+    const QString errors = applyFeatures(backup(initial));
+    if (!errors.isEmpty())
+        log(QStringLiteral("Not all settings of the camera came back; the first that did not: %1")
+                .arg(errors.section(QLatin1Char('\n'), 0, 0)),
+            Core::Logging::Warning);
 }
 
 QString CameraJustify::BackupText(bool initial) const
@@ -353,26 +360,39 @@ QString CameraJustify::SaveFeaturesToString()
 
 void CameraJustify::LoadFeaturesFromString(const QString& text)
 {
-    QString ignoredErrors;
-    parameters()->loadFeatures(text, ignoredErrors, cameraNodeMap);
+    applyFeatures(text);
+}
+
+QString CameraJustify::applyFeatures(const QString& text)
+{
+    QString errors;
+    parameters()->loadFeatures(text, errors, cameraNodeMap);
+    return errors;
 }
 
 void CameraJustify::StoreInUserSet(const QString& name, bool store, bool setAsDefault)
 {
-    m_userSetName = name;
-    m_storeToUserSet = store;
-    m_setUserSetDefault = setAsDefault;
-    persistToUserSet();
+    const auto start = parameters()->enumerationParameter(Name("UserSetDefault"));
+    const QString startBefore = start->isReadable() ? start->value() : QString();
+    const UserSetChoice before = std::exchange(m_userSet, {name, store, setAsDefault});
+    try {
+        persistToUserSet();
+    } catch (...) {
+        m_userSet = before;
+        if (setAsDefault && !startBefore.isEmpty())
+            start->trySetValue(startBefore);
+        throw;
+    }
 }
 
 void CameraJustify::persistToUserSet()
 {
-    if (!m_storeToUserSet)
+    if (!m_userSet.isArmed)
         return;
     const ParameterCollectionPtr collection = parameters();
-    collection->enumerationParameter(Name("UserSetSelector"))->setValue(m_userSetName);
-    if (m_setUserSetDefault)
-        collection->enumerationParameter(Name("UserSetDefault"))->setValue(m_userSetName);
+    collection->enumerationParameter(Name("UserSetSelector"))->setValue(m_userSet.name);
+    if (m_userSet.isDefault)
+        collection->enumerationParameter(Name("UserSetDefault"))->setValue(m_userSet.name);
     collection->commandParameter(Name("UserSetSave"))->execute();
 }
 

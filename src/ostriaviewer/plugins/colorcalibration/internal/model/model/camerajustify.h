@@ -76,7 +76,7 @@ public:
     /// \param initial  which of the two backups
     void CreateBackup(bool initial);
 
-    /// Writes a backup to the camera; nothing if it is empty.
+    /// Writes a backup to the camera; nothing if it is empty. What the camera refuses is logged.
     void RestoreBackup(bool initial);
 
     /// \param initial  which of the two backups
@@ -89,10 +89,10 @@ public:
     /// Lines that the camera refuses are skipped.
     void LoadFeaturesFromString(const QString& text);
 
-    /// Stores the settings in a user set, now and again after each group that is written later.
-    /// \param name          of the user set
-    /// \param store         false disarms
-    /// \param setAsDefault  the camera starts with this set
+    /// Stores the settings in a user set, now and again after each group that is written later. If
+    /// that fails the camera starts with the set that it started with before, and later groups
+    /// store where they did before. \param name          of the user set \param store         false
+    /// disarms \param setAsDefault  the camera starts with this set
     void StoreInUserSet(const QString& name, bool store, bool setAsDefault);
 
 signals:
@@ -100,8 +100,17 @@ signals:
     void AutoBrightnessFinished();
 
 private:
+    /// Where the settings are stored after each group.
+    struct UserSetChoice
+    {
+        QString name = QStringLiteral("UserSet1");
+        bool isArmed = false;
+        bool isDefault = false;
+    };
+
     Core::ParameterCollection::ParameterCollectionPtr parameters() const;
     QString& backup(bool initial);
+    QString applyFeatures(const QString& text);
     void persistToUserSet();
 
     Core::CameraPoolComponents::CameraPtr m_camera;
@@ -109,9 +118,7 @@ private:
     QString m_initialBackup;
     std::unique_ptr<BrightnessRun> m_brightnessRun;
     QRecursiveMutex m_brightnessRunMutex;
-    QString m_userSetName = QStringLiteral("UserSet1");
-    bool m_storeToUserSet = false;
-    bool m_setUserSetDefault = false;
+    UserSetChoice m_userSet;
 };
 
 } // namespace ColorCalibration

@@ -203,6 +203,7 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                        m_currentColors.clear();
                        m_resultsObject = {};
                        m_imageCamera->StopGrabbing();
+                       forgetMeasurement();
                        m_calibration->SetStepColors(StepKey::Original,
                                                     toPatchColors(m_neutralColors, false));
                        m_calibration->ExecuteAll();

@@ -6,6 +6,7 @@
 #include "chartdiscriminator.h"
 #include "guarded.h"
 #include "parameterwrites.h"
+#include "settingsfile.h"
 #include "truncate.h"
 
 #include <QIODevice>
@@ -109,7 +110,7 @@ bool ColorCorrectionModelImpl::LoadSettingsFromDevice(QIODevice* device)
     return guarded("", "ColorCorrectionModelImpl::LoadSettingsFromDevice", false, [&] {
         if (!isCameraOpen() || !device)
             return false;
-        return LoadSettings(QString::fromUtf8(device->readAll()));
+        return LoadSettings(readSettingsText(*device));
     });
 }
 

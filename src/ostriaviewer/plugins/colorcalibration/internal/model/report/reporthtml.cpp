@@ -56,7 +56,8 @@ void appendHead(QStringList& lines, const QString& model, const QJsonObject& res
     lines << QStringLiteral("<meta charset=\"utf-8\">");
     lines << QStringLiteral("<style>");
     lines << QString::fromUtf8(resource(":/ColCal/resources/summary.css"));
-    lines << swatchRules(results.value(QStringLiteral("Colors")).toObject());
+    lines << swatchRules(results.value(QStringLiteral("Colors")).toObject(),
+                         results.value(QStringLiteral("PreciseColors")).toObject().keys());
     lines << QStringLiteral("</style></head>");
 }
 

@@ -18,13 +18,13 @@ QString declaration(const char* property, const QString& text)
 
 } // namespace
 
-QStringList swatchRules(const QJsonObject& colors)
+QStringList swatchRules(const QJsonObject& colors, const QStringList& rows)
 {
     QStringList rules;
     // Rows count from 1, and the header is the first.
     int row = 2;
-    for (const auto& patch : colors) {
-        const QJsonObject kinds = patch.toObject();
+    for (const QString& patch : rows) {
+        const QJsonObject kinds = colors.value(patch).toObject();
         rules.append(
             QStringLiteral("table:first-of-type tr:nth-child(%1){%2}")
                 .arg(row++)

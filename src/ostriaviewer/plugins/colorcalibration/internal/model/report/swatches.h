@@ -10,7 +10,9 @@ namespace ColorCalibration {
 /// Style rules that give each row of the table of colours its colours, as the properties
 /// "--initial", "--target" and "--current"; the style sheet paints them. Rules leave the table's
 /// own text as programs expect it that read the report. Reentrant.
-/// \param colors  "#rrggbb" by patch and kind, in the order of the rows below the header
-QStringList swatchRules(const QJsonObject& colors);
+/// \param colors  "#rrggbb" by patch and kind
+/// \param rows    the patches of the rows below the header, in their order; one that colors lacks
+///                has no swatches
+QStringList swatchRules(const QJsonObject& colors, const QStringList& rows);
 
 } // namespace ColorCalibration

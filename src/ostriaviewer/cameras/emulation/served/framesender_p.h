@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: Apache-2.0
+// Sends images as GigE Vision streams.
+#pragma once
+
+#include "grabresult.h"
+#include "gvcp_p.h"
+#include "udpsocket.h"
+
+#include <chrono>
+#include <memory>
+#include <mutex>
+#include <random>
+
+namespace Cameras::Emulation {
+
+/// Sends frames in packets, and packets of the last frames again. Thread-safe.
+class FrameSender
+{
+public:
+    struct Target
+    {
+        std::uint32_t address = 0;
+        std::uint16_t port = 0; ///< 0: nothing is sent
+        std::size_t packetSize = 0;
+        std::chrono::nanoseconds packetDelay = {};
+    };
+
+    explicit FrameSender(std::shared_ptr<UdpSocket> socket);
+
+    void setTarget(const Target& target);
+
+    /// Sends a frame; a failed one becomes a number that is left out.
+    void send(const Ostria::CGrabResultPtr& frame);
+
+    /// Sends packets of one of the last frames again, if it still is there.
+    void sendAgain(std::uint16_t frameId, std::uint32_t firstPacket, std::uint32_t lastPacket);
+
+    /// A packet by which a client finds out what size gets through.
+    void sendTestPacket();
+
+    /// Lets that share of all packets vanish, from 0 to 1.
+    void losePackets(double share);
+
+private:
+    struct SentFrame
+    {
+        std::uint16_t id = 0;
+        Ostria::COstriaImage image;
+    };
+
+    std::size_t payloadSize() const;
+    std::uint32_t packetCount(const SentFrame& frame) const;
+    Gvcp::Bytes packet(const SentFrame& frame, std::uint32_t index) const;
+    Gvcp::Bytes leader(const SentFrame& frame) const;
+    void transmit(const Gvcp::Bytes& packet);
+
+    const std::shared_ptr<UdpSocket> m_socket;
+
+    std::mutex m_mutex; // guards all below
+    Target m_target;
+    SentFrame m_last;
+    std::uint16_t m_nextId = 1;
+    double m_loss = 0.0;
+    std::minstd_rand m_chance;
+};
+
+} // namespace Cameras::Emulation

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: Apache-2.0
+// Serves a camera of this program as a GigE Vision device.
+#include "gigeserver.h"
+
+#include "controlchannel_p.h"
+#include "udpsocket.h"
+
+#include <array>
+#include <atomic>
+#include <cstdio>
+#include <stdexcept>
+#include <thread>
+#include <utility>
+
+namespace Cameras::Emulation {
+namespace {
+
+constexpr std::chrono::milliseconds pollTime(20);
+constexpr std::uint32_t everybody = 0xffffffff;
+
+std::uint32_t parseAddress(const std::string& text)
+{
+    std::array<unsigned, 4> parts{};
+    char rest = 0;
+    const int count = std::sscanf(text.c_str(), "%u.%u.%u.%u%c", &parts[0], &parts[1], &parts[2],
+                                  &parts[3], &rest);
+    std::uint32_t address = 0;
+    for (const unsigned part : parts) {
+        if (count != 4 || part > 255)
+            throw std::runtime_error("\"" + text + "\" is no IPv4 address");
+        address = address << 8 | part;
+    }
+    return address;
+}
+
+std::shared_ptr<UdpSocket> openSocket(const std::string& address)
+{
+    const std::uint32_t number = parseAddress(address);
+    try {
+        return std::make_shared<UdpSocket>(UdpAddress{number, Gvcp::port}, false);
+    } catch (const std::runtime_error& error) {
+        throw std::runtime_error("cannot serve a camera at " + address + " (" + error.what() + ")");
+    }
+}
+
+/// Broadcasts come to a socket of their own. Null where that cannot be had: clients must know the
+/// address then.
+std::unique_ptr<UdpSocket> openBroadcastSocket()
+{
+    try {
+        return std::make_unique<UdpSocket>(UdpAddress{everybody, Gvcp::port}, true);
+    } catch (const std::runtime_error&) {
+        return nullptr;
+    }
+}
+
+} // namespace
+
+class GigeServer::Worker
+{
+public:
+    Worker(std::shared_ptr<IServedDevice> device, const std::string& address)
+        : m_device(std::move(device))
+        , m_socket(openSocket(address))
+        , m_broadcasts(openBroadcastSocket())
+        , m_sender(std::make_shared<FrameSender>(m_socket))
+        , m_channel(m_device, m_sender, parseAddress(address))
+        , m_control([this] { answerRequests(); })
+        , m_discovery([this] { answerDiscoveries(); })
+    {
+        m_device->setReceiver(
+            [sender = m_sender](const Ostria::CGrabResultPtr& frame) { sender->send(frame); });
+    }
+
+    ~Worker()
+    {
+        m_isEnding = true;
+        m_control.join();
+        m_discovery.join();
+        m_device->setReceiver({});
+        m_device->stopAcquisition();
+    }
+    Worker(const Worker&) = delete;
+    Worker& operator=(const Worker&) = delete;
+
+    FrameSender& sender() { return *m_sender; }
+
+private:
+    void answerRequests()
+    {
+        while (!m_isEnding) {
+            if (const auto datagram = m_socket->receive(pollTime)) {
+                const Gvcp::Bytes answer = m_channel.handle(datagram->bytes, datagram->sender);
+                if (!answer.empty())
+                    m_socket->send(answer, datagram->sender);
+            }
+            m_channel.checkHeartbeat();
+        }
+    }
+
+    void answerDiscoveries()
+    {
+        while (m_broadcasts && !m_isEnding) {
+            const auto datagram = m_broadcasts->receive(pollTime);
+            const auto request = datagram
+                                     ? Gvcp::parse(datagram->bytes.data(), datagram->bytes.size())
+                                     : std::nullopt;
+            if (request && request->command == static_cast<std::uint16_t>(Gvcp::Command::Discovery))
+                m_socket->send(
+                    Gvcp::answer(*request, Gvcp::Status::Success, m_channel.discoveryAnswer()),
+                    datagram->sender);
+        }
+    }
+
+    const std::shared_ptr<IServedDevice> m_device;
+    const std::shared_ptr<UdpSocket> m_socket;
+    const std::unique_ptr<UdpSocket> m_broadcasts;
+    const std::shared_ptr<FrameSender> m_sender;
+    ControlChannel m_channel;
+    std::atomic<bool> m_isEnding = false;
+    std::thread m_control;
+    std::thread m_discovery;
+};
+
+GigeServer::GigeServer(std::shared_ptr<IServedDevice> device, const std::string& address)
+    : m_worker(std::make_unique<Worker>(std::move(device), address))
+{}
+
+GigeServer::~GigeServer() = default;
+
+void GigeServer::losePackets(double share)
+{
+    m_worker->sender().losePackets(share);
+}
+
+} // namespace Cameras::Emulation

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+// Looks for cameras while the program does something else.
+#pragma once
+
+#include "cameraidentity.h"
+#include "transportsettings.h"
+
+#include <QObject>
+#include <QVector>
+
+namespace Cameras::GenICam {
+
+/// Looks for cameras on a thread of its own. Thread-bound.
+class CameraFinder final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CameraFinder(QObject* parent = nullptr);
+
+    /// Returns at once; found follows. Does nothing while it is looking already.
+    void start(const TransportSettings& settings);
+
+signals:
+    /// All cameras of this search, on the finder's thread.
+    void found(const QVector<Cameras::GenICam::CameraIdentity>& cameras);
+
+private:
+    bool m_isLooking = false;
+};
+
+} // namespace Cameras::GenICam

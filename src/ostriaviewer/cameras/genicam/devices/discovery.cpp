@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: Apache-2.0
+// Looks for cameras.
+#include "discovery.h"
+
+#include "udpsocket.h"
+
+#include <arv.h>
+
+#include <QHostAddress>
+#include <QNetworkInterface>
+
+#include <algorithm>
+#include <memory>
+#include <mutex>
+#include <stdexcept>
+#include <vector>
+
+namespace Cameras::GenICam {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Bytes = std::vector<std::uint8_t>;
+using Sockets = std::vector<std::unique_ptr<UdpSocket>>;
+
+constexpr std::uint16_t controlPort = 3956;
+constexpr std::uint32_t everybody = 0xffffffff;
+constexpr std::uint16_t requestId = 0x4f53;
+
+bool isWanted(const QNetworkInterface& interface, const TransportSettings& settings)
+{
+    const auto flags = interface.flags();
+    if (!flags.testFlag(QNetworkInterface::IsUp) || !flags.testFlag(QNetworkInterface::IsRunning))
+        return false;
+    return settings.interfaces.isEmpty() ? !flags.testFlag(QNetworkInterface::IsLoopBack)
+                                         : settings.interfaces.contains(interface.name());
+}
+
+/// A camera whose address does not belong to the network hears the first broadcast alone.
+void ask(UdpSocket& socket, const QNetworkAddressEntry& entry)
+{
+    const Bytes request = {0x42, 0x11, 0, 2, 0, 0, requestId >> 8, requestId & 0xff};
+    socket.send(request, {everybody, controlPort});
+    const QHostAddress network = entry.broadcast();
+    if (!network.isNull())
+        socket.send(request, {network.toIPv4Address(), controlPort});
+}
+
+Sockets askEverywhere(const TransportSettings& settings)
+{
+    Sockets sockets;
+    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
+        if (!isWanted(interface, settings))
+            continue;
+        for (const QNetworkAddressEntry& entry : interface.addressEntries()) {
+            if (entry.ip().protocol() != QAbstractSocket::IPv4Protocol)
+                continue;
+            try {
+                auto socket =
+                    std::make_unique<UdpSocket>(UdpAddress{entry.ip().toIPv4Address(), 0}, false);
+                ask(*socket, entry);
+                sockets.push_back(std::move(socket));
+            } catch (const std::runtime_error&) {
+                continue; // the interface has just gone
+            }
+        }
+    }
+    return sockets;
+}
+
+QString textAt(const Bytes& bytes, std::size_t offset, std::size_t room)
+{
+    const auto first = bytes.begin() + static_cast<std::ptrdiff_t>(offset);
+    const auto end = std::find(first, first + static_cast<std::ptrdiff_t>(room), 0);
+    return QString::fromUtf8(QByteArray(reinterpret_cast<const char*>(bytes.data() + offset),
+                                        static_cast<int>(end - first)))
+        .trimmed();
+}
+
+/// Adds the camera that an answer tells of, if it is an answer.
+void addCamera(QVector<CameraIdentity>& cameras, const Bytes& answer)
+{
+    constexpr std::size_t header = 8;
+    constexpr std::size_t registers = 0xf8;
+    const auto number16 = [&answer](std::size_t offset) {
+        return answer[offset] << 8 | answer[offset + 1];
+    };
+    if (answer.size() < header + registers || number16(0) != 0 || number16(2) != 3 ||
+        number16(6) != requestId)
+        return;
+    const auto ip = static_cast<quint32>(number16(header + 0x24)) << 16 |
+                    static_cast<quint32>(number16(header + 0x26));
+    const CameraIdentity camera{QHostAddress(ip).toString(), textAt(answer, header + 0x68, 32),
+                                textAt(answer, header + 0xd8, 16), true};
+    if (!cameras.contains(camera))
+        cameras.append(camera);
+}
+
+} // namespace
+
+QVector<CameraIdentity> findNetworkCameras(const TransportSettings& settings,
+                                           std::chrono::milliseconds time)
+{
+    constexpr std::chrono::milliseconds slice(10);
+    const Sockets sockets = askEverywhere(settings);
+    QVector<CameraIdentity> cameras;
+    const Clock::time_point end = Clock::now() + time;
+    while (!sockets.empty() && Clock::now() < end)
+        for (const auto& socket : sockets)
+            if (const auto datagram = socket->receive(slice))
+                addCamera(cameras, datagram->bytes);
+    return cameras;
+}
+
+// The library's list is one for the whole program.
+QVector<CameraIdentity> findUsbCameras()
+{
+    static std::mutex mutex;
+    const std::lock_guard lock(mutex);
+    arv_disable_interface("GigEVision");
+    arv_update_device_list();
+    QVector<CameraIdentity> cameras;
+    for (unsigned index = 0; index < arv_get_n_devices(); ++index)
+        cameras.append({QString::fromUtf8(arv_get_device_id(index)),
+                        QString::fromUtf8(arv_get_device_model(index)),
+                        QString::fromUtf8(arv_get_device_serial_nbr(index)), false});
+    return cameras;
+}
+
+} // namespace Cameras::GenICam

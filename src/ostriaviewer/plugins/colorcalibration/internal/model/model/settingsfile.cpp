@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+// Settings files that a user has chosen.
+#include "settingsfile.h"
+
+#include "baseexception.h"
+
+#include <QFileDevice>
+#include <QStringRef>
+
+namespace ColorCalibration {
+namespace {
+
+QByteArray readAll(QIODevice& device)
+{
+    constexpr qint64 longestFile = 16 * 1024 * 1024;
+    // Devices and pipes do not tell their size.
+    QByteArray bytes;
+    while (bytes.size() <= longestFile) {
+        const QByteArray next = device.read(longestFile + 1 - bytes.size());
+        if (next.isEmpty())
+            return bytes;
+        bytes += next;
+    }
+    throw Core::Exception::BaseException(
+        QStringLiteral("The file is too large for a settings file."));
+}
+
+} // namespace
+
+QString readSettingsText(QIODevice& device)
+{
+    const QString text = QString::fromUtf8(readAll(device));
+    const auto* file = qobject_cast<const QFileDevice*>(&device);
+    if (file && file->error() != QFileDevice::NoError)
+        throw Core::Exception::BaseException(file->errorString());
+    if (settingNames(text).isEmpty())
+        throw Core::Exception::BaseException(
+            QStringLiteral("This is no settings file: no line has a feature's name, a tab and a "
+                           "value."));
+    return text;
+}
+
+QVector<QString> settingNames(const QString& text)
+{
+    QVector<QString> names;
+    for (const QStringRef& line : text.splitRef(QLatin1Char('\n'))) {
+        const int tab = line.indexOf(QLatin1Char('\t'));
+        if (tab > 0 && !line.startsWith(QLatin1Char('#')))
+            names.append(line.left(tab).toString());
+    }
+    return names;
+}
+
+} // namespace ColorCalibration

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which cameras a subcommand looks at, from its options.
+#include "backends.h"
+
+#include "command.h"
+
+#include <QRegularExpression>
+
+namespace ColorCalibrate {
+namespace {
+
+void requireAddress(const QString& address)
+{
+    static const QRegularExpression form(QStringLiteral("^(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})\\."
+                                                        "(\\d{1,3})$"));
+    const QRegularExpressionMatch match = form.match(address);
+    bool isAddress = match.hasMatch();
+    for (int part = 1; part <= 4; ++part)
+        isAddress = isAddress && match.captured(part).toInt() <= 255;
+    if (!isAddress)
+        throw CommandError(
+            QStringLiteral("--address is an IPv4 address such as 192.168.1.20, not \"%1\"")
+                .arg(address),
+            WrongUsage);
+}
+
+int readPacketSize(const QString& text)
+{
+    constexpr int smallest = 576;
+    constexpr int largest = 16384;
+    bool isNumber = false;
+    const int size = text.toInt(&isNumber);
+    if (!isNumber || size < smallest || size > largest)
+        throw CommandError(QStringLiteral("--packet-size is a number of bytes from %1 to %2, not "
+                                          "\"%3\"")
+                               .arg(smallest)
+                               .arg(largest)
+                               .arg(text),
+                           WrongUsage);
+    return size;
+}
+
+} // namespace
+
+void addCameraOptions(CommandLine& line)
+{
+    line.addOption(QStringLiteral("backend"),
+                   QStringLiteral("\"emulation\", the default: emulated cameras; \"genicam\": "
+                                  "cameras on the network and on USB, which are looked for with "
+                                  "broadcasts; \"all\": both."),
+                   QStringLiteral("kind"));
+    line.addOption(QStringLiteral("address"),
+                   QStringLiteral("The IP address of a network camera, which is asked alone."),
+                   QStringLiteral("ip"));
+    line.addOption(QStringLiteral("interfaces"),
+                   QStringLiteral("Look for cameras on these network interfaces alone, separated "
+                                  "by commas, as in \"eth1,eth2\"."),
+                   QStringLiteral("names"));
+    line.addOption(QStringLiteral("packet-size"),
+                   QStringLiteral("Bytes of an image packet, instead of as many as get through."),
+                   QStringLiteral("bytes"));
+}
+
+CameraSelection readCameraOptions(const CommandLine& line)
+{
+    CameraSelection selection;
+    const QString backend = line.isSet(QStringLiteral("backend"))
+                                ? line.value(QStringLiteral("backend"))
+                                : QStringLiteral("emulation");
+    if (backend != QLatin1String("emulation") && backend != QLatin1String("genicam") &&
+        backend != QLatin1String("all"))
+        throw CommandError(
+            QStringLiteral("--backend is \"emulation\", \"genicam\" or \"all\", not \"%1\"")
+                .arg(backend),
+            WrongUsage);
+    selection.hasEmulated = backend != QLatin1String("genicam");
+    selection.isLooking = backend != QLatin1String("emulation");
+    selection.interfaces =
+        line.value(QStringLiteral("interfaces")).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    if (line.isSet(QStringLiteral("packet-size")))
+        selection.packetSize = readPacketSize(line.value(QStringLiteral("packet-size")));
+    selection.address = line.value(QStringLiteral("address"));
+    if (selection.address.isEmpty())
+        return selection;
+    requireAddress(selection.address);
+    selection.hasEmulated = false;
+    selection.isLooking = false;
+    return selection;
+}
+
+} // namespace ColorCalibrate

@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: Apache-2.0
+// What only a camera behind a cable does.
+#include "camerafinder.h"
+#include "camerarig.h"
+#include "discovery.h"
+#include "emulationtest.h"
+#include "frameprobe.h"
+#include "servedemulation.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include <chrono>
+#include <cstring>
+
+using namespace Cameras;
+using Emulation::smallModel;
+using GenICam::GenicamCamera;
+
+namespace {
+
+class GenicamCameraTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!hasLoopback())
+            GTEST_SKIP() << "the system gives no network of its own";
+    }
+
+    static auto mode(const HostCameraPtr& camera)
+    {
+        return camera->parameterCollection()->enumerationParameter(
+            QStringLiteral("AcquisitionMode"));
+    }
+};
+
+/// A served camera with another description.
+class Misdescribed final : public Emulation::IServedDevice
+{
+public:
+    Misdescribed(std::shared_ptr<Emulation::IServedDevice> device, std::string description)
+        : m_device(std::move(device))
+        , m_description(std::move(description))
+    {}
+
+    Emulation::ServedIdentity identity() const override { return m_device->identity(); }
+    std::string description() const override { return m_description; }
+    void setReceiver(Receiver receiver) override { m_device->setReceiver(std::move(receiver)); }
+    void stopAcquisition() override { m_device->stopAcquisition(); }
+    void read(std::uint64_t address, void* data, std::size_t size) override
+    {
+        m_device->read(address, data, size);
+    }
+    void write(std::uint64_t address, const void* data, std::size_t size) override
+    {
+        m_device->write(address, data, size);
+    }
+
+private:
+    const std::shared_ptr<Emulation::IServedDevice> m_device;
+    const std::string m_description;
+};
+
+struct BrokenDescription
+{
+    const char* name;
+    const char* xml;
+    const char* word; ///< that the message holds
+};
+
+class BrokenDescriptionTest : public GenicamCameraTest,
+                              public testing::WithParamInterface<BrokenDescription>
+{};
+
+} // namespace
+
+TEST_F(GenicamCameraTest, NamesAnAddressAtWhichNobodyAnswers)
+{
+    const auto camera = GenicamCamera::create(GenICam::cameraAt(QStringLiteral("127.0.0.9")));
+    EXPECT_FALSE(camera->open());
+    EXPECT_TRUE(camera->lastErrorText().contains(QLatin1String("127.0.0.9")))
+        << camera->lastErrorText().toStdString();
+    EXPECT_EQ(camera->displayName(), QStringLiteral("127.0.0.9"));
+    EXPECT_FALSE(camera->isOpen());
+}
+
+TEST_F(GenicamCameraTest, LeavesTheAcquisitionModeAsItWas)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    for (const char* entry : {"SingleFrame", "Continuous"}) {
+        const QString wanted = QString::fromLatin1(entry);
+        mode(camera)->setValue(wanted);
+        FrameProbe probe(camera);
+        ASSERT_TRUE(camera->grabSingle());
+        ASSERT_TRUE(probe.waitFor(1));
+        EXPECT_EQ(mode(camera)->value(), wanted);
+        ASSERT_TRUE(camera->startGrabbing());
+        ASSERT_TRUE(probe.waitFor(3));
+        camera->stopGrabbing();
+        EXPECT_EQ(mode(camera)->value(), wanted);
+    }
+}
+
+TEST_F(GenicamCameraTest, PutsTheAcquisitionModeBackWhenNoImageComes)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    rig.served().faults().loseFrames(-1);
+    FrameProbe probe(camera);
+    ASSERT_TRUE(camera->grabSingle(100));
+    EXPECT_TRUE(becomes([&] { return mode(camera)->value() == QLatin1String("Continuous"); }));
+    EXPECT_EQ(probe.count(), 0U);
+    rig.served().faults().loseFrames(0);
+    ASSERT_TRUE(camera->grabSingle());
+    EXPECT_TRUE(probe.waitFor(1));
+}
+
+TEST_F(GenicamCameraTest, ShowsWholeImagesAloneWhenHalfOfThePacketsAreLost)
+{
+    ProcessRig reference(smallModel());
+    NetworkRig rig(smallModel());
+    for (CameraRig* each : {static_cast<CameraRig*>(&reference), static_cast<CameraRig*>(&rig)}) {
+        ASSERT_TRUE(each->camera()->open());
+        const auto parameters = each->camera()->parameterCollection();
+        parameters->enumerationParameter(QStringLiteral("TestPattern"))
+            ->setValue(QStringLiteral("ColorBar"));
+    }
+    FrameProbe wanted(reference.camera());
+    ASSERT_TRUE(reference.camera()->grabSingle());
+    ASSERT_TRUE(wanted.waitFor(1));
+    const Ostria::COstriaImage whole = wanted.results().front()->image();
+
+    rig.server().losePackets(0.5);
+    FrameProbe probe(rig.camera());
+    ASSERT_TRUE(rig.camera()->startGrabbing());
+    EXPECT_TRUE(becomes([&] {
+        const auto statistics = rig.client()->statistics();
+        return statistics.delivered + statistics.damaged >= 20;
+    }));
+    rig.camera()->stopGrabbing();
+    for (const auto& result : probe.results()) {
+        ASSERT_TRUE(result->GrabSucceeded()) << result->errorText();
+        ASSERT_EQ(result->image().size(), whole.size());
+        EXPECT_EQ(std::memcmp(result->image().data(), whole.data(), whole.size()), 0);
+    }
+    rig.server().losePackets(0.0);
+    const std::size_t before = probe.count();
+    ASSERT_TRUE(rig.camera()->grabSingle());
+    EXPECT_TRUE(probe.waitFor(before + 1));
+}
+
+TEST_F(GenicamCameraTest, GivesUpACameraThatDoesNotAnswerAnAccess)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    const auto gain = camera->parameterCollection()->floatParameter(QStringLiteral("Gain"));
+    rig.vanish();
+    EXPECT_FALSE(gain->trySetValue(3.0));
+    EXPECT_TRUE(becomes([&] { return !camera->isOpen(); }));
+}
+
+TEST_F(GenicamCameraTest, OpensAndClosesManyTimes)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    for (int round = 0; round < 100; ++round) {
+        ASSERT_TRUE(camera->open()) << round << ": " << camera->lastErrorText().toStdString();
+        camera->close();
+        ASSERT_FALSE(camera->isOpen());
+    }
+}
+
+TEST_F(GenicamCameraTest, WorksWithoutFeaturesThatOthersHave)
+{
+    NetworkRig rig(smallModel(), {QStringLiteral("AcquisitionMode"), QStringLiteral("Gain")});
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    EXPECT_TRUE(camera->parameterCollection()->floatParameter(QStringLiteral("Gain"))->isEmpty());
+    FrameProbe probe(camera);
+    ASSERT_TRUE(camera->grabSingle());
+    ASSERT_TRUE(probe.waitFor(1));
+    EXPECT_TRUE(probe.results().front()->GrabSucceeded());
+}
+
+TEST_F(GenicamCameraTest, NamesTheFeatureThatItCannotGrabWithout)
+{
+    for (const char* feature : {"PayloadSize", "AcquisitionStart"}) {
+        NetworkRig rig(smallModel(), {QString::fromLatin1(feature)});
+        const HostCameraPtr camera = rig.camera();
+        ASSERT_TRUE(camera->open());
+        EXPECT_FALSE(camera->grabSingle());
+        EXPECT_TRUE(camera->lastErrorText().contains(QLatin1String(feature)))
+            << camera->lastErrorText().toStdString();
+        EXPECT_FALSE(camera->isGrabbing());
+    }
+}
+
+TEST_P(BrokenDescriptionTest, IsRefusedWithAReason)
+{
+    NetworkRig rig(smallModel());
+    rig.vanish();
+    QTemporaryDir folder;
+    Emulation::EmulationOptions options;
+    options.settingsFolder = folder.path();
+    options.hasTransport = true;
+    const auto served = Emulation::EmulatedCamera::create(smallModel(), options);
+    ASSERT_TRUE(served->open());
+    const Emulation::GigeServer server(
+        std::make_shared<Misdescribed>(Emulation::serveEmulation(served), GetParam().xml),
+        NetworkRig::address());
+    EXPECT_FALSE(rig.camera()->open());
+    EXPECT_TRUE(rig.camera()->lastErrorText().contains(QLatin1String(GetParam().word)))
+        << rig.camera()->lastErrorText().toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, BrokenDescriptionTest,
+    testing::Values(BrokenDescription{"CutOff", "<RegisterDescription><Category", "description"},
+                    BrokenDescription{"NoDescription", "<html></html>", "description"},
+                    BrokenDescription{"NoXml", "hello", "description"},
+                    BrokenDescription{"NoTree", "<RegisterDescription></RegisterDescription>",
+                                      "description"}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST_F(GenicamCameraTest, RefusesARegisterThatTheCameraDoesNotHave)
+{
+    NetworkRig rig(smallModel());
+    rig.vanish();
+    std::string xml = rig.served().description();
+    const std::string place = "<FloatReg Name=\"Gain_Register\">";
+    const std::size_t at = xml.find("<Address>", xml.find(place)) + std::strlen("<Address>");
+    xml.replace(at, xml.find('<', at) - at, "0x7ffff0");
+    const Emulation::GigeServer server(
+        std::make_shared<Misdescribed>(
+            Emulation::serveEmulation(
+                rig.served().sharedFromThis().staticCast<Emulation::EmulatedCamera>()),
+            xml),
+        NetworkRig::address());
+    ASSERT_TRUE(rig.camera()->open()) << rig.camera()->lastErrorText().toStdString();
+    const auto gain = rig.camera()->parameterCollection()->floatParameter(QStringLiteral("Gain"));
+    try {
+        gain->value();
+        FAIL() << "there is no such register";
+    } catch (const std::exception& error) {
+        EXPECT_NE(std::string(error.what()).find("Gain"), std::string::npos) << error.what();
+    }
+    EXPECT_TRUE(rig.camera()->isOpen());
+}
+
+TEST_F(GenicamCameraTest, IsFoundByItsNamesOnTheInterfacesThatAreAllowed)
+{
+    NetworkRig rig(smallModel());
+    GenICam::TransportSettings settings;
+    EXPECT_TRUE(GenICam::findNetworkCameras(settings, std::chrono::milliseconds(50)).isEmpty());
+    settings.interfaces = QStringList{QStringLiteral("lo")};
+    const auto cameras = GenICam::findNetworkCameras(settings);
+    ASSERT_EQ(cameras.size(), 1);
+    EXPECT_EQ(cameras.front().id, QString::fromLatin1(NetworkRig::address()));
+    EXPECT_EQ(cameras.front().modelName, smallModel().name);
+    EXPECT_EQ(cameras.front().serialNumber, smallModel().serialNumber);
+}
+
+TEST_F(GenicamCameraTest, IsFoundWhileTheProgramGoesOn)
+{
+    int count = 0;
+    char name[] = "test";
+    char* arguments[] = {name, nullptr};
+    QCoreApplication application(count, arguments);
+    NetworkRig rig(smallModel());
+    GenICam::TransportSettings settings;
+    settings.interfaces = QStringList{QStringLiteral("lo")};
+    GenICam::CameraFinder finder;
+    QVector<GenICam::CameraIdentity> cameras;
+    QEventLoop loop;
+    QObject::connect(&finder, &GenICam::CameraFinder::found, &loop, [&](const auto& found) {
+        cameras = found;
+        loop.quit();
+    });
+    finder.start(settings);
+    EXPECT_TRUE(cameras.isEmpty());
+    loop.exec();
+    ASSERT_FALSE(cameras.isEmpty());
+    EXPECT_EQ(cameras.front().modelName, smallModel().name);
+}

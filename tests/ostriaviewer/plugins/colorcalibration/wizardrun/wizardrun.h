@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+// The wizard's window, scene and model on an emulated camera, driven as a user drives it.
+#pragma once
+
+#include "camerapool.h"
+#include "colorcorrectionmodel.h"
+#include "colorcorrectiontooldlg.h"
+#include "emulationtest.h"
+#include "qmldatamodelinterface.h"
+
+#include <QMessageBox>
+#include <QQuickItem>
+
+#include <functional>
+#include <memory>
+
+class WizardRun : public Cameras::Emulation::EmulationTest
+{
+protected:
+    using FeatureNames = Cameras::Emulation::FeatureNames;
+
+    /// No message of QML may go unseen: a test that meets one fails.
+    WizardRun();
+    ~WizardRun() override;
+
+    /// Opens a camera for the host, before the chart and with settings of the user's own.
+    void openCamera(FeatureNames names);
+
+    /// Starts the wizard as the plugin does, does this in it, and returns when it has ended. A
+    /// window that is still open after it counts as a failure.
+    void run(const std::function<void()>& inWizard);
+
+    /// Puts the grid on the chart, adjusts the brightness, and goes on to a step. Ends with the
+    /// step's first image.
+    void goTo(int step);
+
+    void click(const char* name);
+    void press(Qt::Key key);
+    /// Answers the question whether to give the calibration up.
+    void confirm();
+    QQuickItem* item(const char* name);
+    static bool waitFor(const std::function<bool()>& condition);
+
+    /// The camera's settings, without comments.
+    QStringList settings();
+    /// The value of a feature, with the selector at an entry if there is one.
+    double value(const QString& feature, const QString& selector = {}, const QString& entry = {});
+    /// The same for one of the gains of the color matrix.
+    double gain(int row, int column);
+
+    QSharedPointer<Cameras::Emulation::EmulatedCamera> m_camera;
+    Core::Service::CServiceRegistry m_registry;
+    std::unique_ptr<Cameras::CameraPool> m_pool;
+    ColorCalibration::ColorCorrectionModel m_model;
+    std::unique_ptr<ColorCalibration::QmlDataModelInterface> m_data;
+    std::unique_ptr<ColorCalibration::ColorCorrectionToolDlg> m_dialog;
+
+private:
+    void adjustBrightness();
+    void next(int step);
+    static QMessageBox* box();
+};
