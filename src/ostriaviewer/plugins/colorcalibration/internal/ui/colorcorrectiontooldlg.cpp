@@ -36,6 +36,8 @@ ColorCorrectionToolDlg::ColorCorrectionToolDlg(
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_container);
+    // The pages decide what keys do, from the first moment on.
+    m_container->setFocus();
     showScene();
 }
 
