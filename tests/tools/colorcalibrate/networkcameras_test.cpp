@@ -127,7 +127,7 @@ TEST_F(NetworkCameras, AreMissedWhereverTheyVanish)
     options.adjustExposure = false;
     constexpr int enough = 30;
     QString lastStep;
-    for (int last = 0; last < enough && lastStep != QLatin1String("Measuring the outcome");
+    for (int last = 0; last < enough && lastStep != QLatin1String("Collecting the results");
          ++last) {
         ASSERT_TRUE(camera->open()) << last << ": " << camera->lastErrorText().toStdString();
         camera->parameterCollection()
@@ -151,7 +151,7 @@ TEST_F(NetworkCameras, AreMissedWhereverTheyVanish)
         loadFactorySettings();
         serve();
     }
-    EXPECT_EQ(lastStep, QStringLiteral("Measuring the outcome"));
+    EXPECT_EQ(lastStep.toStdString(), "Collecting the results");
 }
 
 TEST_F(NetworkCameras, RefuseOptionsThatMeanNothing)

@@ -2,23 +2,56 @@
 // Notices that a network camera does not answer any more.
 #include "devicewatch_p.h"
 
-#include "gerrorslot_p.h"
+#include "udpsocket.h"
 
 #include <arv.h>
 
 #include <chrono>
+#include <exception>
 #include <utility>
+#include <vector>
 
 namespace Cameras::GenICam {
+namespace {
+
+constexpr std::uint16_t controlPort = 3956;
+
+UdpAddress addressOf(ArvDevice* device)
+{
+    GSocketAddress* socket = arv_gv_device_get_device_address(ARV_GV_DEVICE(device));
+    GInetAddress* address = g_inet_socket_address_get_address(G_INET_SOCKET_ADDRESS(socket));
+    const guint8* bytes = g_inet_address_to_bytes(address);
+    std::uint32_t number = 0;
+    for (int i = 0; i < 4; ++i)
+        number = number << 8 | bytes[i];
+    return {number, controlPort};
+}
+
+/// Reads the version register, which every client may. The library's own accesses wait for each
+/// other, so that a lost camera would be noticed after several of them alone.
+bool answers(UdpSocket& socket, const UdpAddress& camera)
+{
+    constexpr int attempts = 4;
+    constexpr std::chrono::milliseconds patience(600);
+    const std::vector<std::uint8_t> request = {0x42, 0x01, 0, 0x80, 0, 4, 0x4f, 0x53, 0, 0, 0, 0};
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        socket.send(request, camera);
+        if (socket.receive(patience))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 DeviceWatch::DeviceWatch(ArvDevice* device, std::function<void()> lost)
 {
-    if (ARV_IS_GV_DEVICE(device))
-        m_ended = std::async(std::launch::async, [this, device, lost = std::move(lost)] {
-                      run(device, lost);
-                  }).share();
-    else
-        m_ended = std::async(std::launch::deferred, [] {}).share();
+    if (!ARV_IS_GV_DEVICE(device))
+        return;
+    m_ended =
+        std::async(std::launch::async, [this, camera = addressOf(device), lost = std::move(lost)] {
+            run(camera, lost);
+        }).share();
 }
 
 void DeviceWatch::end()
@@ -28,6 +61,12 @@ void DeviceWatch::end()
     m_changed.notify_all();
 }
 
+void DeviceWatch::wait() const
+{
+    if (m_ended.valid())
+        m_ended.wait();
+}
+
 bool DeviceWatch::isEndingAfterPause()
 {
     constexpr std::chrono::seconds pause(1);
@@ -35,16 +74,21 @@ bool DeviceWatch::isEndingAfterPause()
     return m_changed.wait_for(lock, pause, [this] { return m_isEnding; });
 }
 
-// Reading a register is the one thing that the library allows on any thread.
-void DeviceWatch::run(ArvDevice* device, const std::function<void()>& lost)
+// A camera that answers its controller alone is left to the library's heartbeat.
+void DeviceWatch::run(const UdpAddress& camera, const std::function<void()>& lost)
 {
-    while (!isEndingAfterPause()) {
-        GErrorSlot error;
-        guint32 version = 0;
-        if (arv_device_read_register(device, 0, &version, error) || !error.isTimeout())
-            continue;
-        lost();
-        return;
+    try {
+        UdpSocket socket({0, 0}, false);
+        if (!answers(socket, camera))
+            return;
+        while (!isEndingAfterPause()) {
+            if (answers(socket, camera))
+                continue;
+            lost();
+            return;
+        }
+    } catch (const std::exception&) {
+        return; // no socket can be had
     }
 }
 

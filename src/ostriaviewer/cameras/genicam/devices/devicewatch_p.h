@@ -2,6 +2,8 @@
 // Notices that a network camera does not answer any more.
 #pragma once
 
+#include "udpsocket.h"
+
 #include <condition_variable>
 #include <functional>
 #include <future>
@@ -16,7 +18,7 @@ namespace Cameras::GenICam {
 class DeviceWatch
 {
 public:
-    /// \param device  lent until the watch has ended
+    /// \param device  lent for the call
     /// \param lost    called once, on the watch's thread, when the camera does not answer
     DeviceWatch(ArvDevice* device, std::function<void()> lost);
 
@@ -24,15 +26,15 @@ public:
     void end();
 
     /// Waits until it has ended.
-    void wait() const { m_ended.wait(); }
+    void wait() const;
 
 private:
     bool isEndingAfterPause();
-    void run(ArvDevice* device, const std::function<void()>& lost);
+    void run(const UdpAddress& camera, const std::function<void()>& lost);
 
-    std::mutex m_mutex; // guards all below
+    std::mutex m_mutex;
     std::condition_variable m_changed;
-    bool m_isEnding = false;
+    bool m_isEnding = false; // guarded by the mutex
     std::shared_future<void> m_ended;
 };
 
