@@ -55,7 +55,7 @@ void calibrateOnce(EmulatedHost& host)
 
 TEST(RepeatedCalibration, LeavesNeitherMemoryNorThreadsNorFilesBehind)
 {
-    constexpr int warmUp = 20;
+    constexpr int warmUp = 100; // caches go on filling for some 75 cycles
     constexpr int cycles = 200;
     auto model = reduced(supportedModels().at(1));
     model.sensor.fullScaleExposure = 1820.0; // ten times as fast as it is
