@@ -204,6 +204,7 @@ void CalibrationSequence::balanceWhite(bool mayChangeExposure)
 {
     ExposureSearch search(m_model, mayChangeExposure);
     for (;;) {
+        const quint64 imagesBefore = m_model.TakenImages();
         try {
             imageStep(
                 "Balancing white", [this] { return m_model.ExecuteWhitebalance(); },
@@ -212,6 +213,8 @@ void CalibrationSequence::balanceWhite(bool mayChangeExposure)
             return;
         } catch (const CommandError& error) {
             stopIfCancelled();
+            if (m_model.TakenImages() == imagesBefore)
+                throw;
             const Light light = lightOf(m_hitRate);
             if (!search.moveFrom(light))
                 throw CommandError(QString::fromUtf8(error.what()) + advice(light));

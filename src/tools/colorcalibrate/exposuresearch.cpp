@@ -16,6 +16,8 @@ constexpr double darkHitRate = 10.0;
 
 // Bright images say little of how much too bright they are, so the way down goes in small steps.
 constexpr double stepDown = 0.5;
+/// A longer one would not end before the time that an image may take; microseconds.
+constexpr double longestTried = 2e6;
 constexpr double stepUp = 4.0;
 
 int largestChannel(QRgb pixel)
@@ -74,7 +76,8 @@ bool ExposureSearch::moveFrom(Light light)
         !m_model.GetExposureTimeRange(lowest, value, highest))
         return false;
     const double wanted = value * (light == Light::TooBright ? stepDown : stepUp);
-    const double next = std::min(std::max(wanted, lowest), highest);
+    const double ceiling = std::min(highest, std::max(value, longestTried));
+    const double next = std::min(std::max(wanted, lowest), ceiling);
     return next != value && m_model.SetExposureTime(next);
 }
 

@@ -34,6 +34,10 @@ Interruption::Interruption()
     requested = 0;
     for (std::size_t i = 0; i < handled.size(); ++i)
         m_previous[i] = std::signal(handled[i].signal, handled[i].handler);
+    // Whoever started the program may want it to go on, as "nohup" does.
+    for (std::size_t i = 0; i < handled.size(); ++i)
+        if (m_previous[i] == SIG_IGN)
+            std::signal(handled[i].signal, SIG_IGN);
 }
 
 Interruption::~Interruption()

@@ -36,6 +36,17 @@ TEST(Interruption, DoesNotEndWhereNobodyReadsTheOutput)
     EXPECT_FALSE(Interruption::isRequested());
 }
 
+TEST(Interruption, GoesOnIgnoringWhatItWasStartedToIgnore)
+{
+    const auto before = std::signal(SIGHUP, SIG_IGN);
+    {
+        const Interruption interruption;
+        std::raise(SIGHUP);
+        EXPECT_FALSE(Interruption::isRequested());
+    }
+    std::signal(SIGHUP, before);
+}
+
 TEST(Interruption, LeavesTheHandlersAsTheyWere)
 {
     const auto before = std::signal(SIGHUP, count);

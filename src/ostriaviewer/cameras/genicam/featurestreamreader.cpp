@@ -29,6 +29,17 @@ QString shown(const QStringRef& name)
     return name.size() > longest ? result + QChar(0x2026) : result;
 }
 
+/// What a badly written line may have meant as its name.
+QStringRef firstWord(const QStringRef& line)
+{
+    const QStringRef words = line.trimmed();
+    int end = 0;
+    while (end < words.size() &&
+           (words.at(end).isLetterOrNumber() || words.at(end) == QLatin1Char('_')))
+        ++end;
+    return words.left(end);
+}
+
 class Errors
 {
 public:
@@ -70,12 +81,13 @@ public:
         const int tab = line.indexOf(QLatin1Char('\t'));
         const QStringRef name = tab < 0 ? line : line.left(tab);
         if (tab < 0)
-            passOver(number, line);
+            passOver(number, line,
+                     QStringLiteral("\"%1\" has no tab and no value.").arg(shown(line)));
         else if (const Feature* feature = find(name))
             apply(number, *feature, line.mid(tab + 1).toString());
         else
-            m_errors.add(number,
-                         QStringLiteral("the camera has no feature \"%1\".").arg(shown(name)));
+            passOver(number, name,
+                     QStringLiteral("the camera has no feature \"%1\".").arg(shown(name)));
     }
 
     const Errors& errors() const { return m_errors; }
@@ -94,12 +106,11 @@ private:
         return feature.isEmpty() ? nullptr : &*m_features.insert(key, feature);
     }
 
-    /// A line without a value may have been a selector's.
-    void passOver(int number, const QStringRef& line)
+    /// A line that is badly written may have been a selector's.
+    void passOver(int number, const QStringRef& line, const QString& reason)
     {
-        m_errors.add(number, QStringLiteral("\"%1\" has no tab and no value.").arg(shown(line)));
-        const QStringRef words = line.trimmed();
-        if (const Feature* feature = find(words.left(words.indexOf(QLatin1Char(' ')))))
+        m_errors.add(number, reason);
+        if (const Feature* feature = find(firstWord(line)))
             lose(m_map.tree().indexOf(feature->name()));
     }
 

@@ -145,7 +145,9 @@ TEST_F(FeatureStreamReader, KeepsValuesOfASelectorThatCouldNotBeSet)
 TEST_F(FeatureStreamReader, ASelectorWithoutAValueLosesWhatFollowsIt)
 {
     for (const QString& broken : {"BalanceRatioSelector"_q, "BalanceRatioSelector Blue"_q,
-                                  "  BalanceRatioSelector  Blue"_q, "BalanceRatioSelector\t"_q}) {
+                                  "  BalanceRatioSelector  Blue"_q, "BalanceRatioSelector\t"_q,
+                                  "BalanceRatioSelector \tBlue"_q, " BalanceRatioSelector\tBlue"_q,
+                                  "BalanceRatioSelector=Blue"_q, "BalanceRatioSelector;Blue"_q}) {
         camera->enumerationParameter("BalanceRatioSelector"_q)->setValue("Red"_q);
         camera->floatParameter("BalanceRatio"_q)->setValue(1.0);
         const QStringList errors =

@@ -339,11 +339,8 @@ void CameraJustify::RestoreBackup(bool initial)
 {
     if (backup(initial).isEmpty())
         return;
-    const QString errors = applyFeatures(backup(initial));
-    if (!errors.isEmpty())
-        log(QStringLiteral("Not all settings of the camera came back; the first that did not: %1")
-                .arg(errors.section(QLatin1Char('\n'), 0, 0)),
-            Core::Logging::Warning);
+    applyFeatures(backup(initial),
+                  "Not all settings of the camera came back; the first that did not: %1");
 }
 
 QString CameraJustify::BackupText(bool initial) const
@@ -360,14 +357,16 @@ QString CameraJustify::SaveFeaturesToString()
 
 void CameraJustify::LoadFeaturesFromString(const QString& text)
 {
-    applyFeatures(text);
+    applyFeatures(text, "Not all settings were loaded; the first that was not: %1");
 }
 
-QString CameraJustify::applyFeatures(const QString& text)
+void CameraJustify::applyFeatures(const QString& text, const char* remark)
 {
     QString errors;
     parameters()->loadFeatures(text, errors, cameraNodeMap);
-    return errors;
+    if (!errors.isEmpty())
+        log(QString::fromLatin1(remark).arg(errors.section(QLatin1Char('\n'), 0, 0)),
+            Core::Logging::Warning);
 }
 
 void CameraJustify::StoreInUserSet(const QString& name, bool store, bool setAsDefault)

@@ -91,8 +91,13 @@ public:
 
     /// Stores the settings in a user set, now and again after each group that is written later. If
     /// that fails the camera starts with the set that it started with before, and later groups
-    /// store where they did before. \param name          of the user set \param store         false
-    /// disarms \param setAsDefault  the camera starts with this set
+    /// store where they did before.
+    ///
+    /// \param name          of the user set
+    ///
+    /// \param store         false disarms
+    ///
+    /// \param setAsDefault  the camera starts with this set
     void StoreInUserSet(const QString& name, bool store, bool setAsDefault);
 
 signals:
@@ -110,7 +115,8 @@ private:
 
     Core::ParameterCollection::ParameterCollectionPtr parameters() const;
     QString& backup(bool initial);
-    QString applyFeatures(const QString& text);
+    /// Logs the first line that the camera refused.
+    void applyFeatures(const QString& text, const char* remark);
     void persistToUserSet();
 
     Core::CameraPoolComponents::CameraPtr m_camera;
