@@ -7,9 +7,10 @@
 
 #include <QStringList>
 
-#include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <cstring>
+#include <future>
 
 using Cameras::HostCameraPtr;
 using Cameras::Emulation::FeatureNames;
@@ -249,15 +250,15 @@ TEST_P(CameraContract, ExposureTimeMayChangeWhileItGrabs)
 TEST_P(CameraContract, StopsFromWithinADelivery)
 {
     open();
-    std::atomic<bool> isStopped = false;
-    FrameProbe probe(camera, [this, &isStopped] {
+    std::promise<void> stopped;
+    FrameProbe probe(camera, [this, &stopped] {
         camera->stopGrabbing();
-        isStopped = true;
+        stopped.set_value();
     });
     ASSERT_TRUE(camera->startGrabbing());
     ASSERT_TRUE(probe.waitFor(1));
+    ASSERT_EQ(stopped.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready);
     camera->stopGrabbing();
-    EXPECT_TRUE(isStopped);
     EXPECT_FALSE(camera->isGrabbing());
     EXPECT_EQ(probe.count(), 1U);
 }
