@@ -16,6 +16,26 @@ namespace {
 class Workers
 {
 public:
+    Workers() = default;
+    Workers(const Workers&) = delete;
+    Workers& operator=(const Workers&) = delete;
+
+    /// Work that ends may still add some, such as when it held the last of a camera.
+    ~Workers()
+    {
+        for (;;) {
+            std::vector<std::future<void>> waited;
+            {
+                const std::lock_guard lock(m_mutex);
+                waited.swap(m_workers);
+            }
+            if (waited.empty())
+                return;
+            for (const std::future<void>& worker : waited)
+                worker.wait();
+        }
+    }
+
     void add(std::function<void()> work)
     {
         const std::lock_guard lock(m_mutex);
