@@ -93,7 +93,8 @@ public:
     ///          why
     virtual CameraPtr openWithExclusiveAccess(const CameraPtr& camera) = 0;
 
-    /// Closes a camera that was opened by openWithExclusiveAccess. No error if it is closed.
+    /// Closes a camera that was opened by openWithExclusiveAccess. No error if it is closed; one
+    /// that the host has opened stays open.
     virtual void close(const CameraPtr& camera) = 0;
 
 protected:

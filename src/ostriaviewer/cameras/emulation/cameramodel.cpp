@@ -44,15 +44,4 @@ QVector<CameraModel> everydayModels()
     return {first, second, maker, mono};
 }
 
-QVector<CameraModel> deceptiveModels()
-{
-    return {
-        model("Emulation 1920-60c2", "90020001", FeatureNames::SecondGeneration, 2),
-        model("emA1920-60ucOLD", "90020002", FeatureNames::SecondGeneration, {}),
-        model("Emulated-60cvtx", "90020003", FeatureNames::SecondGenerationMaker, 1),
-        model("emulation 1920-60c", "90020004", FeatureNames::SecondGeneration, 1),
-        model("emA1920-60uc", "90020005", FeatureNames::SecondGeneration, 1),
-    };
-}
-
 } // namespace Cameras::Emulation

@@ -37,8 +37,4 @@ struct CameraModel
 /// The cameras that a user sees: color cameras of each kind of feature names, and a mono camera.
 QVector<CameraModel> everydayModels();
 
-/// Color cameras that nearly look like those above, for whoever must tell them apart: other color
-/// pipelines, and names that miss a rule by little.
-QVector<CameraModel> deceptiveModels();
-
 } // namespace Cameras::Emulation

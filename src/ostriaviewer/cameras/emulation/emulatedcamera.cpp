@@ -40,9 +40,9 @@ QString settingsFile(const CameraModel& model, const EmulationOptions& options)
     return folder + QLatin1Char('/') + model.serialNumber + QStringLiteral(".json");
 }
 
-Ostria::CGrabResultPtr failure(const char* reason, std::uint64_t number)
+Ostria::CGrabResultPtr failure(const std::string& reason, std::uint64_t number)
 {
-    return std::make_shared<Ostria::CGrabResult>(std::string(reason), number);
+    return std::make_shared<Ostria::CGrabResult>(reason, number);
 }
 
 } // namespace
@@ -306,8 +306,8 @@ FrameLoop::Frame EmulatedCamera::takeFrame(std::uint64_t number)
     frame.period = std::max(framePeriod(values, m_model.readoutTime), frame.exposure);
     if (fate.lost)
         return frame;
-    frame.result =
-        fate.failed ? failure("The frame is incomplete.", number) : render(*opened, values, number);
+    frame.result = fate.failed ? failure(tr("The frame is incomplete.").toStdString(), number)
+                               : render(*opened, values, number);
     if (frame.result->GrabSucceeded() && isAnyAutoFunctionOn(values)) {
         runAutoFunctions(measureLevels(frame.result->image()), *m_store);
         opened->nodeMap->refresh();

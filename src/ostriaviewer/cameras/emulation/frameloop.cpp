@@ -24,7 +24,7 @@ struct FrameLoop::State
     std::uint64_t request = 0;  // counts what was asked for; a frame belongs to one request
     Clock::time_point deadline; // of a single frame
     Clock::time_point begin;    // of the next frame
-    bool delivering = false;
+    Delivery delivery;
     std::uint64_t frameNumber = 0;
 
     State(Take newTake, Deliver newDeliver)
@@ -47,21 +47,7 @@ struct FrameLoop::State
     }
 
     void takeFrame(std::unique_lock<std::mutex>& lock);
-    void hand(std::unique_lock<std::mutex>& lock, const Ostria::CGrabResultPtr& result);
 };
-
-void FrameLoop::State::hand(std::unique_lock<std::mutex>& lock,
-                            const Ostria::CGrabResultPtr& result)
-{
-    if (!result)
-        return;
-    delivering = true;
-    lock.unlock();
-    deliver(result);
-    lock.lock();
-    delivering = false;
-    changed.notify_all();
-}
 
 // One frame from its beginning to its delivery. The lock is held on entry and on return.
 void FrameLoop::State::takeFrame(std::unique_lock<std::mutex>& lock)
@@ -86,7 +72,8 @@ void FrameLoop::State::takeFrame(std::unique_lock<std::mutex>& lock)
         return;
     if (isSingle)
         mode = Mode::Idle;
-    hand(lock, frame.result);
+    if (frame.result)
+        delivery.run(lock, [&] { deliver(frame.result); });
     if (request != wanted || isSingle)
         return;
     begin = std::max(start + frame.period, Clock::now());
@@ -149,8 +136,7 @@ void FrameLoop::stop()
     std::unique_lock lock(m_state->mutex);
     if (m_state->mode != Mode::Idle)
         m_state->ask(Mode::Idle);
-    if (m_thread.get_id() != std::this_thread::get_id())
-        m_state->changed.wait_for(lock, longestWait, [this] { return !m_state->delivering; });
+    m_state->delivery.wait(lock);
 }
 
 } // namespace Cameras::Emulation

@@ -2,6 +2,7 @@
 // The thread on which an emulated camera takes its frames.
 #pragma once
 
+#include "delivery.h"
 #include "grabresult.h"
 
 #include <chrono>
@@ -58,7 +59,7 @@ public:
     /// where the delivery is the caller.
     void stop();
 
-    static constexpr std::chrono::milliseconds longestWait{250};
+    static constexpr std::chrono::milliseconds longestWait = Delivery::longestWait;
 
 private:
     struct State;

@@ -5,6 +5,7 @@
 #include "genicamexception.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QtEndian>
 
 #include <cmath>
@@ -57,7 +58,10 @@ void RegisterStore::setWriteHook(WriteHook hook)
 RegisterLayout::Place RegisterStore::checkedPlace(std::uint64_t address, std::size_t size) const
 {
     if (!m_reachable)
-        throw ::GenICam::RuntimeException("The camera does not answer.");
+        throw ::GenICam::RuntimeException(
+            QCoreApplication::translate("Cameras::Emulation::EmulatedCamera",
+                                        "The camera does not answer.")
+                .toStdString());
     const auto place = m_layout.locate(address);
     if (!place || place->size != size)
         throw ::GenICam::RuntimeException("The camera has no such register.");

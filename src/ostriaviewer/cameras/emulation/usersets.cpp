@@ -4,6 +4,7 @@
 
 #include "genicamexception.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -55,6 +56,15 @@ void repair(const FeatureDefinition& feature, FeatureValues& values)
     }
 }
 
+::GenICam::RuntimeException unwritable(const QString& file)
+{
+    return ::GenICam::RuntimeException(
+        QCoreApplication::translate("Cameras::Emulation::UserSets",
+                                    "The user sets cannot be written to %1.")
+            .arg(file)
+            .toStdString());
+}
+
 } // namespace
 
 UserSets::UserSets(std::shared_ptr<const FeatureTable> table, const QString& file)
@@ -85,8 +95,10 @@ void UserSets::read()
             m_startUpSet = startUp;
 }
 
-void UserSets::load(const QString& set, FeatureValues& values) const
+void UserSets::load(const QString& set, FeatureValues& values)
 {
+    // Another program may have saved it meanwhile.
+    read();
     const QJsonObject stored = m_sets.value(set).toObject();
     for (int i = 0; i < m_table->size(); ++i) {
         const FeatureDefinition& feature = m_table->at(i);
@@ -113,6 +125,7 @@ void UserSets::save(const QString& set, const FeatureValues& values)
             stored.insert(feature.name, now);
     }
     // Another program may have saved other sets meanwhile.
+    const auto lock = lockFile();
     read();
     QJsonObject sets = m_sets;
     sets.insert(set, stored);
@@ -121,8 +134,19 @@ void UserSets::save(const QString& set, const FeatureValues& values)
 
 void UserSets::setStartUpSet(const QString& set)
 {
+    const auto lock = lockFile();
     read();
     write(m_sets, set);
+}
+
+/// Nobody else changes the file as long as the lock lives.
+std::unique_ptr<QLockFile> UserSets::lockFile() const
+{
+    constexpr int longestWaitMs = 5000;
+    auto lock = std::make_unique<QLockFile>(m_file + QStringLiteral(".lock"));
+    if (!QDir().mkpath(QFileInfo(m_file).absolutePath()) || !lock->tryLock(longestWaitMs))
+        throw unwritable(m_file);
+    return lock;
 }
 
 void UserSets::write(const QJsonObject& sets, const QString& startUpSet)
@@ -130,10 +154,8 @@ void UserSets::write(const QJsonObject& sets, const QString& startUpSet)
     const QByteArray text =
         QJsonDocument(QJsonObject{{setsKey, sets}, {startUpKey, startUpSet}}).toJson();
     QSaveFile file(m_file);
-    if (!QDir().mkpath(QFileInfo(m_file).absolutePath()) || !file.open(QIODevice::WriteOnly) ||
-        file.write(text) != text.size() || !file.commit())
-        throw ::GenICam::RuntimeException("The user sets cannot be written to " +
-                                          m_file.toStdString() + ".");
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        throw unwritable(m_file);
     m_sets = sets;
     m_startUpSet = startUpSet;
 }

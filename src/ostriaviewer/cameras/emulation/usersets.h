@@ -5,15 +5,17 @@
 #include "featurevalues.h"
 
 #include <QJsonObject>
+#include <QLockFile>
 #include <QString>
 
 #include <memory>
 
 namespace Cameras::Emulation {
 
-/// Named sets of feature values, and which of them the camera comes up with. Each change is written
-/// to the file at once. A file that is missing, damaged or of another model harms nothing: what
-/// cannot be used in it is left at its factory value. Reentrant.
+/// Named sets of feature values, and which of them the camera comes up with. They are the file's:
+/// each change is written to it at once, and what other programs have saved in it is seen. A file
+/// that is missing, damaged or of another model harms nothing: what cannot be used in it is left at
+/// its factory value. Reentrant.
 class UserSets
 {
 public:
@@ -23,7 +25,7 @@ public:
 
     /// Lays the values of a set over others; those that sets do not hold stay. "Default" and a set
     /// that was never saved have the factory's.
-    void load(const QString& set, FeatureValues& values) const;
+    void load(const QString& set, FeatureValues& values);
 
     /// Puts all values that can be saved into a set.
     /// \throws ::GenICam::RuntimeException  the file cannot be written; nothing has changed then
@@ -36,6 +38,7 @@ public:
     void setStartUpSet(const QString& set);
 
 private:
+    std::unique_ptr<QLockFile> lockFile() const;
     void read();
     void write(const QJsonObject& sets, const QString& startUpSet);
 

@@ -4,7 +4,10 @@
 
 #include "enumerationfeature_p.h"
 #include "genicamexception.h"
+#include "librarylog_p.h"
+#include "nodemap_p.h"
 #include "numberfeature_p.h"
+#include "patience.h"
 #include "textfeature_p.h"
 
 #include <QHash>
@@ -93,6 +96,7 @@ void lookAtValue(Snapshot& snapshot, const Feature& feature)
 
 Snapshot lookAt(const Feature& feature)
 {
+    const LibraryScope scope(feature.map().camera(), feature.name());
     Snapshot snapshot;
     const bool isAvailable = feature.isAvailable();
     snapshot.push_back(bits(isAvailable));
@@ -125,8 +129,10 @@ void ChangeWatch::end() noexcept
     }
     try {
         for (Watch& watch : m_watches) {
+            const std::uint64_t failures = Patience::failures();
             Snapshot now = lookAt(*watch.feature);
-            if (now == watch.last)
+            // A look that the camera has not answered shows nothing; the next one tells.
+            if (Patience::failures() != failures || now == watch.last)
                 continue;
             watch.last = std::move(now);
             watch.notify();

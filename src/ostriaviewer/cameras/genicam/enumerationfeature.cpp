@@ -7,6 +7,8 @@
 
 #include <arv.h>
 
+#include "featuretexts_p.h"
+
 namespace Cameras::GenICam {
 
 namespace {
@@ -48,7 +50,7 @@ QString enumerationValue(const Feature& feature)
     for (ArvGcEnumEntry* entry : enumerationEntries(feature.node()))
         if (numberOf(feature, entry) == number)
             return nameOf(entry);
-    feature.fail(QStringLiteral("the camera answers %1, which is no entry").arg(number));
+    feature.fail(FeatureTexts::tr("the camera answers %1, which is no entry").arg(number));
 }
 
 QVector<FeatureEntry> enumerationEntryList(const Feature& feature)
@@ -73,7 +75,7 @@ void setEnumeration(const Feature& feature, const QString& entry)
         if (nameOf(candidate) != entry || !isImplemented(candidate))
             continue;
         if (!isAvailable(candidate))
-            feature.fail(QStringLiteral("%1 is not available with the camera's present settings")
+            feature.fail(FeatureTexts::tr("%1 is not available with the camera's present settings")
                              .arg(entry));
         GErrorSlot error;
         arv_gc_enumeration_set_int_value(ARV_GC_ENUMERATION(feature.node()),
@@ -81,7 +83,7 @@ void setEnumeration(const Feature& feature, const QString& entry)
         feature.check(error);
         return;
     }
-    feature.fail(QStringLiteral("there is no entry \"%1\"").arg(entry));
+    feature.fail(FeatureTexts::tr("there is no entry \"%1\"").arg(entry));
 }
 
 } // namespace Cameras::GenICam

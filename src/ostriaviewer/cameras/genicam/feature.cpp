@@ -4,10 +4,13 @@
 
 #include "genicamexception.h"
 #include "gerrorslot_p.h"
+#include "librarylog_p.h"
 #include "nodemap_p.h"
 #include "nodeproperties_p.h"
 
 #include <arv.h>
+
+#include "featuretexts_p.h"
 
 #include <algorithm>
 
@@ -71,6 +74,7 @@ Feature Feature::find(NodeMapPrivate& map, const QString& name)
 {
     if (!isPlainName(name))
         return Feature(name);
+    const LibraryScope scope(map.camera(), name);
     ArvGcNode* node = arv_gc_get_node(map.gc(), name.toLatin1().constData());
     if (!node || !ARV_IS_GC_FEATURE_NODE(node) || ARV_IS_GC_CATEGORY(node) ||
         ARV_IS_GC_PORT(node) || !isImplemented(ARV_GC_FEATURE_NODE(node)))
@@ -82,6 +86,7 @@ bool Feature::isAvailable() const
 {
     if (isEmpty() || !m_map->isConnected())
         return false;
+    const LibraryScope scope(m_map->camera(), m_name);
     return std::all_of(m_chain.begin(), m_chain.end(), [](ArvGcFeatureNode* node) {
         GErrorSlot implementedError;
         GErrorSlot availableError;
@@ -128,32 +133,33 @@ bool Feature::isStreamable() const
 void Feature::requireThere() const
 {
     if (isEmpty())
-        fail(QStringLiteral("the camera has no such feature"));
+        fail(FeatureTexts::tr("the camera has no such feature"));
     if (!m_map->isConnected())
-        fail(QStringLiteral("the connection to the camera is lost"));
+        fail(FeatureTexts::tr("the connection to the camera is lost"));
     if (!isAvailable())
-        fail(QStringLiteral("not available with the camera's present settings"));
+        fail(FeatureTexts::tr("not available with the camera's present settings"));
 }
 
 void Feature::requireReadable() const
 {
     requireThere();
     if (!allowsReading())
-        fail(QStringLiteral("cannot be read, only written"));
+        fail(FeatureTexts::tr("cannot be read, only written"));
 }
 
 void Feature::requireWritable() const
 {
     requireThere();
     if (!allowsWriting())
-        fail(QStringLiteral("cannot be written, only read"));
+        fail(FeatureTexts::tr("cannot be written, only read"));
     if (isLocked())
-        fail(QStringLiteral("locked with the camera's present settings"));
+        fail(FeatureTexts::tr("locked with the camera's present settings"));
 }
 
 void Feature::fail(const QString& reason) const
 {
-    throw ::GenICam::RuntimeException(QStringLiteral("%1: %2.").arg(m_name, reason).toStdString());
+    throw ::GenICam::RuntimeException(
+        FeatureTexts::tr("%1: %2.").arg(m_name, reason).toStdString());
 }
 
 void Feature::check(const GErrorSlot& error) const
@@ -165,7 +171,7 @@ void Feature::check(const GErrorSlot& error) const
     const QString prefix = m_name + QLatin1String(": ");
     if (reason.startsWith(prefix))
         reason.remove(0, prefix.size());
-    if (reason.endsWith(QLatin1Char('.')))
+    if (reason.endsWith(QLatin1Char('.')) || reason.endsWith(QChar(0x3002)))
         reason.chop(1);
     fail(reason);
 }

@@ -6,6 +6,7 @@
 #include "nodemap_p.h"
 #include "textfeature_p.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 #include <QVector>
@@ -15,6 +16,11 @@
 namespace Cameras::GenICam {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::FeatureStream)
+};
 
 constexpr int mostErrors = 1000;
 constexpr int mostPasses = 5;
@@ -47,7 +53,7 @@ public:
     {
         ++m_count;
         if (m_count <= mostErrors)
-            m_text += QStringLiteral("Line %1: %2\n").arg(line).arg(reason);
+            m_text += Texts::tr("Line %1: %2\n").arg(line).arg(reason);
     }
 
     int count() const { return m_count; }
@@ -56,7 +62,7 @@ public:
     {
         if (m_count <= mostErrors)
             return m_text;
-        return m_text + QStringLiteral("And %1 more lines.\n").arg(m_count - mostErrors);
+        return m_text + Texts::tr("And %1 more lines.\n").arg(m_count - mostErrors);
     }
 
 private:
@@ -81,13 +87,11 @@ public:
         const int tab = line.indexOf(QLatin1Char('\t'));
         const QStringRef name = tab < 0 ? line : line.left(tab);
         if (tab < 0)
-            passOver(number, line,
-                     QStringLiteral("\"%1\" has no tab and no value.").arg(shown(line)));
+            passOver(number, line, Texts::tr("\"%1\" has no tab and no value.").arg(shown(line)));
         else if (const Feature* feature = find(name))
             apply(number, *feature, line.mid(tab + 1).toString());
         else
-            passOver(number, name,
-                     QStringLiteral("the camera has no feature \"%1\".").arg(shown(name)));
+            passOver(number, name, Texts::tr("the camera has no feature \"%1\".").arg(shown(name)));
     }
 
     const Errors& errors() const { return m_errors; }
@@ -143,7 +147,7 @@ private:
         for (const int selector : m_map.tree().selectorsOf(index))
             if (m_lostSelectors.contains(selector))
                 feature.fail(
-                    QStringLiteral("skipped, as %1 could not be set")
+                    Texts::tr("skipped, as %1 could not be set")
                         .arg(m_map.tree().features()[static_cast<std::size_t>(selector)].name()));
     }
 

@@ -3,11 +3,14 @@
 #include "nodemap.h"
 
 #include "genicamexception.h"
+#include "librarylog_p.h"
+#include "libraryparsing_p.h"
 #include "nodemap_p.h"
 #include "registerdevice_p.h"
 
 #include <arv.h>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QXmlStreamReader>
 
@@ -17,36 +20,56 @@ namespace Cameras::GenICam {
 
 namespace {
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::NodeMap)
+};
+
 [[noreturn]] void refuseDescription(const QString& reason)
 {
-    const QString text = QStringLiteral("The camera's description cannot be used: %1.").arg(reason);
+    const QString text = Texts::tr("The camera's description cannot be used: %1.").arg(reason);
     throw ::GenICam::RuntimeException(text.toStdString());
 }
 
 /// Aravis aborts or prints on some broken texts, so it gets well-formed ones alone.
-void checkDescription(const std::string& xml)
+/// \return  the model's name
+QString checkDescription(const std::string& xml)
 {
     QXmlStreamReader reader(QByteArray::fromStdString(xml));
     if (reader.readNextStartElement() && reader.name() != QLatin1String("RegisterDescription"))
-        refuseDescription(QStringLiteral("it describes no registers"));
+        refuseDescription(Texts::tr("it describes no registers"));
+    const QString model = reader.attributes().value(QLatin1String("ModelName")).toString();
     while (!reader.atEnd())
         reader.readNext();
-    if (reader.hasError())
-        refuseDescription(
-            QStringLiteral("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString()));
+    if (reader.hasError()) {
+        QString reason = reader.errorString();
+        if (reason.endsWith(QLatin1Char('.')))
+            reason.chop(1);
+        refuseDescription(Texts::tr("line %1: %2").arg(reader.lineNumber()).arg(reason));
+    }
+    return model;
+}
+
+ArvGc* parse(ArvDevice* device, const std::string& xml)
+{
+    const std::lock_guard lock(libraryParsing());
+    return arv_gc_new(device, xml.data(), xml.size());
 }
 
 } // namespace
 
-NodeMapPrivate::NodeMapPrivate(ArvDevice* device, const std::string& xml)
-    : m_device(device)
-    , m_gc(arv_gc_new(device, xml.data(), xml.size()))
+NodeMapPrivate::NodeMapPrivate(ArvDevice* device, const std::string& xml, QString camera,
+                               std::chrono::milliseconds commandTimeout)
+    : m_camera(std::move(camera))
+    , m_device(device)
+    , m_gc(parse(device, xml))
+    , m_commandTimeout(commandTimeout)
 {
     if (m_gc && ARV_IS_GC_CATEGORY(arv_gc_get_node(m_gc, "Root")))
         return;
     g_clear_object(&m_gc);
     g_object_unref(m_device);
-    refuseDescription(QStringLiteral("it has no feature tree"));
+    refuseDescription(Texts::tr("it has no feature tree"));
 }
 
 NodeMapPrivate::~NodeMapPrivate()
@@ -58,7 +81,8 @@ NodeMapPrivate::~NodeMapPrivate()
 void NodeMapPrivate::requireConnection() const
 {
     if (!m_isConnected)
-        throw ::GenICam::RuntimeException("The connection to the camera is lost.");
+        throw ::GenICam::RuntimeException(
+            Texts::tr("The connection to the camera is lost.").toStdString());
 }
 
 const FeatureTree& NodeMapPrivate::tree()
@@ -81,10 +105,15 @@ WriteLock::~WriteLock()
 }
 
 std::shared_ptr<NodeMap> NodeMap::create(std::shared_ptr<IRegisterPort> port,
-                                         const std::string& xml)
+                                         const std::string& xml,
+                                         std::chrono::milliseconds commandTimeout)
 {
-    checkDescription(xml);
-    auto implementation = std::make_unique<NodeMapPrivate>(newRegisterDevice(std::move(port)), xml);
+    logLibraryComplaints();
+    const QString camera = checkDescription(xml);
+    const QString wholeDescription;
+    const LibraryScope scope(camera, wholeDescription);
+    auto implementation = std::make_unique<NodeMapPrivate>(newRegisterDevice(std::move(port)), xml,
+                                                           camera, commandTimeout);
     return std::shared_ptr<NodeMap>(new NodeMap(std::move(implementation)));
 }
 
@@ -110,12 +139,6 @@ bool NodeMap::isConnected() const
 void NodeMap::refresh()
 {
     const WriteLock lock(*m_private);
-}
-
-void NodeMap::setCommandTimeout(std::chrono::milliseconds timeout)
-{
-    const ReadLock lock(m_private->mutex());
-    m_private->setCommandTimeout(timeout);
 }
 
 } // namespace Cameras::GenICam

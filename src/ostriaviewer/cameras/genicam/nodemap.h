@@ -22,9 +22,11 @@ public:
     /// A node map over registers.
     /// \param port  shared, not null
     /// \param xml   the device's GenICam description
+    /// \param commandTimeout  how long a command may take before its execution counts as failed
     /// \throws ::GenICam::RuntimeException  the description cannot be used
-    static std::shared_ptr<NodeMap> create(std::shared_ptr<IRegisterPort> port,
-                                           const std::string& xml);
+    static std::shared_ptr<NodeMap>
+    create(std::shared_ptr<IRegisterPort> port, const std::string& xml,
+           std::chrono::milliseconds commandTimeout = std::chrono::seconds(5));
 
     ~NodeMap();
     NodeMap(const NodeMap&) = delete;
@@ -39,9 +41,6 @@ public:
     /// that those that changed with them say so. Costs a few register reads for each parameter
     /// that somebody is connected to. Does nothing after disconnect.
     void refresh();
-
-    /// How long a command may take before its execution counts as failed. 5 s if never set.
-    void setCommandTimeout(std::chrono::milliseconds timeout);
 
     /// For the other files of this folder.
     NodeMapPrivate& d() const { return *m_private; }

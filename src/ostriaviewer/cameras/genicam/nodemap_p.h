@@ -6,6 +6,8 @@
 #include "featuretree_p.h"
 #include "registerport.h"
 
+#include <QString>
+
 #include <chrono>
 #include <memory>
 #include <mutex>
@@ -16,20 +18,25 @@ typedef struct _ArvGc ArvGc;
 
 namespace Cameras::GenICam {
 
-/// A device and the nodes of its description. All members need the mutex, but for the first two.
+/// A device and the nodes of its description. All members need the mutex, but for mutex, gc and
+/// camera.
 class NodeMapPrivate
 {
 public:
     /// \param device  taken over: unreferenced at the end
     /// \param xml     the description
+    /// \param camera  the model's name, for messages
+    /// \param commandTimeout  how long a command may take
     /// \throws ::GenICam::RuntimeException  the description cannot be used
-    NodeMapPrivate(ArvDevice* device, const std::string& xml);
+    NodeMapPrivate(ArvDevice* device, const std::string& xml, QString camera,
+                   std::chrono::milliseconds commandTimeout);
     ~NodeMapPrivate();
     NodeMapPrivate(const NodeMapPrivate&) = delete;
     NodeMapPrivate& operator=(const NodeMapPrivate&) = delete;
 
     std::recursive_mutex& mutex() { return m_mutex; }
     ArvGc* gc() const { return m_gc; }
+    const QString& camera() const { return m_camera; }
 
     ArvDevice* device() const { return m_device; }
     bool isConnected() const { return m_isConnected; }
@@ -44,14 +51,14 @@ public:
     const FeatureTree& tree();
 
     std::chrono::milliseconds commandTimeout() const { return m_commandTimeout; }
-    void setCommandTimeout(std::chrono::milliseconds timeout) { m_commandTimeout = timeout; }
 
 private:
     std::recursive_mutex m_mutex;
+    const QString m_camera;
     ArvDevice* m_device;
     ArvGc* m_gc;
     bool m_isConnected = true;
-    std::chrono::milliseconds m_commandTimeout{5000};
+    const std::chrono::milliseconds m_commandTimeout;
     ChangeWatch m_changes;
     std::unique_ptr<FeatureTree> m_tree;
 };

@@ -6,6 +6,8 @@
 
 #include <arv.h>
 
+#include "featuretexts_p.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -44,10 +46,10 @@ void checkRange(const Feature& feature, Value value, Value minimum, Value maximu
 {
     if (value < minimum)
         feature.fail(
-            QStringLiteral("%1 is below the minimum %2").arg(textOf(value), textOf(minimum)));
+            FeatureTexts::tr("%1 is below the minimum %2").arg(textOf(value), textOf(minimum)));
     if (value > maximum)
         feature.fail(
-            QStringLiteral("%1 is above the maximum %2").arg(textOf(value), textOf(maximum)));
+            FeatureTexts::tr("%1 is above the maximum %2").arg(textOf(value), textOf(maximum)));
 }
 
 QString integerText(qint64 value)
@@ -65,7 +67,7 @@ void checkIncrement(const Feature& feature, qint64 value)
                               ? static_cast<quint64>(value) - static_cast<quint64>(start)
                               : static_cast<quint64>(start) - static_cast<quint64>(value);
     if (distance % static_cast<quint64>(increment) != 0)
-        feature.fail(QStringLiteral("%1 is no multiple of %2 above %3")
+        feature.fail(FeatureTexts::tr("%1 is not a multiple of %2 above %3")
                          .arg(value)
                          .arg(increment)
                          .arg(start));
@@ -155,7 +157,7 @@ void setInteger(const Feature& feature, qint64 value, bool verify)
         return;
     const qint64 kept = integerValue(feature);
     if (kept != value)
-        feature.fail(QStringLiteral("the camera keeps %1 instead of %2").arg(kept).arg(value));
+        feature.fail(FeatureTexts::tr("the camera keeps %1 instead of %2").arg(kept).arg(value));
 }
 
 double floatValue(const Feature& feature)
@@ -180,7 +182,7 @@ void setFloat(const Feature& feature, double value)
 {
     feature.requireWritable();
     if (!std::isfinite(value))
-        feature.fail(QStringLiteral("the value is not a finite number"));
+        feature.fail(FeatureTexts::tr("the value is not a finite number"));
     const double minimum = floatMinimum(feature);
     const double maximum = floatMaximum(feature);
     value = withinResolution(value, minimum, maximum);
@@ -209,7 +211,7 @@ void setBoolean(const Feature& feature, bool value, bool verify)
         return;
     feature.requireThere();
     if (feature.isReadable() && booleanValue(feature) != value)
-        feature.fail(QStringLiteral("the camera keeps another value than %1")
+        feature.fail(FeatureTexts::tr("the camera keeps another value than %1")
                          .arg(value ? QStringLiteral("true") : QStringLiteral("false")));
 }
 

@@ -7,6 +7,7 @@
 #include "featurewords_p.h"
 #include "genicamexception.h"
 #include "iparameter.h"
+#include "librarylog_p.h"
 #include "nodemap.h"
 #include "nodemap_p.h"
 
@@ -51,12 +52,14 @@ public:
     bool isReadable() const override
     {
         const ReadLock lock(m_map->d().mutex());
+        const LibraryScope scope(m_map->d().camera(), m_feature.name());
         return m_feature.isReadable();
     }
 
     bool isWritable() const override
     {
         const ReadLock lock(m_map->d().mutex());
+        const LibraryScope scope(m_map->d().camera(), m_feature.name());
         return m_feature.isWritable();
     }
 
@@ -70,6 +73,7 @@ protected:
     {
         const ReadLock lock(map().mutex());
         m_feature.requireThere();
+        const LibraryScope scope(map().camera(), m_feature.name());
         return ask(m_feature);
     }
 
@@ -78,6 +82,7 @@ protected:
     void write(const Change& change) const
     {
         const WriteLock lock(map());
+        const LibraryScope scope(map().camera(), m_feature.name());
         change(m_feature);
     }
 

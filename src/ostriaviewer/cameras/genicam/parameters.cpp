@@ -4,6 +4,7 @@
 
 #include "commandfeature_p.h"
 #include "enumerationfeature_p.h"
+#include "featuretexts_p.h"
 #include "numberfeature_p.h"
 #include "parameterbase_p.h"
 #include "textfeature_p.h"
@@ -118,7 +119,7 @@ public:
         auto pause = std::chrono::milliseconds(1);
         while (!isDone()) {
             if (std::chrono::steady_clock::now() >= end)
-                feature().fail(QStringLiteral("the camera does not finish the command"));
+                feature().fail(FeatureTexts::tr("the camera does not finish the command"));
             std::this_thread::sleep_for(pause);
             pause = std::min(2 * pause, std::chrono::milliseconds(20));
         }

@@ -8,6 +8,8 @@
 
 #include <arv.h>
 
+#include "featuretexts_p.h"
+
 namespace Cameras::GenICam {
 
 namespace {
@@ -24,13 +26,16 @@ QString stringValue(const Feature& feature)
 void setString(const Feature& feature, const QString& text)
 {
     feature.requireWritable();
+    // It would end there in the camera.
+    if (text.contains(QChar(QChar::Null)))
+        feature.fail(QStringLiteral("the text has a NUL character"));
     const QByteArray bytes = text.toUtf8();
     GErrorSlot lengthError;
     const gint64 longest = arv_gc_string_get_max_length(ARV_GC_STRING(feature.node()), lengthError);
     feature.check(lengthError);
     // Aravis would cut it off, and say nothing.
     if (longest > 0 && bytes.size() > longest)
-        feature.fail(QStringLiteral("the text is longer than %1 bytes").arg(longest));
+        feature.fail(FeatureTexts::tr("the text is longer than %1 bytes").arg(longest));
     GErrorSlot error;
     arv_gc_string_set_value(ARV_GC_STRING(feature.node()), bytes.constData(), error);
     feature.check(error);
@@ -41,7 +46,7 @@ void setIntegerText(const Feature& feature, const QString& text)
     bool isInteger = false;
     const qint64 value = text.toLongLong(&isInteger);
     if (!isInteger)
-        feature.fail(QStringLiteral("an integer is expected"));
+        feature.fail(FeatureTexts::tr("an integer is expected"));
     setInteger(feature, value, false);
 }
 
@@ -50,7 +55,7 @@ void setFloatText(const Feature& feature, const QString& text)
     bool isNumber = false;
     const double value = text.toDouble(&isNumber);
     if (!isNumber)
-        feature.fail(QStringLiteral("a number is expected"));
+        feature.fail(FeatureTexts::tr("a number is expected"));
     setFloat(feature, value);
 }
 
@@ -58,7 +63,7 @@ void setBooleanText(const Feature& feature, const QString& text)
 {
     const bool isTrue = text == QLatin1String("1");
     if (!isTrue && text != QLatin1String("0"))
-        feature.fail(QStringLiteral("0 or 1 is expected"));
+        feature.fail(FeatureTexts::tr("0 or 1 is expected"));
     setBoolean(feature, isTrue, false);
 }
 
@@ -87,7 +92,7 @@ QString featureText(const Feature& feature)
     case FeatureKind::Other:
         break;
     }
-    feature.fail(QStringLiteral("has no value"));
+    feature.fail(FeatureTexts::tr("has no value"));
 }
 
 void setFeatureText(const Feature& feature, const QString& text)
@@ -107,7 +112,7 @@ void setFeatureText(const Feature& feature, const QString& text)
     case FeatureKind::Other:
         break;
     }
-    feature.fail(QStringLiteral("has no value"));
+    feature.fail(FeatureTexts::tr("has no value"));
 }
 
 } // namespace Cameras::GenICam

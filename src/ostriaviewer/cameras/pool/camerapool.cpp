@@ -7,16 +7,17 @@
 namespace Cameras {
 
 CameraPool::CameraPool(const QList<HostCameraPtr>& cameras)
-    : m_cameras(cameras)
+    : m_roster(std::make_shared<CameraRoster>(cameras))
     , m_recordings(QSharedPointer<Recordings>::create())
+    , m_status(QSharedPointer<CameraStatusService>::create(m_recordings))
 {
-    const auto status = QSharedPointer<CameraStatusService>::create(cameras, m_recordings);
-    m_status = status;
+    for (const HostCameraPtr& camera : cameras)
+        m_status->watch(camera);
     m_services = {
-        status,
-        QSharedPointer<CameraEnumerationService>::create(cameras),
-        QSharedPointer<CameraStreamControlService>::create(cameras, m_recordings),
-        QSharedPointer<CameraControlService>::create(status),
+        m_status,
+        QSharedPointer<CameraEnumerationService>::create(m_roster),
+        QSharedPointer<CameraStreamControlService>::create(m_roster, m_recordings),
+        QSharedPointer<CameraControlService>::create(m_status),
         QSharedPointer<ParameterService>::create(),
     };
 }
@@ -26,8 +27,30 @@ CameraPool::~CameraPool()
     if (m_registry)
         for (const Core::Service::ServicePtr& service : m_services)
             m_registry->remove(service);
-    for (const HostCameraPtr& camera : m_cameras)
+    for (const HostCameraPtr& camera : cameras())
         camera->close();
+}
+
+void CameraPool::add(const HostCameraPtr& camera)
+{
+    if (!m_roster->add(camera))
+        return;
+    m_status->watch(camera);
+    emit cameraAdded(camera);
+}
+
+void CameraPool::remove(const HostCameraPtr& camera)
+{
+    if (!m_roster->remove(camera))
+        return;
+    m_status->forget(camera);
+    emit cameraRemoved(camera);
+    camera->close();
+}
+
+Plugin::CameraPool::ICameraStatusService& CameraPool::statusService() const
+{
+    return *m_status;
 }
 
 void CameraPool::registerServices(Core::Service::CServiceRegistry& registry)
@@ -43,7 +66,8 @@ bool CameraPool::open(const HostCameraPtr& camera)
         return true;
     if (!camera->open())
         return false;
-    m_status.staticCast<CameraStatusService>()->announceOpened(camera);
+    camera->setOpener(HostCamera::Opener::Host);
+    m_status->announceOpened(camera);
     return true;
 }
 

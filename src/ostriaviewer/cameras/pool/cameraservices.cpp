@@ -8,6 +8,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <utility>
 
 namespace Cameras {
 
@@ -23,18 +24,23 @@ HostCameraPtr hostCamera(const CameraInfoPtr& camera)
     return camera.dynamicCast<HostCamera>();
 }
 
-// The camera is held weakly: a service may outlive it, and must not keep it.
-CameraStatusService::CameraStatusService(const QList<HostCameraPtr>& cameras,
-                                         const QSharedPointer<Recordings>& recordings)
+CameraStatusService::CameraStatusService(const QSharedPointer<Recordings>& recordings)
     : m_recordings(recordings)
+{}
+
+// The camera is held weakly: a service may outlive it, and must not keep it.
+void CameraStatusService::watch(const HostCameraPtr& camera)
 {
-    for (const HostCameraPtr& camera : cameras) {
-        const QWeakPointer<HostCamera> weak = camera;
-        connect(camera.data(), &HostCamera::cameraConnectionLost, this, [this, weak] {
-            if (const HostCameraPtr lost = weak.toStrongRef())
-                emit cameraConnectionLost(lost);
-        });
-    }
+    const QWeakPointer<HostCamera> weak = camera;
+    connect(camera.data(), &HostCamera::cameraConnectionLost, this, [this, weak] {
+        if (const HostCameraPtr lost = weak.toStrongRef())
+            emit cameraConnectionLost(lost);
+    });
+}
+
+void CameraStatusService::forget(const HostCameraPtr& camera)
+{
+    camera->disconnect(this);
 }
 
 bool CameraStatusService::isCameraOpen(const CameraPtr& camera) const
@@ -54,14 +60,14 @@ void CameraStatusService::announceOpened(const HostCameraPtr& camera)
     QMetaObject::invokeMethod(this, [this, camera] { emit deviceOpened(camera); });
 }
 
-CameraEnumerationService::CameraEnumerationService(const QList<HostCameraPtr>& cameras)
-    : m_cameras(cameras)
+CameraEnumerationService::CameraEnumerationService(std::shared_ptr<CameraRoster> roster)
+    : m_roster(std::move(roster))
 {}
 
 QList<Plugin::CameraPool::DeviceGroup> CameraEnumerationService::deviceGroups() const
 {
     QList<Plugin::CameraPool::DeviceGroup> groups;
-    for (const HostCameraPtr& camera : m_cameras) {
+    for (const HostCameraPtr& camera : m_roster->cameras()) {
         const QString name = camera->groupName();
         auto group = std::find_if(groups.begin(), groups.end(),
                                   [&name](const auto& known) { return known.name == name; });
@@ -72,16 +78,16 @@ QList<Plugin::CameraPool::DeviceGroup> CameraEnumerationService::deviceGroups() 
     return groups;
 }
 
-CameraStreamControlService::CameraStreamControlService(const QList<HostCameraPtr>& cameras,
+CameraStreamControlService::CameraStreamControlService(std::shared_ptr<CameraRoster> roster,
                                                        const QSharedPointer<Recordings>& recordings)
-    : m_cameras(cameras)
+    : m_roster(std::move(roster))
     , m_recordings(recordings)
 {}
 
 void CameraStreamControlService::stopAllAcquisitionsAndRecordings()
 {
     m_recordings->stopAll();
-    for (const HostCameraPtr& camera : m_cameras)
+    for (const HostCameraPtr& camera : m_roster->cameras())
         camera->stopGrabbing();
 }
 
@@ -112,13 +118,15 @@ CameraPtr CameraControlService::openWithExclusiveAccess(const CameraPtr& camera)
     const CameraPtr handle = known->takeExclusiveAccess();
     if (!handle || !known->open())
         return {};
+    known->setOpener(HostCamera::Opener::ControlService);
     m_status->announceOpened(known);
     return handle;
 }
 
 void CameraControlService::close(const CameraPtr& camera)
 {
-    if (const HostCameraPtr known = hostCamera(camera))
+    const HostCameraPtr known = hostCamera(camera);
+    if (known && known->setOpener(HostCamera::Opener::Host) == HostCamera::Opener::ControlService)
         known->close();
 }
 

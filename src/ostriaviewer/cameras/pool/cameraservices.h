@@ -2,12 +2,15 @@
 // The host's services over a list of cameras.
 #pragma once
 
+#include "cameraroster.h"
 #include "hostcamera.h"
 #include "icameraservices.h"
 #include "iparameterservice.h"
 #include "recordings.h"
 
 #include <QList>
+
+#include <memory>
 
 namespace Cameras {
 
@@ -23,8 +26,11 @@ class CameraStatusService final : public Plugin::CameraPool::ICameraStatusServic
     Q_OBJECT
 
 public:
-    CameraStatusService(const QList<HostCameraPtr>& cameras,
-                        const QSharedPointer<Recordings>& recordings);
+    explicit CameraStatusService(const QSharedPointer<Recordings>& recordings);
+
+    /// Begins and ends to tell of the camera's lost connection.
+    void watch(const HostCameraPtr& camera);
+    void forget(const HostCameraPtr& camera);
 
     bool isCameraOpen(const CameraPtr& camera) const override;
     bool isAcquiringOrRecording(const CameraInfoPtr& camera) const override;
@@ -41,12 +47,12 @@ class CameraEnumerationService final : public Plugin::CameraPool::ICameraEnumera
     Q_OBJECT
 
 public:
-    explicit CameraEnumerationService(const QList<HostCameraPtr>& cameras);
+    explicit CameraEnumerationService(std::shared_ptr<CameraRoster> roster);
 
     QList<Plugin::CameraPool::DeviceGroup> deviceGroups() const override;
 
 private:
-    const QList<HostCameraPtr> m_cameras;
+    const std::shared_ptr<CameraRoster> m_roster;
 };
 
 class CameraStreamControlService final : public Plugin::CameraPool::ICameraStreamControlService
@@ -54,13 +60,13 @@ class CameraStreamControlService final : public Plugin::CameraPool::ICameraStrea
     Q_OBJECT
 
 public:
-    CameraStreamControlService(const QList<HostCameraPtr>& cameras,
+    CameraStreamControlService(std::shared_ptr<CameraRoster> roster,
                                const QSharedPointer<Recordings>& recordings);
 
     void stopAllAcquisitionsAndRecordings() override;
 
 private:
-    const QList<HostCameraPtr> m_cameras;
+    const std::shared_ptr<CameraRoster> m_roster;
     const QSharedPointer<Recordings> m_recordings;
 };
 

@@ -12,18 +12,15 @@ HostCamera::~HostCamera() = default;
 
 HostCamera::CameraPtr HostCamera::takeExclusiveAccess()
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_exclusive) {
-            m_lastError = QCoreApplication::translate(
-                "Cameras::HostCamera", "The camera is being used by another part of the program.");
-            return {};
-        }
-        m_exclusive = true;
+    const std::lock_guard lock(m_mutex);
+    if (m_exclusive) {
+        m_lastError = QCoreApplication::translate(
+            "Cameras::HostCamera", "The camera is being used by another part of the program.");
+        return {};
     }
     const auto handle = QSharedPointer<CameraHandle>::create(sharedFromThis());
-    const std::lock_guard lock(m_mutex);
     m_handle = handle;
+    m_exclusive = true;
     return handle;
 }
 

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QWeakPointer>
 
+#include <atomic>
 #include <mutex>
 
 namespace Cameras {
@@ -44,9 +45,21 @@ public:
     /// Ends grabbing and closes; no error if it is closed. Parameters throw from then on.
     virtual void close() = 0;
 
+    /// For whom the camera was opened, and who may close it therefore.
+    enum class Opener {
+        Host,
+        ControlService ///< for a part of the program that wanted exclusive rights
+    };
+
+    /// \return  what was set before; Host at first
+    Opener setOpener(Opener opener) { return m_opener.exchange(opener); }
+
     /// A handle with exclusive rights. Its end gives them back, and ends what was grabbed by it.
     /// \return  null while another handle lives; lastErrorText says so
     CameraPtr takeExclusiveAccess();
+
+    /// Whether a handle with exclusive rights lives.
+    bool isExclusive() const;
 
     /// Both are refused while somebody has exclusive rights.
     bool startGrabbing() final;
@@ -80,10 +93,10 @@ protected:
 private:
     friend class CameraHandle;
 
-    bool isExclusive() const;
     QSharedPointer<CameraHandle> handle() const;
     void releaseExclusiveAccess();
 
+    std::atomic<Opener> m_opener{Opener::Host};
     mutable std::mutex m_mutex; // guards all below
     bool m_exclusive = false;
     QWeakPointer<CameraHandle> m_handle;

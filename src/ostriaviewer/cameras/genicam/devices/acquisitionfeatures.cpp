@@ -7,12 +7,19 @@
 #include "logging.h"
 #include "nodemap_p.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <exception>
 #include <utility>
 
 namespace Cameras::GenICam {
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::AcquisitionFeatures)
+};
 
 QString modeName()
 {
@@ -44,7 +51,6 @@ void AcquisitionFeatures::prepare(bool single)
 {
     const std::lock_guard lock(m_mutex);
     setMode(single);
-    m_isPrepared = true;
 }
 
 // A camera without a mode for one image is stopped after the first.
@@ -68,7 +74,10 @@ std::size_t AcquisitionFeatures::payloadSize() const
     const auto payload = m_parameters->integerParameter(QStringLiteral("PayloadSize"));
     const qint64 size = payload->value();
     if (size <= 0)
-        throw ::GenICam::RuntimeException("PayloadSize: the camera tells no size of its images.");
+        throw ::GenICam::RuntimeException(
+            QCoreApplication::translate("Cameras::GenICam::FrameStream",
+                                        "The camera does not tell how large its images are.")
+                .toStdString());
     return static_cast<std::size_t>(size);
 }
 
@@ -97,20 +106,22 @@ void AcquisitionFeatures::lockFeatures(bool locked)
 
 void AcquisitionFeatures::restoreMode()
 {
-    const QString mode = std::exchange(m_previousMode, {});
-    if (!mode.isEmpty())
-        m_parameters->enumerationParameter(modeName())->setValue(mode);
+    if (m_previousMode.isEmpty())
+        return;
+    m_parameters->enumerationParameter(modeName())->setValue(m_previousMode);
+    m_previousMode.clear();
 }
 
 template <class Step>
-void AcquisitionFeatures::tryStep(const char* what, const Step& step) noexcept
+void AcquisitionFeatures::tryStep(const QString& what, const Step& step) noexcept
 {
     try {
         step();
     } catch (const std::exception& error) {
         Core::Logging::createLogEntry(
             Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
-            QStringLiteral("%1 (%2)").arg(QLatin1String(what), QString::fromUtf8(error.what())));
+            QStringLiteral("%1: %2 (%3)")
+                .arg(m_nodeMap->d().camera(), what, QString::fromUtf8(error.what())));
     }
 }
 
@@ -119,7 +130,7 @@ void AcquisitionFeatures::startAgain() noexcept
     const std::lock_guard lock(m_mutex);
     if (!m_isStarted || !m_nodeMap->isConnected())
         return;
-    tryStep("The camera could not be asked for another image.", [this] {
+    tryStep(Texts::tr("The camera could not be asked for another image."), [this] {
         execute("AcquisitionStop");
         execute("AcquisitionStart");
     });
@@ -128,13 +139,16 @@ void AcquisitionFeatures::startAgain() noexcept
 void AcquisitionFeatures::stop() noexcept
 {
     const std::lock_guard lock(m_mutex);
-    if (!std::exchange(m_isPrepared, false) || !m_nodeMap->isConnected())
+    if (!m_nodeMap->isConnected())
         return;
     if (std::exchange(m_isStarted, false)) {
-        tryStep("The camera could not be stopped.", [this] { execute("AcquisitionStop"); });
-        tryStep("The camera's features stay locked.", [this] { lockFeatures(false); });
+        tryStep(Texts::tr("The camera could not be stopped."),
+                [this] { execute("AcquisitionStop"); });
+        tryStep(Texts::tr("The camera's features stay locked."), [this] { lockFeatures(false); });
     }
-    tryStep("The camera's acquisition mode could not be restored.", [this] { restoreMode(); });
+    tryStep(Texts::tr("The acquisition mode could not be put back; set AcquisitionMode to \"%1\".")
+                .arg(m_previousMode),
+            [this] { restoreMode(); });
 }
 
 } // namespace Cameras::GenICam

@@ -42,8 +42,9 @@ public:
     /// end. What the camera refuses goes to the log.
     void startAgain() noexcept;
 
-    /// Ends sending, and puts everything back as it was before prepare. Only the first call acts.
-    /// What the camera refuses goes to the log.
+    /// Ends sending, and puts everything back as it was before prepare. What the camera refuses
+    /// goes to the log; a mode that it refused is tried again by the next call, else that does
+    /// nothing.
     void stop() noexcept;
 
 private:
@@ -52,13 +53,12 @@ private:
     void setMode(bool single);
     void restoreMode();
     template <class Step>
-    void tryStep(const char* what, const Step& step) noexcept;
+    void tryStep(const QString& what, const Step& step) noexcept;
 
     const std::shared_ptr<NodeMap> m_nodeMap;
     const Core::ParameterCollection::ParameterCollectionPtr m_parameters;
 
     std::mutex m_mutex; // guards all below
-    bool m_isPrepared = false;
     bool m_isStarted = false;
     QString m_previousMode; // empty: it is not to be put back
 };

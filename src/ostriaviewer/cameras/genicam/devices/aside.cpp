@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <future>
+#include <iterator>
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -36,15 +37,21 @@ public:
         }
     }
 
+    /// What the work holds goes when it ends, and not with the lock held: its end may add some.
     void add(std::function<void()> work)
     {
+        std::vector<std::future<void>> done;
         const std::lock_guard lock(m_mutex);
-        const auto isDone = [](const std::future<void>& worker) {
-            return worker.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+        const auto isUnderWay = [](const std::future<void>& worker) {
+            return worker.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
         };
-        m_workers.erase(std::remove_if(m_workers.begin(), m_workers.end(), isDone),
-                        m_workers.end());
-        m_workers.push_back(std::async(std::launch::async, std::move(work)));
+        const auto firstDone = std::partition(m_workers.begin(), m_workers.end(), isUnderWay);
+        std::move(firstDone, m_workers.end(), std::back_inserter(done));
+        m_workers.erase(firstDone, m_workers.end());
+        m_workers.push_back(std::async(std::launch::async, [work = std::move(work)]() mutable {
+            const std::function<void()> ended = std::move(work);
+            ended();
+        }));
     }
 
 private:

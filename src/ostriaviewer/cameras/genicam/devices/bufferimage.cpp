@@ -6,6 +6,7 @@
 
 #include <arv.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <cstring>
@@ -13,6 +14,11 @@
 
 namespace Cameras::GenICam {
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::Frame)
+};
 
 Ostria::CGrabResultPtr failure(const QString& reason, std::uint64_t number)
 {
@@ -37,7 +43,7 @@ Ostria::COstriaImage copyImage(ArvBuffer* buffer, Ostria::PixelType type)
     std::size_t size = 0;
     const void* data = arv_buffer_get_image_data(buffer, &size);
     if (!data || size < image.size())
-        throw std::length_error("The frame holds less than its image.");
+        throw std::length_error(Texts::tr("The frame holds less than its image.").toStdString());
     std::memcpy(image.writableData(), data, image.size());
     return image;
 }
@@ -47,10 +53,10 @@ Ostria::COstriaImage copyImage(ArvBuffer* buffer, Ostria::PixelType type)
 Ostria::CGrabResultPtr toGrabResult(ArvBuffer* buffer, std::uint64_t number)
 {
     if (!holdsImage(buffer))
-        return failure(QStringLiteral("The frame holds no image."), number);
+        return failure(Texts::tr("The frame holds no image."), number);
     const auto type = static_cast<Ostria::PixelType>(arv_buffer_get_image_pixel_format(buffer));
     if (!Ostria::pixelTypeInfo(type))
-        return failure(QStringLiteral("The pixel format 0x%1 is not known; choose another one.")
+        return failure(Texts::tr("The pixel format 0x%1 is not known; choose another one.")
                            .arg(static_cast<quint32>(type), 8, 16, QLatin1Char('0')),
                        number);
     try {

@@ -5,37 +5,36 @@
 #include "aside_p.h"
 #include "discovery.h"
 
-#include <memory>
 #include <mutex>
 
 namespace Cameras::GenICam {
-namespace {
 
-/// A finder that may have gone when the search ends.
-struct Return
+/// The way back to a finder that may have gone when the search ends.
+struct CameraFinder::Return
 {
     std::mutex mutex;
-    CameraFinder* finder;
+    CameraFinder* finder; ///< null when it has gone
 };
-
-} // namespace
 
 CameraFinder::CameraFinder(QObject* parent)
     : QObject(parent)
-{}
+    , m_return(std::make_shared<Return>())
+{
+    m_return->finder = this;
+}
+
+CameraFinder::~CameraFinder()
+{
+    const std::lock_guard lock(m_return->mutex);
+    m_return->finder = nullptr;
+}
 
 void CameraFinder::start(const TransportSettings& settings)
 {
     if (m_isLooking)
         return;
     m_isLooking = true;
-    const auto way = std::make_shared<Return>();
-    way->finder = this;
-    connect(this, &QObject::destroyed, [way] {
-        const std::lock_guard lock(way->mutex);
-        way->finder = nullptr;
-    });
-    runAside([way, settings] {
+    runAside([way = m_return, settings] {
         const QVector<CameraIdentity> cameras = findNetworkCameras(settings) + findUsbCameras();
         const std::lock_guard lock(way->mutex);
         if (!way->finder)

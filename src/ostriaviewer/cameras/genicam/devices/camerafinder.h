@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QVector>
 
+#include <memory>
+
 namespace Cameras::GenICam {
 
 /// Looks for cameras on a thread of its own. Thread-bound.
@@ -18,6 +20,9 @@ class CameraFinder final : public QObject
 public:
     explicit CameraFinder(QObject* parent = nullptr);
 
+    /// Does not wait for a search that is under way.
+    ~CameraFinder() override;
+
     /// Returns at once; found follows. Does nothing while it is looking already.
     void start(const TransportSettings& settings);
 
@@ -26,6 +31,9 @@ signals:
     void found(const QVector<Cameras::GenICam::CameraIdentity>& cameras);
 
 private:
+    struct Return;
+
+    const std::shared_ptr<Return> m_return;
     bool m_isLooking = false;
 };
 

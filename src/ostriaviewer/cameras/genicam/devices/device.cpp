@@ -2,13 +2,20 @@
 // A GigE Vision or USB3 Vision camera under control.
 #include "device.h"
 
+#include "accessqueue_p.h"
 #include "aside_p.h"
 #include "devicewatch_p.h"
 #include "genicamexception.h"
 #include "gerrorslot_p.h"
+#include "librarylog_p.h"
+#include "libraryparsing_p.h"
+#include "patience.h"
 
 #include <arv.h>
 
+#include <QCoreApplication>
+
+#include <algorithm>
 #include <chrono>
 #include <future>
 #include <utility>
@@ -16,6 +23,11 @@
 
 namespace Cameras::GenICam {
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::Device)
+};
 
 constexpr guint16 controlPort = 3956;
 
@@ -59,8 +71,10 @@ ArvDevice* openNetworkDevice(GInetAddress* camera, GErrorSlot& error)
     return device;
 }
 
+/// The library parses the camera's description as it opens it.
 ArvDevice* openDevice(const QString& id, GErrorSlot& error)
 {
+    const std::lock_guard lock(libraryParsing());
     const QByteArray name = id.toUtf8();
     GInetAddress* camera = g_inet_address_new_from_string(name.constData());
     if (!camera) {
@@ -91,41 +105,58 @@ void applySettings(ArvDevice* device, const TransportSettings& settings)
 
 std::shared_ptr<Device> Device::open(const QString& id, const TransportSettings& settings)
 {
+    logLibraryComplaints();
+    const QString wholeDescription;
+    const LibraryScope scope(id, wholeDescription);
     GErrorSlot error;
     ArvDevice* device = openDevice(id, error);
     if (!device && error.isAboutDescription())
-        fail(QStringLiteral("The description of the camera \"%1\" cannot be used (%2).")
+        fail(Texts::tr("The description of the camera \"%1\" cannot be used (%2).")
                  .arg(id, error.reason()));
     if (!device)
-        fail(QStringLiteral("The camera \"%1\" does not answer%2.")
+        fail(Texts::tr("The camera \"%1\" does not answer%2.")
                  .arg(id, error.isSet() ? QStringLiteral(" (%1)").arg(error.reason()) : QString()));
     if (ARV_IS_GV_DEVICE(device) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device))) {
         g_object_unref(device);
-        fail(QStringLiteral("The camera is being used by another application."));
+        fail(Texts::tr("The camera is being used by another application."));
     }
     applySettings(device, settings);
     std::shared_ptr<Device> result(new Device(device));
-    result->m_watch = std::make_shared<DeviceWatch>(device, [weak = result->weak_from_this()] {
-        if (const auto self = weak.lock())
-            self->becomeLost();
-    });
+    result->watch();
     return result;
 }
 
 Device::Device(ArvDevice* device)
     : m_device(device)
+    , m_accesses(std::make_shared<AccessQueue>())
+{}
+
+// Who notices the loss does so on threads of their own, which may be about to when we go.
+void Device::watch()
 {
-    g_signal_connect(m_device, "control-lost", G_CALLBACK(&Device::onControlLost), this);
+    using Weak = std::weak_ptr<Device>;
+    const auto forget = [](void* weak, GClosure*) {
+        delete static_cast<Weak*>(weak);
+    };
+    g_signal_connect_data(m_device, "control-lost", G_CALLBACK(&Device::onControlLost),
+                          new Weak(weak_from_this()), forget, GConnectFlags());
+    m_watch = std::make_shared<DeviceWatch>(m_device, [weak = weak_from_this()] {
+        if (const auto self = weak.lock())
+            self->becomeLost();
+    });
 }
 
 Device::~Device()
 {
     constexpr std::chrono::milliseconds longestWait(500);
-    g_signal_handlers_disconnect_by_data(m_device, this);
     const auto released = std::make_shared<std::promise<void>>();
-    m_watch->end();
-    runAside([device = m_device, watch = m_watch, released] {
-        watch->wait();
+    if (m_watch)
+        m_watch->end();
+    m_accesses->abandon();
+    runAside([device = m_device, watch = m_watch, accesses = m_accesses, released] {
+        if (watch)
+            watch->wait();
+        accesses->finish();
         g_object_unref(device);
         released->set_value();
     });
@@ -133,15 +164,17 @@ Device::~Device()
         released->get_future().wait_for(longestWait);
 }
 
-void Device::onControlLost(ArvDevice* /*device*/, Device* self)
+void Device::onControlLost(ArvDevice* /*device*/, const std::weak_ptr<Device>* weak)
 {
-    self->becomeLost();
+    if (const auto self = weak->lock())
+        self->becomeLost();
 }
 
 void Device::becomeLost()
 {
     const std::lock_guard lock(m_lostMutex);
     m_isLost = true;
+    m_accesses->abandon();
     if (const std::function<void()> handler = std::exchange(m_lostHandler, {}))
         handler();
 }
@@ -158,59 +191,105 @@ bool Device::isLost() const
     return m_isLost;
 }
 
-std::string Device::description() const
+namespace {
+
+/// What an access brings, which may come when nobody waits for it any more.
+struct Answer
 {
-    const std::lock_guard lock(m_accessMutex);
-    std::size_t size = 0;
-    const char* xml = arv_device_get_genicam_xml(m_device, &size);
-    if (!xml || size == 0)
-        fail(QStringLiteral("The camera gives no description of its features."));
-    return {xml, size};
+    bool hasSucceeded = false;
+    QString reason;
+};
+
+struct StreamHolder
+{
+    StreamHolder() = default;
+    StreamHolder(const StreamHolder&) = delete;
+    StreamHolder& operator=(const StreamHolder&) = delete;
+    ~StreamHolder()
+    {
+        if (stream)
+            g_object_unref(stream);
+    }
+
+    ArvStream* stream = nullptr;
+};
+
+using Bytes = std::vector<std::uint8_t>;
+
+} // namespace
+
+void Device::access(Access access)
+{
+    const auto answer = std::make_shared<Answer>();
+    const auto outcome = m_accesses->run(
+        [weak = weak_from_this(), device = m_device, access = std::move(access), answer] {
+            GErrorSlot error;
+            answer->hasSucceeded = access(device, error);
+            answer->reason = error.reason();
+            // The library has asked several times before it says that time is over.
+            const auto self = weak.lock();
+            if (self && error.isTimeout())
+                self->becomeLost();
+        },
+        Patience::ofThisThread());
+    if (outcome == AccessQueue::Outcome::Abandoned)
+        fail(Texts::tr("the connection to the camera is lost"));
+    if (outcome == AccessQueue::Outcome::Late)
+        fail(Texts::tr("the camera does not answer at present"));
+    if (!answer->hasSucceeded)
+        fail(answer->reason);
+}
+
+std::string Device::description()
+{
+    const auto xml = std::make_shared<std::string>();
+    access([xml](ArvDevice* device, GErrorSlot&) {
+        std::size_t size = 0;
+        if (const char* text = arv_device_get_genicam_xml(device, &size))
+            xml->assign(text, size);
+        return true;
+    });
+    if (xml->empty())
+        fail(Texts::tr("The camera gives no description of its features."));
+    return *xml;
 }
 
 ArvStream* Device::createStream()
 {
-    const std::lock_guard lock(m_accessMutex);
-    GErrorSlot error;
-    ArvStream* stream = arv_device_create_stream(m_device, nullptr, nullptr, error);
-    if (!stream)
-        fail(QStringLiteral("The camera's images cannot be received: %1.").arg(error.reason()));
+    const auto holder = std::make_shared<StreamHolder>();
+    try {
+        access([holder](ArvDevice* device, GErrorSlot& error) {
+            holder->stream = arv_device_create_stream(device, nullptr, nullptr, error);
+            return holder->stream != nullptr;
+        });
+    } catch (const std::exception& error) {
+        fail(Texts::tr("The camera's images cannot be received: %1.")
+                 .arg(QString::fromUtf8(error.what())));
+    }
+    ArvStream* stream = std::exchange(holder->stream, nullptr);
     if (ARV_IS_GV_STREAM(stream))
         g_object_set(stream, "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_AUTO,
                      "socket-buffer-size", 0, nullptr);
     return stream;
 }
 
-// The library has asked several times before it says that time is over, so nobody is there.
-template <class Access>
-void Device::access(const Access& access)
-{
-    const std::lock_guard lock(m_accessMutex);
-    if (isLost())
-        fail(QStringLiteral("the connection to the camera is lost"));
-    GErrorSlot error;
-    if (access(error))
-        return;
-    if (error.isTimeout())
-        becomeLost();
-    fail(error.reason());
-}
-
 void Device::read(std::uint64_t address, void* data, std::size_t size)
 {
-    access([&](GErrorSlot& error) {
-        return arv_device_read_memory(m_device, address, static_cast<guint32>(size), data, error);
+    const auto bytes = std::make_shared<Bytes>(size);
+    access([address, bytes](ArvDevice* device, GErrorSlot& error) {
+        return arv_device_read_memory(device, address, static_cast<guint32>(bytes->size()),
+                                      bytes->data(), error) != FALSE;
     });
+    std::copy(bytes->begin(), bytes->end(), static_cast<std::uint8_t*>(data));
 }
 
 void Device::write(std::uint64_t address, const void* data, std::size_t size)
 {
-    // The library takes bytes that it does not write to as writable ones.
-    std::vector<std::uint8_t> bytes(static_cast<const std::uint8_t*>(data),
-                                    static_cast<const std::uint8_t*>(data) + size);
-    access([&](GErrorSlot& error) {
-        return arv_device_write_memory(m_device, address, static_cast<guint32>(size), bytes.data(),
-                                       error);
+    const auto* first = static_cast<const std::uint8_t*>(data);
+    const auto bytes = std::make_shared<Bytes>(first, first + size);
+    access([address, bytes](ArvDevice* device, GErrorSlot& error) {
+        return arv_device_write_memory(device, address, static_cast<guint32>(bytes->size()),
+                                       bytes->data(), error) != FALSE;
     });
 }
 

@@ -17,9 +17,14 @@ typedef struct _ArvStream ArvStream;
 
 namespace Cameras::GenICam {
 
+class AccessQueue;
 class DeviceWatch;
+class GErrorSlot;
 
 /// A camera that this program controls, as registers. Thread-safe.
+///
+/// Whoever waits for an answer is told at once when the camera is found to be lost, and otherwise
+/// waits as long as Patience says.
 class Device final : public IRegisterPort, public std::enable_shared_from_this<Device>
 {
 public:
@@ -34,9 +39,10 @@ public:
 
     /// The camera's own GenICam description.
     /// \throws ::GenICam::RuntimeException  it has none that can be read
-    std::string description() const;
+    std::string description();
 
-    /// A stream without buffers; owned by the caller, who keeps the device meanwhile.
+    /// A stream without buffers; owned by the caller, who keeps the device until it has given the
+    /// stream back, on any thread.
     /// \throws ::GenICam::RuntimeException  the camera sends none, with the reason
     ArvStream* createStream();
 
@@ -53,16 +59,18 @@ public:
 private:
     explicit Device(ArvDevice* device);
 
-    static void onControlLost(ArvDevice* device, Device* self);
+    void watch();
+    static void onControlLost(ArvDevice* device, const std::weak_ptr<Device>* weak);
     void becomeLost();
 
-    template <class Access>
-    void access(const Access& access);
+    /// Works on the device; returns whether that succeeded.
+    using Access = std::function<bool(ArvDevice* device, GErrorSlot& error)>;
+    void access(Access access);
 
     ArvDevice* const m_device;
-    std::shared_ptr<DeviceWatch> m_watch;
-    mutable std::mutex m_accessMutex; // one access to the device at a time
-    mutable std::mutex m_lostMutex;   // guards all below
+    std::shared_ptr<DeviceWatch> m_watch; // null if it could not be made
+    const std::shared_ptr<AccessQueue> m_accesses;
+    mutable std::mutex m_lostMutex; // guards all below; taken before the accesses' own
     std::function<void()> m_lostHandler;
     bool m_isLost = false;
 };

@@ -35,19 +35,23 @@ bool isWanted(const QNetworkInterface& interface, const TransportSettings& setti
                                          : settings.interfaces.contains(interface.name());
 }
 
-/// A camera whose address does not belong to the network hears the first broadcast alone.
-void ask(UdpSocket& socket, const QNetworkAddressEntry& entry)
+void ask(UdpSocket& socket, std::uint32_t address)
 {
     const Bytes request = {0x42, 0x11, 0, 2, 0, 0, requestId >> 8, requestId & 0xff};
-    socket.send(request, {everybody, controlPort});
-    const QHostAddress network = entry.broadcast();
-    if (!network.isNull())
-        socket.send(request, {network.toIPv4Address(), controlPort});
+    socket.send(request, {address, controlPort});
 }
 
-Sockets askEverywhere(const TransportSettings& settings)
+/// A camera whose address does not belong to the network hears the first broadcast alone.
+void askEverybody(UdpSocket& socket, const QNetworkAddressEntry& entry)
 {
-    Sockets sockets;
+    ask(socket, everybody);
+    const QHostAddress network = entry.broadcast();
+    if (!network.isNull())
+        ask(socket, network.toIPv4Address());
+}
+
+void askEverywhere(const TransportSettings& settings, Sockets& sockets)
+{
     for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
         if (!isWanted(interface, settings))
             continue;
@@ -57,14 +61,30 @@ Sockets askEverywhere(const TransportSettings& settings)
             try {
                 auto socket =
                     std::make_unique<UdpSocket>(UdpAddress{entry.ip().toIPv4Address(), 0}, false);
-                ask(*socket, entry);
+                askEverybody(*socket, entry);
                 sockets.push_back(std::move(socket));
             } catch (const std::runtime_error&) {
                 continue; // the interface has just gone
             }
         }
     }
-    return sockets;
+}
+
+/// Each has a socket of its own, so that an address to which no way leads stops no other.
+void askAtAddresses(const TransportSettings& settings, Sockets& sockets)
+{
+    for (const QString& text : settings.addresses) {
+        const QHostAddress address(text);
+        if (address.protocol() != QAbstractSocket::IPv4Protocol)
+            continue;
+        try {
+            auto socket = std::make_unique<UdpSocket>(UdpAddress{0, 0}, false);
+            ask(*socket, address.toIPv4Address());
+            sockets.push_back(std::move(socket));
+        } catch (const std::runtime_error&) {
+            continue; // no way leads there
+        }
+    }
 }
 
 QString textAt(const Bytes& bytes, std::size_t offset, std::size_t room)
@@ -101,7 +121,10 @@ QVector<CameraIdentity> findNetworkCameras(const TransportSettings& settings,
                                            std::chrono::milliseconds time)
 {
     constexpr std::chrono::milliseconds slice(10);
-    const Sockets sockets = askEverywhere(settings);
+    Sockets sockets;
+    if (settings.isSearching)
+        askEverywhere(settings, sockets);
+    askAtAddresses(settings, sockets);
     QVector<CameraIdentity> cameras;
     const Clock::time_point end = Clock::now() + time;
     while (!sockets.empty() && Clock::now() < end)

@@ -11,8 +11,8 @@
 
 namespace Cameras::GenICam {
 
-/// Asks for cameras by broadcast on the interfaces that the settings allow, and collects what
-/// answers in that time, each camera once. Reentrant.
+/// Asks for cameras by broadcast on the interfaces that the settings allow and at the addresses
+/// that they name, and collects what answers in that time, each camera once. Reentrant.
 QVector<CameraIdentity>
 findNetworkCameras(const TransportSettings& settings,
                    std::chrono::milliseconds time = std::chrono::milliseconds(1000));

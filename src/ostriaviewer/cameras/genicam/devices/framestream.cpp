@@ -2,17 +2,24 @@
 // Images as they come from a device.
 #include "framestream.h"
 
+#include "aside_p.h"
 #include "bufferimage_p.h"
 #include "genicamexception.h"
 
 #include <arv.h>
 
-#include <condition_variable>
+#include <QCoreApplication>
+
 #include <mutex>
 #include <utility>
 
 namespace Cameras::GenICam {
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::FrameStream)
+};
 
 using Clock = std::chrono::steady_clock;
 
@@ -30,9 +37,9 @@ void requireSize(std::size_t payloadSize)
 {
     constexpr std::size_t largestPayload = std::size_t{256} << 20;
     if (payloadSize == 0)
-        fail(QStringLiteral("The camera does not tell how large its images are."));
+        fail(Texts::tr("The camera does not tell how large its images are."));
     if (payloadSize > largestPayload)
-        fail(QStringLiteral("The camera says that an image has %1 bytes, which is too much.")
+        fail(Texts::tr("The camera says that an image has %1 bytes, which is too much.")
                  .arg(payloadSize));
 }
 
@@ -69,17 +76,15 @@ struct FrameStream::State
     const Clock::time_point deadline;
 
     mutable std::mutex mutex; ///< guards all below
-    std::condition_variable delivered;
-    std::thread::id thread;
+    Delivery delivery;
     bool isStopped = false;
-    bool isDelivering = false;
     StreamStatistics counts;
     std::uint64_t lastId = 0;
     std::uint64_t number = 0;
 
     bool isWanted() const;
-    bool beginDelivery();
-    void endDelivery(bool succeeded);
+    bool isStillWanted() const { return !isStopped && Clock::now() < deadline; }
+    void hand(const Ostria::CGrabResultPtr& result);
     std::uint64_t countFrame(ArvBuffer* buffer);
     void receive(ArvBuffer* buffer);
     void dropDamaged();
@@ -100,7 +105,8 @@ bool FrameStream::State::giveBack(ArvBuffer* buffer)
 }
 
 /// A stream that ends tells the camera to send nowhere, so it must have ended before the next one
-/// begins. Only while the thread does not wait for a buffer.
+/// begins. Only while the thread does not wait for a buffer. It waits for the camera's answer,
+/// which nobody is to do for a camera that has gone.
 void FrameStream::State::release()
 {
     ArvStream* ended = nullptr;
@@ -108,32 +114,30 @@ void FrameStream::State::release()
         const std::lock_guard lock(mutex);
         ended = std::exchange(stream, nullptr);
     }
-    if (ended)
+    if (!ended)
+        return;
+    if (device->isLost())
+        runAside([ended, kept = device] { g_object_unref(ended); });
+    else
         g_object_unref(ended);
 }
 
 bool FrameStream::State::isWanted() const
 {
     const std::lock_guard lock(mutex);
-    return !isStopped && Clock::now() < deadline;
+    return isStillWanted();
 }
 
-bool FrameStream::State::beginDelivery()
+void FrameStream::State::hand(const Ostria::CGrabResultPtr& result)
 {
-    const std::lock_guard lock(mutex);
-    isDelivering = !isStopped && Clock::now() < deadline;
-    return isDelivering;
-}
-
-void FrameStream::State::endDelivery(bool succeeded)
-{
-    const std::lock_guard lock(mutex);
-    isDelivering = false;
-    if (succeeded)
+    std::unique_lock lock(mutex);
+    if (!isStillWanted())
+        return;
+    delivery.run(lock, [&] { deliver(result); });
+    if (result->GrabSucceeded())
         ++counts.delivered;
     if (single)
         isStopped = true;
-    delivered.notify_all();
 }
 
 /// Frames that never came count too, as the camera's own numbers tell of them.
@@ -168,10 +172,7 @@ void FrameStream::State::receive(ArvBuffer* buffer)
         return;
     if (single)
         single->end();
-    if (!beginDelivery())
-        return;
-    deliver(result);
-    endDelivery(result->GrabSucceeded());
+    hand(result);
 }
 
 void FrameStream::State::endAtDeadline()
@@ -199,7 +200,7 @@ FrameStream::~FrameStream()
     bool isDelivering = false;
     {
         const std::lock_guard lock(m_state->mutex);
-        isDelivering = m_state->isDelivering;
+        isDelivering = m_state->delivery.isUnderWay();
     }
     if (isDelivering || m_thread.get_id() == std::this_thread::get_id()) {
         m_state->release();
@@ -211,10 +212,6 @@ FrameStream::~FrameStream()
 
 void FrameStream::run(const std::shared_ptr<State>& state)
 {
-    {
-        const std::lock_guard lock(state->mutex);
-        state->thread = std::this_thread::get_id();
-    }
     while (state->isWanted()) {
         ArvBuffer* buffer =
             arv_stream_timeout_pop_buffer(state->stream, static_cast<guint64>(pollTime.count()));
@@ -232,9 +229,7 @@ void FrameStream::stop()
 {
     std::unique_lock lock(m_state->mutex);
     m_state->isStopped = true;
-    if (m_state->thread == std::this_thread::get_id())
-        return;
-    m_state->delivered.wait_for(lock, longestWait, [this] { return !m_state->isDelivering; });
+    m_state->delivery.wait(lock);
 }
 
 bool FrameStream::isFinished() const
@@ -251,6 +246,9 @@ StreamStatistics FrameStream::statistics() const
     arv_stream_get_statistics(m_state->stream, &completed, &failures, &underruns);
     StreamStatistics statistics = m_state->counts;
     statistics.overrun = underruns;
+    if (ARV_IS_GV_STREAM(m_state->stream))
+        arv_gv_stream_get_statistics(ARV_GV_STREAM(m_state->stream), &statistics.resentPackets,
+                                     &statistics.missingPackets);
     return statistics;
 }
 

@@ -2,6 +2,7 @@
 // Images as they come from a device.
 #pragma once
 
+#include "delivery.h"
 #include "device.h"
 #include "grabresult.h"
 
@@ -16,9 +17,11 @@ namespace Cameras::GenICam {
 /// What became of the frames of one stream.
 struct StreamStatistics
 {
-    std::uint64_t delivered = 0; ///< whole images
-    std::uint64_t damaged = 0;   ///< dropped, as a part of them was missing
-    std::uint64_t overrun = 0;   ///< came while no buffer was free
+    std::uint64_t delivered = 0;      ///< whole images
+    std::uint64_t damaged = 0;        ///< dropped, as a part of them was missing
+    std::uint64_t overrun = 0;        ///< came while no buffer was free
+    std::uint64_t missingPackets = 0; ///< lost on the network, and not got again
+    std::uint64_t resentPackets = 0;  ///< got again
 };
 
 /// One run of images, from its beginning to its end. Damaged frames are counted and dropped.
@@ -60,7 +63,7 @@ public:
 
     StreamStatistics statistics() const;
 
-    static constexpr std::chrono::milliseconds longestWait{250};
+    static constexpr std::chrono::milliseconds longestWait = Delivery::longestWait;
 
 private:
     struct State;

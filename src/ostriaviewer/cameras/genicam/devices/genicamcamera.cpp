@@ -4,11 +4,16 @@
 
 #include "acquisitionfeatures.h"
 #include "aside_p.h"
+#include "genicamexception.h"
+#include "logging.h"
 #include "nodemap_p.h"
 #include "parametercollection.h"
 #include "textfeature_p.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
+#include <atomic>
 #include <exception>
 #include <utility>
 
@@ -26,6 +31,7 @@ struct GenicamCamera::Acquisition
     std::shared_ptr<AcquisitionFeatures> features;
     std::unique_ptr<FrameStream> stream;
     bool isContinuous = false;
+    std::atomic<bool> isReported = false; ///< what was lost is in the log
 };
 
 namespace {
@@ -100,11 +106,24 @@ GenicamCamera::exchangeAcquisition(std::shared_ptr<Acquisition> next)
 
 bool GenicamCamera::open()
 {
+    if (isOpen())
+        return true;
+    if (const auto lost = connection())
+        lose(lost->device.get());
+    if (!openDevice())
+        return false;
+    emit stateChanged();
+    return true;
+}
+
+bool GenicamCamera::openDevice()
+{
     const std::lock_guard step(m_stepMutex);
     if (isOpen())
         return true;
     try {
         auto opened = connect();
+        exchangeAcquisition({});
         const std::lock_guard lock(m_mutex);
         m_connection = std::move(opened);
         return true;
@@ -118,7 +137,8 @@ bool GenicamCamera::open()
 std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connect()
 {
     auto result = std::make_shared<Connection>();
-    result->device = Device::open(m_identity.id, m_settings);
+    const auto [id, settings] = target();
+    result->device = Device::open(id, settings);
     result->nodeMap = NodeMap::create(result->device, result->device->description());
     completeIdentity(*result);
     result->parameters = createParameterCollection(result->nodeMap, modelName());
@@ -130,6 +150,35 @@ std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connect()
         });
     });
     return result;
+}
+
+std::pair<QString, TransportSettings> GenicamCamera::target() const
+{
+    const std::lock_guard lock(m_mutex);
+    return {m_identity.id, m_settings};
+}
+
+void GenicamCamera::setTransportSettings(const TransportSettings& settings)
+{
+    const std::lock_guard lock(m_mutex);
+    m_settings = settings;
+}
+
+CameraIdentity GenicamCamera::identity() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_identity;
+}
+
+void GenicamCamera::setIdentity(const CameraIdentity& identity)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_connection || m_identity == identity)
+            return;
+        m_identity = identity;
+    }
+    emit stateChanged();
 }
 
 void GenicamCamera::completeIdentity(Connection& connection)
@@ -147,6 +196,12 @@ void GenicamCamera::completeIdentity(Connection& connection)
 
 void GenicamCamera::close()
 {
+    if (closeDevice())
+        emit stateChanged();
+}
+
+bool GenicamCamera::closeDevice()
+{
     const std::lock_guard step(m_stepMutex);
     std::shared_ptr<Connection> closed;
     {
@@ -154,11 +209,12 @@ void GenicamCamera::close()
         closed = std::exchange(m_connection, {});
     }
     if (!closed)
-        return;
+        return false;
     closed->device->setLostHandler({});
     end();
     closed->nodeMap->disconnect();
     exchangeAcquisition({});
+    return true;
 }
 
 void GenicamCamera::lose(const Device* device)
@@ -174,20 +230,23 @@ void GenicamCamera::lose(const Device* device)
     }
     if (running)
         running->stream->stop();
+    emit stateChanged();
     announceConnectionLost();
     lost->nodeMap->disconnect();
 }
 
+// The word of a loss may still be on its way to us.
 bool GenicamCamera::isOpen() const
 {
-    return connection() != nullptr;
+    const auto opened = connection();
+    return opened && !opened->device->isLost();
 }
 
 bool GenicamCamera::isGrabbing() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_connection && m_acquisition && m_acquisition->isContinuous &&
-           !m_acquisition->stream->isFinished();
+    return m_connection && !m_connection->device->isLost() && m_acquisition &&
+           m_acquisition->isContinuous && !m_acquisition->stream->isFinished();
 }
 
 Core::ParameterCollection::ParameterCollectionPtr GenicamCamera::parameterCollection()
@@ -198,8 +257,15 @@ Core::ParameterCollection::ParameterCollectionPtr GenicamCamera::parameterCollec
 
 bool GenicamCamera::doStartGrabbing()
 {
-    const std::lock_guard step(m_stepMutex);
-    return isGrabbing() || begin(false, {});
+    {
+        const std::lock_guard step(m_stepMutex);
+        if (isGrabbing())
+            return true;
+        if (!begin(false, {}))
+            return false;
+    }
+    emit stateChanged();
+    return true;
 }
 
 bool GenicamCamera::doGrabSingle(int timeoutMs)
@@ -251,13 +317,45 @@ bool GenicamCamera::begin(bool single, std::chrono::milliseconds timeout)
         begun->stream = std::make_unique<FrameStream>(opened->device, features->payloadSize(),
                                                       receive, std::move(onlyOne));
         features->start();
-        exchangeAcquisition(std::move(begun));
+        if (!keep(std::move(begun), *opened))
+            throw ::GenICam::RuntimeException(
+                QCoreApplication::translate("Cameras::GenICam::Device",
+                                            "the connection to the camera is lost")
+                    .toStdString());
         return true;
     } catch (const std::exception& error) {
         features->stop();
         setLastError(QString::fromUtf8(error.what()));
         return false;
     }
+}
+
+// The camera may have been lost meanwhile, and what was begun is nothing to its next connection.
+bool GenicamCamera::keep(std::shared_ptr<Acquisition> begun, const Connection& opened)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_connection.get() != &opened)
+        return false;
+    m_acquisition.swap(begun);
+    return true;
+}
+
+// Who looks at the picture does not see what is missing.
+void GenicamCamera::reportLosses(Acquisition& ended) const
+{
+    static const auto category = Core::Logging::getCatId(QStringLiteral("Cameras"));
+    const StreamStatistics statistics = ended.stream->statistics();
+    const std::uint64_t lost = statistics.damaged + statistics.overrun;
+    if (lost == 0 || ended.isReported.exchange(true))
+        return;
+    Core::Logging::createLogEntry(
+        Core::Logging::Warning, category,
+        tr("%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). "
+           "Set a larger packet size or a packet delay.")
+            .arg(displayName())
+            .arg(lost)
+            .arg(lost + statistics.delivered)
+            .arg(statistics.missingPackets));
 }
 
 // The acquisition stays for its statistics.
@@ -268,12 +366,19 @@ void GenicamCamera::end()
         return;
     running->features->stop();
     running->stream->stop();
+    reportLosses(*running);
 }
 
 void GenicamCamera::stopGrabbing()
 {
-    const std::lock_guard step(m_stepMutex);
-    end();
+    bool wasGrabbing = false;
+    {
+        const std::lock_guard step(m_stepMutex);
+        wasGrabbing = isGrabbing();
+        end();
+    }
+    if (wasGrabbing)
+        emit stateChanged();
 }
 
 StreamStatistics GenicamCamera::statistics() const

@@ -11,15 +11,17 @@
 
 #include <memory>
 #include <mutex>
+#include <utility>
 
 namespace Cameras::GenICam {
 
 /// A GigE Vision or USB3 Vision camera of the host.
 ///
 /// It is asked for nothing before it is opened, and open takes control of it. When it does not
-/// answer any more it is closed, and the loss is announced on a thread of its own; open brings it
-/// back once it answers again. Images come on a thread of the camera's own; damaged ones are left
-/// out. After grabbing, the acquisition mode is as it was before.
+/// answer any more it is closed, and the loss is announced, on a thread of its own or in a call of
+/// open that finds it first; open brings it back once it answers again. Images come on a thread of
+/// the camera's own; damaged ones are left out. After grabbing, the acquisition mode is as it was
+/// before.
 ///
 /// stopGrabbing and close wait for a delivery that has begun, but not for long
 /// (FrameStream::longestWait); on the delivering thread they do not wait. Thread-safe.
@@ -37,6 +39,15 @@ public:
     /// If it was not known before, the camera's own word once it was opened.
     QString modelName() const override;
     QString groupName() const override;
+
+    CameraIdentity identity() const;
+
+    /// Another word on who this is, such as the one of a later search. An open camera keeps its
+    /// identity. If something is new, stateChanged tells.
+    void setIdentity(const CameraIdentity& identity);
+
+    /// What counts from the next opening on.
+    void setTransportSettings(const TransportSettings& settings);
 
     /// Takes seconds if nobody answers at a network camera's address.
     bool open() override;
@@ -62,17 +73,21 @@ private:
     std::shared_ptr<Connection> connection() const;
     std::shared_ptr<Acquisition> acquisition() const;
     std::shared_ptr<Acquisition> exchangeAcquisition(std::shared_ptr<Acquisition> next);
+    bool openDevice();
+    bool closeDevice();
+    std::pair<QString, TransportSettings> target() const;
     std::shared_ptr<Connection> connect();
     void completeIdentity(Connection& connection);
     bool begin(bool single, std::chrono::milliseconds timeout);
+    bool keep(std::shared_ptr<Acquisition> begun, const Connection& opened);
     void end();
+    void reportLosses(Acquisition& ended) const;
     void lose(const Device* device);
-
-    const TransportSettings m_settings;
 
     std::mutex m_stepMutex; // one opening, start or end at a time; taken before m_mutex
 
     mutable std::mutex m_mutex; // guards all below; never held while the device is used
+    TransportSettings m_settings;
     CameraIdentity m_identity;
     std::shared_ptr<Connection> m_connection; // null while the camera is closed
     std::shared_ptr<Acquisition> m_acquisition;

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+// What the GenICam library has to complain of goes into the host's log.
+#pragma once
+
+#include <QString>
+
+namespace Cameras::GenICam {
+
+/// From now on complaints of Aravis and GLib are entries of the log, with the camera and the
+/// feature that the thread was at, each complaint once; they would go to standard error, without a
+/// name. Thread-safe.
+void logLibraryComplaints();
+
+/// Says what its thread is doing while it lives. Scopes may be nested; the inner one counts.
+class LibraryScope
+{
+public:
+    /// Both are lent as long as the scope lives.
+    /// \param camera   the model's name
+    /// \param feature  empty: the description as a whole
+    LibraryScope(const QString& camera, const QString& feature);
+    ~LibraryScope();
+    LibraryScope(const LibraryScope&) = delete;
+    LibraryScope& operator=(const LibraryScope&) = delete;
+
+    const QString& camera() const { return m_camera; }
+    const QString& feature() const { return m_feature; }
+
+private:
+    const QString& m_camera;
+    const QString& m_feature;
+    const LibraryScope* const m_outer;
+};
+
+} // namespace Cameras::GenICam
