@@ -2,6 +2,8 @@
 // What the user can do with the selected camera.
 #include "cameracommands.h"
 
+#include "commandtext.h"
+
 #include <QGuiApplication>
 
 namespace Viewer {
@@ -112,15 +114,15 @@ void CameraCommands::update()
 
 void CameraCommands::retranslate()
 {
-    m_open->setText(tr("&Open"));
+    setCommandText(*m_open, tr("&Open"));
     m_open->setToolTip(tr("Open the selected camera"));
-    m_close->setText(tr("&Close"));
+    setCommandText(*m_close, tr("&Close"));
     m_close->setToolTip(tr("Close the selected camera"));
-    m_start->setText(tr("&Start"));
+    setCommandText(*m_start, tr("&Start"));
     m_start->setToolTip(tr("Show the camera's picture continuously"));
-    m_stop->setText(tr("S&top"));
+    setCommandText(*m_stop, tr("S&top"));
     m_stop->setToolTip(tr("Stop the camera"));
-    m_single->setText(tr("Single &Picture"));
+    setCommandText(*m_single, tr("Single &Picture"));
     m_single->setToolTip(tr("Take one picture"));
 }
 

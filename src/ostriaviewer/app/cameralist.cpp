@@ -13,6 +13,14 @@ CameraList::CameraList(Cameras::CameraPool& pool, QObject* parent)
 {
     for (const HostCameraPtr& camera : pool.cameras())
         watch(camera);
+    connect(&pool, &Cameras::CameraPool::cameraAdded, this, [this](const HostCameraPtr& camera) {
+        watch(camera);
+        emit added(camera);
+    });
+    connect(&pool, &Cameras::CameraPool::cameraRemoved, this, [this](const HostCameraPtr& camera) {
+        camera->disconnect(this);
+        emit removed(camera);
+    });
 }
 
 // The camera is held weakly, as its own connection must not keep it.

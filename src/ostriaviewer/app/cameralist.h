@@ -11,7 +11,8 @@ namespace Viewer {
 /// What a camera is doing.
 enum class CameraState { Closed, Open, Acquiring, Recording };
 
-/// The cameras of a pool, with their changes of state and losses. Thread-bound: GUI thread.
+/// The cameras of a pool, with their coming and going, changes of state and losses. Thread-bound:
+/// GUI thread.
 class CameraList final : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
     /// \param pool  lent as long as the list lives
     explicit CameraList(Cameras::CameraPool& pool, QObject* parent = nullptr);
 
-    const QList<Cameras::HostCameraPtr>& cameras() const { return m_pool.cameras(); }
+    QList<Cameras::HostCameraPtr> cameras() const { return m_pool.cameras(); }
     Cameras::CameraPool& pool() const { return m_pool; }
 
     CameraState state(const Cameras::HostCameraPtr& camera) const;
@@ -32,6 +33,8 @@ public:
     void announce(const Cameras::HostCameraPtr& camera);
 
 signals:
+    void added(const Cameras::HostCameraPtr& camera);
+    void removed(const Cameras::HostCameraPtr& camera);
     void stateChanged(const Cameras::HostCameraPtr& camera);
     void connectionLost(const Cameras::HostCameraPtr& camera);
 

@@ -38,8 +38,11 @@ CameraSelectorPanel::CameraSelectorPanel(CameraList& cameras, DeviceSelectorServ
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(m_tree);
 
-    fill();
+    for (const HostCameraPtr& camera : cameras.cameras())
+        add(camera);
     retranslate();
+    connect(&cameras, &CameraList::added, this, &CameraSelectorPanel::add);
+    connect(&cameras, &CameraList::removed, this, &CameraSelectorPanel::remove);
     connect(&cameras, &CameraList::stateChanged, this, &CameraSelectorPanel::showState);
     connect(m_tree, &QTreeWidget::currentItemChanged, this,
             [this] { m_selector.select(selectedCamera()); });
@@ -50,20 +53,37 @@ CameraSelectorPanel::CameraSelectorPanel(CameraList& cameras, DeviceSelectorServ
     connect(m_tree, &QWidget::customContextMenuRequested, this, &CameraSelectorPanel::showMenu);
 }
 
-void CameraSelectorPanel::fill()
+QTreeWidgetItem* CameraSelectorPanel::group(const QString& name)
 {
-    QHash<QString, QTreeWidgetItem*> groups;
-    for (const HostCameraPtr& camera : m_cameras.cameras()) {
-        QTreeWidgetItem*& group = groups[camera->groupName()];
-        if (!group) {
-            group = new QTreeWidgetItem(m_tree, {camera->groupName()});
-            group->setFlags(Qt::ItemIsEnabled);
-            group->setFirstColumnSpanned(true);
-            group->setExpanded(true);
-        }
-        m_items[camera.data()] = new QTreeWidgetItem(group, {camera->displayName()});
-        showState(camera);
-    }
+    for (int row = 0; row < m_tree->topLevelItemCount(); ++row)
+        if (m_tree->topLevelItem(row)->text(Camera) == name)
+            return m_tree->topLevelItem(row);
+    auto* made = new QTreeWidgetItem(m_tree, {name});
+    made->setFlags(Qt::ItemIsEnabled);
+    made->setFirstColumnSpanned(true);
+    made->setExpanded(true);
+    return made;
+}
+
+void CameraSelectorPanel::add(const HostCameraPtr& camera)
+{
+    m_items[camera.data()] = new QTreeWidgetItem(group(camera->groupName()));
+    showState(camera);
+}
+
+// The tree would select a neighbour, which nobody chose.
+void CameraSelectorPanel::remove(const HostCameraPtr& camera)
+{
+    QTreeWidgetItem* item = m_items.value(camera.data());
+    if (!item)
+        return;
+    if (m_tree->currentItem() == item)
+        m_tree->setCurrentItem(nullptr);
+    m_items.remove(camera.data());
+    QTreeWidgetItem* above = item->parent();
+    delete item;
+    if (above->childCount() == 0)
+        delete above;
 }
 
 void CameraSelectorPanel::showState(const HostCameraPtr& camera)
@@ -73,6 +93,7 @@ void CameraSelectorPanel::showState(const HostCameraPtr& camera)
         return;
     const CameraState state = m_cameras.state(camera);
     const QString name = CameraList::stateName(state);
+    item->setText(Camera, camera->displayName());
     item->setText(State, name);
     const QString tip =
         tr("%1\nModel %2, %3").arg(camera->displayName(), camera->modelName(), name);
@@ -111,8 +132,11 @@ void CameraSelectorPanel::retranslate()
 {
     m_tree->setHeaderLabels({tr("Camera"), tr("State")});
     m_tree->setAccessibleName(tr("Cameras"));
-    for (const HostCameraPtr& camera : m_cameras.cameras())
+    for (const HostCameraPtr& camera : m_cameras.cameras()) {
+        if (const QTreeWidgetItem* item = m_items.value(camera.data()))
+            item->parent()->setText(Camera, camera->groupName());
         showState(camera);
+    }
 }
 
 void CameraSelectorPanel::changeEvent(QEvent* event)

@@ -41,7 +41,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void fill();
+    void add(const Cameras::HostCameraPtr& camera);
+    void remove(const Cameras::HostCameraPtr& camera);
+    QTreeWidgetItem* group(const QString& name);
     void showState(const Cameras::HostCameraPtr& camera);
     void showMenu(const QPoint& position);
     void retranslate();

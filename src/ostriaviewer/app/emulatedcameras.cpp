@@ -4,7 +4,6 @@
 
 #include "emulatedcamera.h"
 
-#include <QCoreApplication>
 #include <QImageReader>
 
 namespace Viewer {
@@ -19,8 +18,7 @@ Scene readScene(const QString& file, QString& error)
     reader.setAutoTransform(true);
     const QImage image = reader.read().convertToFormat(QImage::Format_RGB888);
     if (image.isNull()) {
-        error = QCoreApplication::translate("Viewer::EmulatedCameras",
-                                            "The scene %1 cannot be read: %2 Choose another image.")
+        error = QStringLiteral("The scene %1 cannot be read: %2 Choose another image.")
                     .arg(file, reader.errorString() + QLatin1Char('.'));
         return Scene();
     }

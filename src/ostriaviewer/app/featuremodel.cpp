@@ -2,15 +2,41 @@
 // A camera's features in their categories.
 #include "featuremodel.h"
 
+#include "genicamexception.h"
+#include "patience.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 #include <QStringList>
 
 #include <algorithm>
+#include <chrono>
+#include <utility>
 
 namespace Viewer {
 
 using namespace Core::ParameterCollection;
+
+namespace {
+
+/// Before a camera that has not answered is asked again. A packet that was lost is sent again after
+/// about half a second.
+constexpr std::chrono::milliseconds pause(250);
+
+/// For what is asked besides a feature's state.
+constexpr std::chrono::milliseconds patience(100);
+
+QString descriptionOf(const IParameter& parameter)
+{
+    const Cameras::GenICam::Patience limited(patience);
+    try {
+        return parameter.description();
+    } catch (const GenICam::RuntimeException&) {
+        return {};
+    }
+}
+
+} // namespace
 
 // A category, or a feature of one.
 struct FeatureModel::Node
@@ -21,7 +47,7 @@ struct FeatureModel::Node
     std::vector<std::unique_ptr<Node>> children;
     ParameterPtr parameter; // of a feature
     FeatureEditor editor = FeatureEditor::None;
-    FeatureState state;
+    FeatureState state; // pending until it has been read
     QMetaObject::Connection connection;
 
     int row() const
@@ -46,13 +72,19 @@ struct FeatureModel::Node
 FeatureModel::FeatureModel(QObject* parent)
     : QAbstractItemModel(parent)
     , m_root(std::make_unique<Node>())
-{}
+{
+    m_readAgain.setSingleShot(true);
+    m_readAgain.setInterval(pause);
+    connect(&m_readAgain, &QTimer::timeout, this, &FeatureModel::readPending);
+}
 
 FeatureModel::~FeatureModel() = default;
 
 void FeatureModel::setFeatures(const ParameterCollectionPtr& features)
 {
     beginResetModel();
+    m_watched.clear();
+    m_pending.clear();
     m_root = std::make_unique<Node>();
     if (features)
         for (const FeatureCategory& category : features->categories())
@@ -71,20 +103,24 @@ void FeatureModel::fill(Node& into, const FeatureCategory& category, IParameterC
         Node& feature = into.append(name, parameter->displayName());
         feature.parameter = parameter;
         feature.editor = editorOf(*parameter);
-        feature.state = readFeature(*parameter);
+        feature.state.isPending = true;
+        read(feature);
     }
 }
 
 // Every feature that is watched costs with each change of any, so only those that are seen are.
 void FeatureModel::setWatched(const QModelIndex& category, bool isWatched)
 {
+    const Cameras::GenICam::Patience limited(patience);
     for (const auto& each : node(category)->children) {
         Node* feature = each.get();
         if (!feature->parameter)
             continue;
         disconnect(feature->connection);
+        m_watched.erase(feature);
         if (!isWatched)
             continue;
+        m_watched.insert(feature);
         feature->connection =
             connect(feature->parameter.data(), &IParameter::parameterDataChangedDecoupled, this,
                     [this, feature] { refresh(*feature); });
@@ -94,8 +130,35 @@ void FeatureModel::setWatched(const QModelIndex& category, bool isWatched)
 
 void FeatureModel::refresh(Node& node)
 {
-    node.state = readFeature(*node.parameter);
-    emit dataChanged(indexOf(&node, Name), indexOf(&node, Value));
+    if (read(node))
+        emit dataChanged(indexOf(&node, Name), indexOf(&node, Value));
+}
+
+// A row that was not answered stays as it was and is read later. While the camera is silent nobody
+// is told of changes either, so what is seen is read again with it.
+bool FeatureModel::read(Node& node)
+{
+    FeatureState state = readFeature(*node.parameter);
+    if (state.isPending) {
+        m_pending.insert(&node);
+        m_pending.insert(m_watched.begin(), m_watched.end());
+        m_readAgain.start();
+        return false;
+    }
+    m_pending.erase(&node);
+    node.state = std::move(state);
+    return true;
+}
+
+// The first that is not answered begins the next pause.
+void FeatureModel::readPending()
+{
+    while (!m_pending.empty()) {
+        Node& next = **m_pending.begin();
+        if (!read(next))
+            return;
+        emit dataChanged(indexOf(&next, Name), indexOf(&next, Value));
+    }
 }
 
 FeatureModel::Node* FeatureModel::node(const QModelIndex& index) const
@@ -157,7 +220,8 @@ QVariant FeatureModel::valueData(const Node& node, int role) const
     case Qt::DisplayRole:
         if (node.editor == FeatureEditor::Button)
             return tr("Execute");
-        return node.state.isAvailable ? node.state.text : tr("not available");
+        return node.state.isAvailable || node.state.isPending ? node.state.text
+                                                              : tr("not available");
     case Qt::EditRole:
         return node.state.written;
     case Qt::CheckStateRole:
@@ -180,7 +244,7 @@ QVariant FeatureModel::valueData(const Node& node, int role) const
 QString FeatureModel::toolTip(const Node& node) const
 {
     QStringList lines{QStringLiteral("<b>%1</b>").arg(node.name.toHtmlEscaped())};
-    const QString description = node.parameter->description();
+    const QString description = descriptionOf(*node.parameter);
     if (!description.isEmpty())
         lines.append(description.toHtmlEscaped());
     if (!node.state.limits.isEmpty())
@@ -188,7 +252,7 @@ QString FeatureModel::toolTip(const Node& node) const
                          .arg(node.state.limits, node.parameter->unit())
                          .trimmed()
                          .toHtmlEscaped());
-    if (!node.state.isAvailable)
+    if (!node.state.isAvailable && !node.state.isPending)
         lines.append(tr("Not available with the camera's present settings"));
     else if (!node.state.isWritable)
         lines.append(tr("Cannot be changed now"));

@@ -6,14 +6,17 @@
 #include "iparametercollection.h"
 
 #include <QAbstractItemModel>
+#include <QTimer>
 
 #include <memory>
+#include <set>
 #include <vector>
 
 namespace Viewer {
 
 /// A tree of categories with features and their values. The features of a category are kept up to
-/// date while it is watched. Thread-bound: GUI thread.
+/// date while it is watched. A camera that does not answer in time is not waited for: what it owes
+/// is read when it answers again. Thread-bound: GUI thread.
 class FeatureModel final : public QAbstractItemModel
 {
     Q_OBJECT
@@ -60,10 +63,15 @@ private:
     void fill(Node& into, const Core::ParameterCollection::FeatureCategory& category,
               Core::ParameterCollection::IParameterCollection& features);
     void refresh(Node& node);
+    bool read(Node& node);
+    void readPending();
     QVariant valueData(const Node& node, int role) const;
     QString toolTip(const Node& node) const;
 
     std::unique_ptr<Node> m_root;
+    std::set<Node*> m_watched;
+    std::set<Node*> m_pending; // the camera has not answered yet
+    QTimer m_readAgain;
 };
 
 } // namespace Viewer

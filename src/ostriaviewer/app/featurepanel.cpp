@@ -112,21 +112,24 @@ void FeaturePanel::use(const QModelIndex& index)
 void FeaturePanel::follow()
 {
     m_camera = m_selector.selected().dynamicCast<HostCamera>();
-    m_isFilled = false;
+    m_features.reset();
     showFeatures();
 }
 
-// The features of an open camera stay the same objects until it is closed.
+// The features of an open camera stay the same objects until it is closed or lost; it may have been
+// opened again before we hear of either.
 void FeaturePanel::showFeatures()
 {
-    const bool isOpen = m_camera && m_camera->isOpen();
+    const auto features =
+        m_camera && m_camera->isOpen() ? m_camera->parameterCollection() : nullptr;
+    const bool isOpen = features != nullptr;
     m_view->setVisible(isOpen);
     m_filter->setEnabled(isOpen);
     m_hint->setVisible(!isOpen);
-    if (isOpen && m_isFilled)
+    if (isOpen && features == m_features)
         return;
-    m_model->setFeatures(isOpen ? m_camera->parameterCollection() : nullptr);
-    m_isFilled = isOpen;
+    m_model->setFeatures(features);
+    m_features = features;
     expand();
 }
 
@@ -163,6 +166,9 @@ void FeaturePanel::retranslate()
     m_filter->setAccessibleName(tr("Filter features"));
     m_view->setAccessibleName(tr("Features"));
     m_hint->setText(tr("Open a camera to see its features."));
+    // What was read tells its limits in words.
+    m_features.reset();
+    showFeatures();
 }
 
 void FeaturePanel::changeEvent(QEvent* event)

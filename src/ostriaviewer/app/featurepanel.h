@@ -52,7 +52,7 @@ private:
     QTreeView* m_view;
     QLabel* m_hint;
     Cameras::HostCameraPtr m_camera;
-    bool m_isFilled = false;
+    Core::ParameterCollection::ParameterCollectionPtr m_features; // those that are shown
     QSet<QString> m_opened; // categories by name, of all cameras
 };
 

@@ -3,22 +3,30 @@
 #include "featurevalue.h"
 
 #include "genicamexception.h"
+#include "patience.h"
 
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <chrono>
 #include <limits>
 
 namespace Viewer {
 
 using namespace Core::ParameterCollection;
+using Cameras::GenICam::Patience;
 
 namespace {
 
-QString tr(const char* text)
+/// Cameras that are there answer within a thousandth of the first, within a tenth of the second
+/// where they have to store something; the window can wait that long.
+constexpr std::chrono::milliseconds readingPatience(100);
+constexpr std::chrono::milliseconds writingPatience(500);
+
+struct Texts
 {
-    return QCoreApplication::translate("Viewer::FeatureValue", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Viewer::FeatureValue)
+};
 
 QString numberText(double value, int digits)
 {
@@ -50,10 +58,10 @@ template <typename Number>
 QString limits(Number lowest, Number highest)
 {
     if (isLimit(lowest) && isLimit(highest))
-        return tr("%1 to %2").arg(limitText(lowest), limitText(highest));
+        return Texts::tr("%1 to %2").arg(limitText(lowest), limitText(highest));
     if (isLimit(lowest))
-        return tr("at least %1").arg(limitText(lowest));
-    return isLimit(highest) ? tr("at most %1").arg(limitText(highest)) : QString();
+        return Texts::tr("at least %1").arg(limitText(lowest));
+    return isLimit(highest) ? Texts::tr("at most %1").arg(limitText(highest)) : QString();
 }
 
 QString withUnit(const QString& number, const IParameter& parameter)
@@ -76,7 +84,7 @@ void readInteger(IIntegerParameter& parameter, FeatureState& state)
     state.text = withUnit(state.written, parameter);
     state.limits = limits(parameter.minimum(), parameter.maximum());
     if (parameter.increment() > 1)
-        state.limits += tr(", in steps of %1").arg(parameter.increment());
+        state.limits += Texts::tr(", in steps of %1").arg(parameter.increment());
 }
 
 void readEnumeration(IEnumerationParameter& parameter, FeatureState& state)
@@ -112,7 +120,7 @@ Number parse(const QString& text, const FromLocale& fromLocale, const FromC& fro
         value = fromLocale(text.trimmed(), isNumber);
     if (!isNumber)
         throw GenICam::RuntimeException(
-            tr("\"%1\" is no number of this kind.").arg(text).toStdString());
+            Texts::tr("\"%1\" is no number of this kind.").arg(text).toStdString());
     return value;
 }
 
@@ -164,6 +172,8 @@ FeatureEditor editorOf(IParameter& parameter)
 
 FeatureState readFeature(IParameter& parameter)
 {
+    const Patience limited(readingPatience);
+    const std::uint64_t failures = Patience::failures();
     FeatureState state;
     try {
         state.isAvailable = parameter.isAvailable();
@@ -173,23 +183,26 @@ FeatureState readFeature(IParameter& parameter)
     } catch (const GenICam::RuntimeException&) {
         state.text.clear();
     }
+    state.isPending = Patience::failures() != failures;
     return state;
 }
 
 QString writeFeature(IParameter& parameter, const QString& text)
 {
+    const Patience limited(writingPatience);
     try {
         writeValue(parameter, text);
         return {};
     } catch (const GenICam::RuntimeException& error) {
         const QString limits = readFeature(parameter).limits;
         const QString reason = QString::fromUtf8(error.what());
-        return limits.isEmpty() ? reason : tr("%1 (possible now: %2)").arg(reason, limits);
+        return limits.isEmpty() ? reason : Texts::tr("%1 (possible now: %2)").arg(reason, limits);
     }
 }
 
 QVector<EnumerationEntry> choicesOf(IParameter& parameter)
 {
+    const Patience limited(readingPatience);
     try {
         if (auto* choice = dynamic_cast<IEnumerationParameter*>(&parameter))
             return choice->entries();

@@ -19,12 +19,13 @@ struct FeatureState
 {
     bool isAvailable = false;
     bool isWritable = false;
-    QString text;    ///< the value for people, with its unit
-    QString written; ///< the value as it is typed; the entry's name of a choice
-    QString limits;  ///< for people; empty where there are none
+    bool isPending = false; ///< the camera has not answered in time; all else says nothing
+    QString text;           ///< the value for people, with its unit
+    QString written;        ///< the value as it is typed; the entry's name of a choice
+    QString limits;         ///< for people; empty where there are none
 };
 
-/// Reads a feature; one that cannot be read gives a state without value.
+/// Reads a feature, without waiting long; one that cannot be read gives a state without value.
 FeatureState readFeature(Core::ParameterCollection::IParameter& parameter);
 
 /// Writes what the user typed or chose; "1" and "0" switch. A button is pressed.

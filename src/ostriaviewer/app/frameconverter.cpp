@@ -23,6 +23,7 @@ struct FrameConverter::Exchange
     std::uint64_t waitingRound = 0;
     std::optional<LiveFrame> done;
     bool isAnnounced = false;
+    bool isPaused = false;
 
     void take(const Ostria::CGrabResultPtr& result, std::uint64_t ofRound)
     {
@@ -98,6 +99,13 @@ FrameConverter::Inlet FrameConverter::openInlet()
     };
 }
 
+void FrameConverter::setPaused(bool isPaused)
+{
+    const std::lock_guard lock(m_exchange->mutex);
+    m_exchange->isPaused = isPaused;
+    m_exchange->changed.notify_one();
+}
+
 void FrameConverter::run(const std::shared_ptr<Exchange>& exchange)
 {
     Ostria::CImageFormatConverter converter;
@@ -105,7 +113,8 @@ void FrameConverter::run(const std::shared_ptr<Exchange>& exchange)
     FrameBuffers buffers;
     std::unique_lock lock(exchange->mutex);
     for (;;) {
-        exchange->changed.wait(lock, [&] { return !exchange->owner || exchange->waiting; });
+        exchange->changed.wait(
+            lock, [&] { return !exchange->owner || (exchange->waiting && !exchange->isPaused); });
         if (!exchange->owner)
             return;
         const Ostria::CGrabResultPtr result = std::exchange(exchange->waiting, nullptr);

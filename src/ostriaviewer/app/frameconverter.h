@@ -39,6 +39,9 @@ public:
     /// Begins anew: what earlier inlets take is left out from now on.
     Inlet openInlet();
 
+    /// While it is paused nothing is converted; afterwards the newest of what came meanwhile.
+    void setPaused(bool isPaused);
+
 signals:
     void frameReady(const Viewer::LiveFrame& frame);
 

@@ -2,6 +2,8 @@
 // Brings the selected camera's images into the live view.
 #include "livesession.h"
 
+#include <QEvent>
+
 #include <utility>
 
 namespace Viewer {
@@ -22,6 +24,7 @@ LiveSession::LiveSession(CameraList& cameras, DeviceSelectorService& selector, L
     connect(&m_converter, &FrameConverter::frameReady, this, &LiveSession::show);
     connect(&m_rateTimer, &QTimer::timeout, this, &LiveSession::measureRate);
     m_rateTimer.setInterval(1000);
+    view.window()->installEventFilter(this);
     follow();
 }
 
@@ -39,12 +42,27 @@ void LiveSession::follow()
     m_isLost = false;
     m_isFailing = false;
     m_view.setPicture({});
+    updatePause();
     retranslate();
     const FrameConverter::Inlet inlet = m_converter.openInlet();
     if (m_camera)
         m_connection = connect(m_camera.data(), &HostCamera::cameraImageGrabbed,
                                [inlet](const Core::CameraPoolComponents::CameraInfoPtr& /*camera*/,
                                        const Ostria::CGrabResultPtr& result) { inlet(result); });
+}
+
+bool LiveSession::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked) {
+        m_isBlocked = event->type() == QEvent::WindowBlocked;
+        updatePause();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void LiveSession::updatePause()
+{
+    m_converter.setPaused(m_isBlocked && m_camera && m_camera->isExclusive());
 }
 
 void LiveSession::retranslate()

@@ -26,6 +26,10 @@ public:
 
     void retranslate();
 
+    /// Pauses behind a modal window that holds the camera exclusively: such a window shows the
+    /// camera's picture itself. What it has grabbed last is shown when it has ended.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
     /// Once a second while frames come, and once more when they end.
     /// \param perSecond  frames shown; 0 at the end
@@ -39,6 +43,7 @@ private:
     void onStateChanged(const Cameras::HostCameraPtr& camera);
     void onConnectionLost(const Cameras::HostCameraPtr& camera);
     void show(const LiveFrame& frame);
+    void updatePause();
     void measureRate();
 
     CameraList& m_cameras;
@@ -47,6 +52,7 @@ private:
     FrameConverter m_converter;
     Cameras::HostCameraPtr m_camera;
     QMetaObject::Connection m_connection;
+    bool m_isBlocked = false; // the window, by a modal one
     bool m_isLost = false;
     bool m_isFailing = false;
     QTimer m_rateTimer;

@@ -179,7 +179,7 @@ void MainMenu::retranslate()
     m_zoomOut->setText(tr("Zoom &Out"));
     m_plugins->setText(tr("&Plugins"));
     m_about->setText(tr("&About"));
-    const QString themes[] = {tr("Like the &Desktop"), tr("&Light"), tr("&Dark")};
+    const QString themes[] = {tr("Like the &Desktop"), tr("&Light"), tr("Dar&k")};
     for (int index = 0; index < m_themes->actions().size(); ++index)
         m_themes->actions().at(index)->setText(themes[index]);
 }

@@ -5,7 +5,6 @@
 #include "messagelogpanel.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -54,7 +53,7 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     makeConnections();
     retranslate();
     resize(1200, 800);
-    resizeDocks({m_cameraDock, m_featureDock}, {310, 320}, Qt::Horizontal);
+    resizeDocks({m_cameraDock, m_featureDock}, {350, 340}, Qt::Horizontal);
     resizeDocks({m_messageDock}, {170}, Qt::Vertical);
 }
 
@@ -146,8 +145,8 @@ void MainWindow::saveLayout()
 
 void MainWindow::showFailure(const QString& text)
 {
-    auto* box = new QMessageBox(QMessageBox::Warning, QCoreApplication::applicationName(), text,
-                                QMessageBox::Ok, this);
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, tr("Ostria Viewer"), text, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->open();

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QStyle>
 
+#include <algorithm>
 #include <utility>
 
 namespace Viewer {
@@ -49,15 +50,36 @@ void MessageLogModel::add(LogMessage message)
             return;
         }
     }
-    if (rowCount() >= capacity) {
-        beginRemoveRows({}, 0, droppedAtOnce - 1);
-        m_messages.erase(m_messages.begin(), m_messages.begin() + droppedAtOnce);
-        endRemoveRows();
-    }
+    if (rowCount() >= capacity && !makeRoom(message.level))
+        return;
     beginInsertRows({}, rowCount(), rowCount());
     m_messages.push_back(std::move(message));
     endInsertRows();
     emit added(m_messages.back());
+}
+
+// What nobody asked to see must not push out what the user has to know; false if it would.
+bool MessageLogModel::makeRoom(Core::Logging::ELogLevel level)
+{
+    const auto isLower = [](const LogMessage& a, const LogMessage& b) {
+        return a.level < b.level;
+    };
+    const auto lowest = std::min_element(m_messages.begin(), m_messages.end(), isLower)->level;
+    if (level < lowest)
+        return false;
+    int left = droppedAtOnce;
+    for (int first = 0; first < rowCount() && left > 0; ++first) {
+        int end = first;
+        while (end < rowCount() && end - first < left && message(end).level == lowest)
+            ++end;
+        if (end == first)
+            continue;
+        beginRemoveRows({}, first, end - 1);
+        m_messages.erase(m_messages.begin() + first, m_messages.begin() + end);
+        endRemoveRows();
+        left -= end - first;
+    }
+    return true;
 }
 
 void MessageLogModel::clear()

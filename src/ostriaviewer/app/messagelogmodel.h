@@ -21,8 +21,8 @@ struct LogMessage
     bool isTechnical = false; ///< the source is a category of the log, no name for people
 };
 
-/// Keeps the newest messages; of more than `capacity` the oldest are dropped. Thread-bound: GUI
-/// thread.
+/// Keeps the newest messages; of more than `capacity` the oldest of the lowest level are dropped.
+/// Thread-bound: GUI thread.
 class MessageLogModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -54,6 +54,7 @@ signals:
     void added(const Viewer::LogMessage& message);
 
 private:
+    bool makeRoom(Core::Logging::ELogLevel level);
     QString text(const LogMessage& message, int column) const;
 
     std::deque<LogMessage> m_messages;

@@ -12,9 +12,12 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSortFilterProxyModel>
+#include <QStyle>
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Viewer {
 namespace {
@@ -82,14 +85,24 @@ void MessageLogPanel::makeView()
     const QFontMetrics metrics = fontMetrics();
     m_view->header()->resizeSection(MessageLogModel::Time,
                                     metrics.horizontalAdvance(QStringLiteral("00:00:00.0000")));
-    m_view->header()->resizeSection(MessageLogModel::Level,
-                                    metrics.horizontalAdvance(QStringLiteral("MMInformation")));
     m_view->header()->resizeSection(MessageLogModel::Source, metrics.averageCharWidth() * 26);
     m_copy->setShortcut(QKeySequence::Copy);
     m_copy->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_view->addAction(m_copy);
     m_view->addAction(m_clear);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+// The icon and the longest name in the present language, with the margins of a cell.
+int MessageLogPanel::widthOfLevels() const
+{
+    using namespace Core::Logging;
+    int longest = 0;
+    for (const ELogLevel level : {Debug, Information, Warning, Error, Fatal})
+        longest =
+            std::max(longest, fontMetrics().horizontalAdvance(MessageLogModel::levelName(level)));
+    return longest + m_view->style()->pixelMetric(QStyle::PM_SmallIconSize) +
+           4 * fontMetrics().averageCharWidth();
 }
 
 void MessageLogPanel::makeTools()
@@ -164,6 +177,7 @@ void MessageLogPanel::retranslate()
     m_filter->setPlaceholderText(tr("Filter messages"));
     m_filter->setAccessibleName(tr("Filter messages"));
     m_view->setAccessibleName(tr("Messages"));
+    m_view->header()->resizeSection(MessageLogModel::Level, widthOfLevels());
     m_copy->setText(tr("Copy"));
     m_copy->setToolTip(tr("Copy the selected messages, or all that are shown"));
     m_clear->setText(tr("Clear"));

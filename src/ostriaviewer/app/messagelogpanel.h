@@ -33,6 +33,7 @@ private:
     void copy();
     void makeView();
     void makeTools();
+    int widthOfLevels() const;
     void retranslate();
     void keepEndInView();
 

@@ -17,21 +17,21 @@ using Core::Plugin::IPlugin;
 
 namespace {
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("Viewer::PluginManager", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Viewer::PluginManager)
+};
 
 // Plugins throw nothing, but the viewer does not end with one that does.
 template <typename Call>
 QString callPlugin(const char* failure, const Call& call)
 {
     try {
-        return call() ? QString() : tr(failure);
+        return call() ? QString() : Texts::tr(failure);
     } catch (const std::exception& error) {
-        return tr(failure) + QLatin1Char(' ') + QString::fromUtf8(error.what());
+        return Texts::tr(failure) + QLatin1Char(' ') + QString::fromUtf8(error.what());
     } catch (...) {
-        return tr(failure);
+        return Texts::tr(failure);
     }
 }
 
@@ -111,9 +111,10 @@ void PluginManager::leaveOutDuplicates(std::vector<PluginMetaData>& found)
         if (twin == kept.end())
             kept.push_back(std::move(data));
         else
-            leaveOut(data, tr("The plugin stands in the folder twice; %1 is used instead. Remove "
-                              "one of the two files.")
-                               .arg(QFileInfo(twin->file).fileName()));
+            leaveOut(data,
+                     Texts::tr("The plugin stands in the folder twice; %1 is used instead. Remove "
+                               "one of the two files.")
+                         .arg(QFileInfo(twin->file).fileName()));
     }
     found = std::move(kept);
 }
@@ -128,9 +129,10 @@ QString PluginManager::unmetDependency(const PluginMetaData& data) const
             return loaded.data.name == wanted.name && loaded.data.provides(wanted.version);
         });
         if (!isMet)
-            return tr("It needs \"%1\" in version %2, which is not there; install it, or a version "
-                      "of this plugin for this viewer.")
-                .arg(wanted.name, wanted.version.toString());
+            return Texts::
+                tr("It needs \"%1\" in version %2, which is not there; install it, or a version "
+                   "of this plugin for this viewer.")
+                    .arg(wanted.name, wanted.version.toString());
     }
     return {};
 }
@@ -159,8 +161,8 @@ QString PluginManager::load(const PluginMetaData& data, const QString& language)
     loader->setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
     auto* plugin = dynamic_cast<IPlugin*>(loader->instance());
     if (!plugin) {
-        const QString reason =
-            loader->isLoaded() ? tr("Its main class is not what it says.") : loader->errorString();
+        const QString reason = loader->isLoaded() ? Texts::tr("Its main class is not what it says.")
+                                                  : loader->errorString();
         loader->unload();
         return reason;
     }

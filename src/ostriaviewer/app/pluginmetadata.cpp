@@ -13,10 +13,10 @@
 namespace Viewer {
 namespace {
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("Viewer::PluginMetaData", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Viewer::PluginMetaData)
+};
 
 // An invalid version if the key is missing or holds no version.
 QVersionNumber versionIn(const QJsonObject& object, const char* key)
@@ -31,7 +31,8 @@ QString readDependencies(const QJsonObject& record, QList<PluginDependency>& dep
         const PluginDependency dependency{object.value(QLatin1String("Name")).toString(),
                                           versionIn(object, "Version")};
         if (dependency.name.isEmpty() || dependency.version.isNull())
-            return tr("Its list of what it depends on has an entry without name or version.");
+            return Texts::tr(
+                "Its list of what it depends on has an entry without name or version.");
         dependencies.append(dependency);
     }
     return {};
@@ -45,7 +46,7 @@ QString readRecord(const QJsonObject& record, PluginMetaData& data)
     data.isRequired = record.value(QLatin1String("Required")).toBool();
     data.description = record.value(QLatin1String("Description")).toString();
     if (data.name.isEmpty() || data.version.isNull())
-        return tr("It has no metadata with name and version; build it anew with them.");
+        return Texts::tr("It has no metadata with name and version; rebuild it with them.");
     if (data.compatVersion.isNull())
         data.compatVersion = data.version;
     return readDependencies(record, data.dependencies);
@@ -63,18 +64,20 @@ PluginMetaData readPluginMetaData(const QString& file, QString& error)
     PluginMetaData data;
     data.file = file;
     if (!QFileInfo::exists(file)) {
-        error = tr("The file does not exist any more; install the plugin anew.");
+        error = Texts::tr("The file does not exist any more; install the plugin anew.");
         return data;
     }
     const QJsonObject metaData = QPluginLoader(file).metaData();
     const QString interface = metaData.value(QLatin1String("IID")).toString();
     if (interface.isEmpty())
-        error = tr("It is no plugin, or was built with another version of Qt; remove the file or "
-                   "install a fitting one.");
+        error = Texts::tr(
+            "It is no plugin, or was built with another version of Qt; remove the file or "
+            "install a suitable one.");
     else if (interface != pluginInterfaceId())
-        error = tr("It was built against another interface, \"%1\" instead of \"%2\"; install a "
-                   "version for this viewer.")
-                    .arg(interface, pluginInterfaceId());
+        error =
+            Texts::tr("It was built against another interface, \"%1\" instead of \"%2\"; install a "
+                      "version for this viewer.")
+                .arg(interface, pluginInterfaceId());
     else
         error = readRecord(metaData.value(QLatin1String("MetaData")).toObject(), data);
     return data;

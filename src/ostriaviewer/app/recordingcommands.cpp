@@ -2,6 +2,8 @@
 // Recording of the selected camera.
 #include "recordingcommands.h"
 
+#include "commandtext.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QRegularExpression>
@@ -52,6 +54,7 @@ RecordingCommands::RecordingCommands(CameraList& cameras, CameraCommands& comman
     connect(m_record, &QAction::triggered, this, &RecordingCommands::toggle);
     connect(m_chooseFolder, &QAction::triggered, this, &RecordingCommands::folderRequested);
     connect(&cameras, &CameraList::stateChanged, this, &RecordingCommands::onStateChanged);
+    connect(&cameras, &CameraList::removed, this, &RecordingCommands::onRemoved);
     retranslate();
     update();
 }
@@ -124,29 +127,36 @@ void RecordingCommands::onStateChanged(const HostCameraPtr& camera)
     update();
 }
 
+// What such a camera does is not told any more.
+void RecordingCommands::onRemoved(const HostCameraPtr& camera)
+{
+    stop(camera.data());
+    update();
+}
+
 void RecordingCommands::onFinished(const HostCameraPtr& camera, const RecordingResult& result)
 {
     m_recorders.take(camera.data())->deleteLater();
     m_cameras.pool().recordings()->end(camera.data());
     const QString folder = QDir::toNativeSeparators(result.folder);
+    const int written = static_cast<int>(result.written);
     if (!result.error.isEmpty())
-        emit reported(tr("The recording of %1 ended after %2 pictures: %3. What was recorded is in "
-                         "%4. Make room on the disk or choose another folder.")
-                          .arg(camera->displayName())
-                          .arg(result.written)
-                          .arg(result.error, folder),
-                      true);
+        emit reported(
+            tr("The recording of %1 ended after %n picture(s): %2. What was recorded is in "
+               "%3. Make room on the disk or choose another folder.",
+               nullptr, written)
+                .arg(camera->displayName(), result.error, folder),
+            true);
     else if (result.dropped + result.failed > 0)
-        emit reported(tr("Recorded %1 pictures of %2 in %3. %4 more came too fast to be written, "
-                         "%5 failed in the camera; the numbers of the files show where.")
-                          .arg(result.written)
+        emit reported(tr("Recorded %n picture(s) of %1 in %2. %3 more came too fast to be written, "
+                         "%4 failed in the camera; the numbers of the files show where.",
+                         nullptr, written)
                           .arg(camera->displayName(), folder)
                           .arg(result.dropped)
                           .arg(result.failed),
                       false);
     else
-        emit reported(tr("Recorded %1 pictures of %2 in %3.")
-                          .arg(result.written)
+        emit reported(tr("Recorded %n picture(s) of %1 in %2.", nullptr, written)
                           .arg(camera->displayName(), folder),
                       false);
     m_cameras.announce(camera);
@@ -162,9 +172,9 @@ void RecordingCommands::update()
 
 void RecordingCommands::retranslate()
 {
-    m_record->setText(tr("&Record"));
+    setCommandText(*m_record, tr("&Record"));
     m_record->setToolTip(tr("Write the camera's pictures into files until pressed again"));
-    m_chooseFolder->setText(tr("Recording &Folder..."));
+    setCommandText(*m_chooseFolder, tr("Recording &Folder..."));
 }
 
 } // namespace Viewer

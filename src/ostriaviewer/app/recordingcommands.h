@@ -16,7 +16,7 @@
 namespace Viewer {
 
 /// The actions that begin and end recordings; each camera may be recorded by itself. A recording
-/// ends with its camera's grabbing. Thread-bound: GUI thread.
+/// ends with its camera's grabbing, and when its camera leaves the list. Thread-bound: GUI thread.
 class RecordingCommands final : public QObject
 {
     Q_OBJECT
@@ -52,6 +52,7 @@ private:
     void start(const Cameras::HostCameraPtr& camera);
     void stop(const Cameras::HostCamera* camera);
     void onStateChanged(const Cameras::HostCameraPtr& camera);
+    void onRemoved(const Cameras::HostCameraPtr& camera);
     void onFinished(const Cameras::HostCameraPtr& camera, const RecordingResult& result);
 
     CameraList& m_cameras;

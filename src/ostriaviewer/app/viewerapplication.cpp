@@ -21,15 +21,17 @@ const auto languageName = QStringLiteral("Language");
 
 } // namespace
 
-ViewerApplication::ViewerApplication(ViewerArguments arguments, const QList<HostCameraPtr>& cameras)
+ViewerApplication::ViewerApplication(ViewerArguments arguments,
+                                     const QList<HostCameraPtr>& emulated)
     : m_arguments(std::move(arguments))
     , m_registry(QSharedPointer<Core::Service::CServiceRegistry>::create())
     , m_language(startLanguage(m_settings.value(languageName).toString()))
-    , m_pool(cameras)
+    , m_pool({})
     , m_menus(QSharedPointer<MenuService>::create())
     , m_selector(QSharedPointer<DeviceSelectorService>::create())
     , m_log(QSharedPointer<MessageLogService>::create(&m_messages))
     , m_cameras(m_pool)
+    , m_sources(m_pool, *m_selector, emulated)
     , m_plugins(m_registry, hostParts())
 {
     m_catalogues.install(m_language);
@@ -40,7 +42,14 @@ ViewerApplication::ViewerApplication(ViewerArguments arguments, const QList<Host
         MainWindowParts{m_cameras, *m_selector, *m_menus, m_messages, m_settings});
     m_window->menu().showTheme(theme);
     m_window->menu().showLanguage(m_language);
+    m_cameraSettings = std::make_unique<CameraSettingsCommands>(m_sources, m_settings, *m_window);
+    auto* line = new QAction(m_window.get());
+    line->setSeparator(true);
+    m_window->menu().addToCamera(line);
+    m_window->menu().addToCamera(m_cameraSettings->searchAction());
+    m_window->menu().addToCamera(m_cameraSettings->settingsAction());
     makeConnections();
+    reportCameras();
     if (!m_settings.warning().isEmpty())
         warn(m_settings.warning());
 }
@@ -90,30 +99,73 @@ void ViewerApplication::makeConnections()
     m_window->setCloseCondition([this] { return mayClose(); });
 }
 
+void ViewerApplication::reportCameras()
+{
+    connect(&m_sources, &CameraSources::found, this, [this](const HostCameraPtr& camera) {
+        m_log->addOwn(Core::Logging::Information, tr("%1 was found.").arg(camera->displayName()));
+    });
+    connect(&m_sources, &CameraSources::vanished, this, [this](const HostCameraPtr& camera) {
+        m_log->addOwn(Core::Logging::Information,
+                      tr("%1 can no longer be found.").arg(camera->displayName()));
+    });
+}
+
 void ViewerApplication::start()
 {
     m_window->restoreLayout();
     m_window->show();
+    m_sources.apply(startSettings());
     loadPlugins();
     selectCamera();
 }
 
-// Plugins learn of what happens from then on alone, so they come first.
+CameraSettings ViewerApplication::startSettings() const
+{
+    CameraSettings settings = readCameraSettings(m_settings);
+    settings.backends = m_arguments.backends.value_or(settings.backends);
+    return settings;
+}
+
+// Plugins learn of what happens from then on alone, so they come first. A camera that is named but
+// not there may still be found.
 void ViewerApplication::selectCamera()
 {
-    const auto& cameras = m_cameras.cameras();
+    const auto cameras = m_cameras.cameras();
     if (m_arguments.camera.isEmpty()) {
         if (!cameras.isEmpty())
             m_window->selectorPanel().select(cameras.constFirst());
         return;
     }
-    for (const HostCameraPtr& camera : cameras)
+    if (selectNamedCamera())
+        return;
+    if (m_sources.isFirstSearch())
+        return waitForCamera();
+    warn(tr("There is no camera \"%1\"; select one in the list.").arg(m_arguments.camera));
+}
+
+// Once the user has selected a camera or changed what is looked for, that counts.
+void ViewerApplication::waitForCamera()
+{
+    auto* wait = new QObject(this);
+    connect(m_selector.data(), &DeviceSelectorService::selectionChanged, wait,
+            &QObject::deleteLater);
+    connect(&m_sources, &CameraSources::applied, wait, &QObject::deleteLater);
+    connect(&m_sources, &CameraSources::searched, wait, [this, wait] {
+        wait->deleteLater();
+        selectCamera();
+    });
+}
+
+bool ViewerApplication::selectNamedCamera()
+{
+    for (const HostCameraPtr& camera : m_cameras.cameras())
         if (camera->displayName() == m_arguments.camera ||
             camera->modelName() == m_arguments.camera) {
             m_window->selectorPanel().select(camera);
-            return m_window->commands().start();
+            m_window->commands().start();
+            return true;
         }
-    warn(tr("There is no camera \"%1\"; select one in the list.").arg(m_arguments.camera));
+    return false;
 }
 
 void ViewerApplication::loadPlugins()
@@ -173,6 +225,7 @@ void ViewerApplication::chooseLanguage(const QString& code)
     m_language = code;
     m_catalogues.install(code);
     m_plugins.setLanguage(code);
+    m_cameraSettings->retranslate();
     m_window->menu().showLanguage(code);
 }
 

@@ -4,6 +4,8 @@
 
 #include "cameralist.h"
 #include "camerapool.h"
+#include "camerasettingscommands.h"
+#include "camerasources.h"
 #include "deviceselectorservice.h"
 #include "language.h"
 #include "mainwindow.h"
@@ -28,11 +30,11 @@ class ViewerApplication final : public QObject
     Q_OBJECT
 
 public:
-    /// \param cameras  not null, each once
-    ViewerApplication(ViewerArguments arguments, const QList<Cameras::HostCameraPtr>& cameras);
+    /// \param emulated  the cameras of the emulation; not null, each once
+    ViewerApplication(ViewerArguments arguments, const QList<Cameras::HostCameraPtr>& emulated);
     ~ViewerApplication() override;
 
-    /// Shows the window, then loads the plugins.
+    /// Shows the window, begins to look for cameras, and loads the plugins.
     void start();
 
     /// Closes dialogs that are open, then the window. What runs in a dialog is cancelled.
@@ -53,8 +55,12 @@ public:
 private:
     void registerServices();
     void makeConnections();
+    void reportCameras();
+    CameraSettings startSettings() const;
     void loadPlugins();
     void selectCamera();
+    void waitForCamera();
+    bool selectNamedCamera();
     void chooseTheme(Theme theme);
     void chooseLanguage(const QString& code);
     void showPlugins();
@@ -73,7 +79,9 @@ private:
     const QSharedPointer<DeviceSelectorService> m_selector;
     const QSharedPointer<MessageLogService> m_log;
     CameraList m_cameras;
+    CameraSources m_sources;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<CameraSettingsCommands> m_cameraSettings;
     PluginManager m_plugins; // ends first
 };
 

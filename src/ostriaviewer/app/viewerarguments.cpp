@@ -6,39 +6,46 @@
 #include <QCoreApplication>
 
 namespace Viewer {
+
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("Viewer::ViewerArguments", text);
-}
+constexpr char backendVariable[] = "OSTRIA_BACKEND";
 
 } // namespace
 
+// What stands in a terminal is English, whatever the language of the windows.
 ParsedArguments parseArguments(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        tr("Shows the pictures of cameras, and what plugins do with them."));
+        QStringLiteral("Shows the pictures of cameras, and what plugins do with them."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  tr("Show this text."));
+                                  QStringLiteral("Show this text."));
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption scene(QStringLiteral("scene"),
-                                   tr("Let the emulated cameras see this image."), tr("image"));
+                                   QStringLiteral("Let the emulated cameras see this image."),
+                                   QStringLiteral("image"));
     const QCommandLineOption plugins(QStringLiteral("plugins"),
-                                     tr("Load plugins from this folder alone."), tr("folder"));
+                                     QStringLiteral("Load plugins from this folder alone."),
+                                     QStringLiteral("folder"));
     const QCommandLineOption camera(
-        QStringLiteral("camera"), tr("Open this camera and show its picture at once."), tr("name"));
-    parser.addOptions({help, scene, plugins, camera});
+        QStringLiteral("camera"), QStringLiteral("Open this camera and show its picture at once."),
+        QStringLiteral("name"));
+    const QCommandLineOption backend(
+        QStringLiteral("backend"),
+        QStringLiteral("Show emulated cameras (\"emulation\"), those on "
+                       "the network and on USB (\"genicam\"), or "
+                       "\"all\", whatever the settings say."),
+        QStringLiteral("kind"), qEnvironmentVariable(backendVariable));
+    parser.addOptions({help, scene, plugins, camera, backend});
 
     ParsedArguments result;
     const bool isUnderstood = parser.parse(arguments);
     if (!isUnderstood || !parser.positionalArguments().isEmpty()) {
         result.action = ParsedArguments::Fail;
-        result.text =
-            isUnderstood
-                ? tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst())
-                : parser.errorText();
+        result.text = isUnderstood ? QStringLiteral("Unexpected argument \"%1\".")
+                                         .arg(parser.positionalArguments().constFirst())
+                                   : parser.errorText();
     } else if (parser.isSet(help)) {
         result.action = ParsedArguments::ShowText;
         result.text = parser.helpText();
@@ -47,7 +54,15 @@ ParsedArguments parseArguments(const QStringList& arguments)
         result.text =
             QStringLiteral("ostriaviewer %1\n").arg(QCoreApplication::applicationVersion());
     }
-    result.arguments = {parser.value(scene), parser.value(plugins), parser.value(camera),
+    const QString kind = parser.value(backend);
+    const std::optional<Backends> backends = backendsFromName(kind);
+    if (result.action == ParsedArguments::Run && !kind.isEmpty() && !backends) {
+        result.action = ParsedArguments::Fail;
+        result.text =
+            QStringLiteral("%1 is \"emulation\", \"genicam\" or \"all\", not \"%2\".")
+                .arg(QLatin1String(parser.isSet(backend) ? "--backend" : backendVariable), kind);
+    }
+    result.arguments = {parser.value(scene), parser.value(plugins), parser.value(camera), backends,
                         arguments};
     return result;
 }

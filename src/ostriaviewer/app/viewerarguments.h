@@ -2,17 +2,22 @@
 // What the viewer is started with.
 #pragma once
 
+#include "camerasettings.h"
+
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace Viewer {
 
 struct ViewerArguments
 {
-    QString scene;        ///< an image that emulated cameras see; empty: the chart
-    QString pluginFolder; ///< empty: where the viewer's own plugins are
-    QString camera;       ///< shown live from the start; empty: none
-    QStringList all;      ///< as given, for the plugins
+    QString scene;                    ///< an image that emulated cameras see; empty: the chart
+    QString pluginFolder;             ///< empty: where the viewer's own plugins are
+    QString camera;                   ///< shown live from the start; empty: none
+    std::optional<Backends> backends; ///< instead of those in the settings
+    QStringList all;                  ///< as given, for the plugins
 };
 
 /// What there is to do with what the user typed.

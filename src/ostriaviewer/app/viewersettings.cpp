@@ -10,10 +10,10 @@
 namespace Viewer {
 namespace {
 
-QString tr(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("Viewer::ViewerSettings", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Viewer::ViewerSettings)
+};
 
 QString keyOf(const QString& name)
 {
@@ -27,7 +27,7 @@ const auto versionName = QStringLiteral("Version");
 ViewerSettings::ViewerSettings()
 {
     checkReadable();
-    if (m_warning.isEmpty())
+    if (m_problem == Problem::None)
         checkVersion();
 }
 
@@ -42,9 +42,8 @@ void ViewerSettings::checkReadable()
             return;
         if (settings.status() == QSettings::AccessError || !QFileInfo(file).isFile()) {
             m_isKept = false;
-            m_warning = tr("The settings file %1 cannot be read; the viewer starts with defaults "
-                           "and remembers nothing. Check the file's permissions.")
-                            .arg(file);
+            m_problem = Problem::Unreadable;
+            m_problemFile = file;
             return;
         }
     }
@@ -52,13 +51,8 @@ void ViewerSettings::checkReadable()
     for (int number = 2; QFile::exists(aside); ++number)
         aside = QStringLiteral("%1.unreadable%2").arg(file).arg(number);
     m_isKept = QFile::rename(file, aside);
-    m_warning = m_isKept
-                    ? tr("The settings file is damaged; the viewer starts with defaults. The old "
-                         "file was kept as %1.")
-                          .arg(aside)
-                    : tr("The settings file %1 is damaged; the viewer starts with defaults and "
-                         "remembers nothing. Remove the file.")
-                          .arg(file);
+    m_problem = m_isKept ? Problem::DamagedAndKept : Problem::Damaged;
+    m_problemFile = m_isKept ? aside : file;
 }
 
 void ViewerSettings::checkVersion()
@@ -68,8 +62,33 @@ void ViewerSettings::checkVersion()
     if (isNumber && written <= version)
         return;
     m_isKept = false;
-    m_warning = tr("The settings were written by a newer viewer; this one starts with defaults and "
-                   "leaves them as they are. What you change is forgotten at the end.");
+    m_problem = Problem::Newer;
+}
+
+// The language is known only after the settings.
+QString ViewerSettings::warning() const
+{
+    switch (m_problem) {
+    case Problem::None:
+        break;
+    case Problem::Unreadable:
+        return Texts::tr("The settings file %1 cannot be read; the viewer starts with defaults and "
+                         "remembers nothing. Check the file's permissions.")
+            .arg(m_problemFile);
+    case Problem::DamagedAndKept:
+        return Texts::tr("The settings file is damaged; the viewer starts with defaults. The old "
+                         "file was kept as %1.")
+            .arg(m_problemFile);
+    case Problem::Damaged:
+        return Texts::tr("The settings file %1 is damaged; the viewer starts with defaults and "
+                         "remembers nothing. Remove the file.")
+            .arg(m_problemFile);
+    case Problem::Newer:
+        return Texts::tr("The settings were written by a newer viewer; this one starts with "
+                         "defaults and leaves them as they are. What you change is forgotten at "
+                         "the end.");
+    }
+    return {};
 }
 
 QVariant ViewerSettings::value(const QString& name, const QVariant& defaultValue) const

@@ -20,8 +20,8 @@ public:
 
     ViewerSettings();
 
-    /// Why the settings start with defaults, for people; empty if they do not.
-    const QString& warning() const { return m_warning; }
+    /// Why the settings start with defaults, in the language of the moment; empty if they do not.
+    QString warning() const;
 
     /// Whether values are kept for the next start.
     bool isKept() const { return m_isKept; }
@@ -30,10 +30,13 @@ public:
     void setValue(const QString& name, const QVariant& value);
 
 private:
+    enum class Problem { None, Unreadable, DamagedAndKept, Damaged, Newer };
+
     void checkReadable();
     void checkVersion();
 
-    QString m_warning;
+    Problem m_problem = Problem::None;
+    QString m_problemFile;
     bool m_isKept = true;
 };
 

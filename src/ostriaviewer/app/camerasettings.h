@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which cameras the viewer shows, and how it reaches them.
+#pragma once
+
+#include "transportsettings.h"
+#include "viewersettings.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace Viewer {
+
+/// Where cameras come from.
+enum class Backends { Emulation, GenICam, All };
+
+/// "emulation", "genicam" or "all".
+QString nameOf(Backends backends);
+
+/// Nothing if it is none of these names.
+std::optional<Backends> backendsFromName(const QString& name);
+
+/// A plain value; reentrant.
+struct CameraSettings
+{
+    static constexpr int smallestPacket = 576; ///< bytes
+    static constexpr int largestPacket = 16384;
+
+    Backends backends = Backends::All;
+    Cameras::GenICam::TransportSettings transport;
+};
+
+/// Values that mean nothing count as not written.
+CameraSettings readCameraSettings(const ViewerSettings& settings);
+void writeCameraSettings(ViewerSettings& settings, const CameraSettings& cameras);
+
+/// The address as it is shown, without leading zeros and blanks; empty if the text is no address of
+/// a single camera.
+QString cameraAddress(const QString& text);
+
+} // namespace Viewer

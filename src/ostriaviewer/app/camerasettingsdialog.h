@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+// Lets the user say which cameras there are and how they are reached.
+#pragma once
+
+#include "camerasettings.h"
+
+#include <QDialog>
+
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QSpinBox;
+
+namespace Viewer {
+
+/// Thread-bound: GUI thread.
+class CameraSettingsDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// \param interfaces  names of the network interfaces that can be chosen
+    CameraSettingsDialog(const CameraSettings& settings, const QStringList& interfaces,
+                         QWidget* parent = nullptr);
+
+    /// What the dialog shows.
+    CameraSettings settings() const;
+
+    /// The network interfaces of this machine that have an IPv4 address.
+    static QStringList systemInterfaces();
+
+    /// Takes an address with it that was typed but not added; stays open if it is none.
+    void accept() override;
+
+private:
+    QWidget* makeBackends();
+    QWidget* makeSearch(const QStringList& interfaces);
+    QWidget* makeAddresses();
+    QWidget* makePackets();
+    void fill(const CameraSettings& settings);
+    bool addAddress();
+    void removeAddress();
+    void follow();
+
+    QComboBox* m_backends;
+    QGroupBox* m_search;
+    QListWidget* m_interfaces;
+    QGroupBox* m_addressGroup;
+    QListWidget* m_addresses;
+    QLineEdit* m_address;
+    QLabel* m_problem;
+    QPushButton* m_add;
+    QPushButton* m_remove;
+    QGroupBox* m_packetGroup;
+    QSpinBox* m_packetSize;
+};
+
+} // namespace Viewer
