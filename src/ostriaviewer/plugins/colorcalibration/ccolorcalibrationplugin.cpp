@@ -118,7 +118,7 @@ void CColorCalibrationPlugin::onStartTriggered()
         start();
     } catch (const std::exception& problem) {
         showModalBox(BoxIcon::Error, tr("Color Calibrator"), QString::fromUtf8(problem.what()),
-                     QMessageBox::Ok, QMessageBox::Ok);
+                     QMessageBox::Ok, QMessageBox::Ok, Qt::PlainText);
     }
     if (self)
         m_isStarting = false;
@@ -131,8 +131,15 @@ void CColorCalibrationPlugin::start()
     // The selection may change while the wizard is open; it stays with its camera.
     const CameraInfoPtr camera = m_camera;
     createModels();
-    if (openCamera(camera))
+    if (!openCamera(camera))
+        return;
+    try {
         runDialog(camera->displayName());
+    } catch (...) {
+        m_dataModel->abandon();
+        m_model->Close();
+        throw;
+    }
 }
 
 bool CColorCalibrationPlugin::stopWhatRuns()
@@ -154,7 +161,7 @@ bool CColorCalibrationPlugin::stopWhatRuns()
         tr("<p>To use the Color Calibrator, you have to stop continuous image acquisition as well "
            "as any recordings.<p/>Do you want to stop the camera and start using the Color "
            "Calibrator?"),
-        QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::No, Qt::RichText);
     if (answer != QMessageBox::Yes)
         return false;
     if (streams)
@@ -181,8 +188,10 @@ bool CColorCalibrationPlugin::openCamera(const CameraInfoPtr& camera)
         return true;
     QString reason = camera->lastErrorText();
     if (reason.isEmpty())
-        reason = QStringLiteral("The camera could not be opened.");
-    showModalBox(BoxIcon::Error, tr("Color Calibrator"), reason, QMessageBox::Ok, QMessageBox::Ok);
+        reason = QStringLiteral("The camera could not be opened. Close it in other programs, open "
+                                "it in the viewer, then start the Color Calibrator again.");
+    showModalBox(BoxIcon::Error, tr("Color Calibrator"), reason, QMessageBox::Ok, QMessageBox::Ok,
+                 Qt::PlainText);
     camera->clearLastError();
     return false;
 }

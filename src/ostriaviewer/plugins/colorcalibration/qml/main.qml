@@ -234,13 +234,45 @@ Rectangle {
         standardToolTip.y = mouseY + item.y + item.parent.y + 2 * margin
     }
 
+    // For the pages, whose loaders have a progress of their own.
+    readonly property alias stepBar: progress
+
+    property Item keysBefore: null
+    property int stepBefore: 0
+
+    // What has the keys must not act on the camera while it is led to another step.
+    function holdKeys() {
+        keysBefore = Window.activeFocusItem
+        stepBefore = qmlModelInterface.activeStep
+        root.forceActiveFocus()
+    }
+
+    function giveKeysBack() {
+        // Pages that are new have taken the keys themselves, or leave them here.
+        var stays = stepBefore === qmlModelInterface.activeStep || isIn(navigation, keysBefore)
+        if (stays && keysBefore && root.activeFocus)
+            keysBefore.forceActiveFocus()
+        keysBefore = null
+    }
+
+    function isIn(parent, item) {
+        for (; item; item = item.parent) {
+            if (item === parent)
+                return true
+        }
+        return false
+    }
+
     anchors.fill: parent
     color: cTavrinLightGrey
     focus: true
 
     onAutoRefreshCheckedChanged: qmlModelInterface.singleShotEnabled = !autoRefreshChecked
 
+    // A key that is held goes no further than one that is pressed.
     Keys.onReturnPressed: {
+        if (event.isAutoRepeat || progress.moving)
+            return
         if (qmlModelInterface.activeStep === iStep2)
             toolBox.runAutoButton()
         else
@@ -248,7 +280,9 @@ Rectangle {
     }
     Keys.onEscapePressed: navigation.jumpCancel()
     Keys.onPressed: {
-        if (event.key === Qt.Key_Z && event.modifiers === Qt.ControlModifier
+        if (progress.moving)
+            event.accepted = true
+        else if (event.key === Qt.Key_Z && event.modifiers === Qt.ControlModifier
                 && qmlModelInterface.activeStep === iStep1) {
             gridOutline.resetOutline()
             event.accepted = true
@@ -284,16 +318,20 @@ Rectangle {
         // The box tells of one answer twice.
         property bool answered: false
 
-        onVisibleChanged: {
-            if (visible)
-                answered = false
-        }
-        onAccepted: {
+        // There is no way on from here, so Escape is an answer as good as OK.
+        function endWizard() {
             if (answered)
                 return
             answered = true
             qmlModelInterface.cancel()
         }
+
+        onVisibleChanged: {
+            if (visible)
+                answered = false
+        }
+        onAccepted: endWizard()
+        onRejected: endWizard()
     }
 
     // A box that outlived the wizard would lock the viewer, and answer for a camera that is closed.
@@ -302,6 +340,7 @@ Rectangle {
         function onCleanupQML() {
             modelError.close()
             modelWarning.close()
+            criticalError.answered = true
             criticalError.close()
             navigation.closeQuestion()
         }
@@ -312,6 +351,8 @@ Rectangle {
         objectName: "progress"
         anchors { top: parent.top; left: parent.left; right: parent.right; margins: margin }
 
+        onMovingChanged: moving ? holdKeys() : giveKeysBack()
+        onCancelAgain: navigation.tryCancel()
         onClose: {
             autoRefreshChecked = false
             camera.stopGrab()
@@ -347,6 +388,16 @@ Rectangle {
         }
 
         onToolTipStandard: placeToolTip(toolBox, mouseX, mouseY, toolTipText)
+    }
+
+    // Nor must the mouse; it may still cancel.
+    MouseArea {
+        objectName: "lock"
+        anchors.fill: parent
+        visible: progress.moving
+        hoverEnabled: true
+        acceptedButtons: Qt.AllButtons
+        onWheel: wheel.accepted = true
     }
 
     Navigation {

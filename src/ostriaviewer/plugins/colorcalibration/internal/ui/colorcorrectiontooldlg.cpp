@@ -79,7 +79,19 @@ int ColorCorrectionToolDlg::exec()
     // The application quit, or the parent's end took the window from the screen.
     if (self && m_running)
         reject();
+    if (self)
+        tellRestoreFailure();
     return result;
+}
+
+// After the window has gone and the camera is closed: nothing of the wizard is left to go wrong.
+void ColorCorrectionToolDlg::tellRestoreFailure()
+{
+    const QString failure = m_dataModel->takeRestoreFailure();
+    if (!failure.isEmpty())
+        showModalBox(BoxIcon::Error,
+                     QCoreApplication::translate("ColorCorrectionToolDlg", "Color Calibrator"),
+                     failure, QMessageBox::Ok, QMessageBox::Ok, Qt::PlainText);
 }
 
 void ColorCorrectionToolDlg::onDialogFinish(int /*result*/)
@@ -102,7 +114,7 @@ void ColorCorrectionToolDlg::onCameraRemoved()
                      "ColorCorrectionToolDlg",
                      "<p>The camera has been disconnected.<br/>Reconnect the camera to the "
                      "computer and open it to continue using the Color Calibrator.</p>"),
-                 QMessageBox::Ok, QMessageBox::Ok);
+                 QMessageBox::Ok, QMessageBox::Ok, Qt::RichText);
     if (self)
         close();
 }

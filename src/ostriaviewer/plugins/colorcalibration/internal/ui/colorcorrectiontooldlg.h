@@ -28,7 +28,8 @@ public:
                            QWidget* parent);
     ~ColorCorrectionToolDlg() override;
 
-    /// Also ends the dialog properly if the application quits meanwhile.
+    /// Also ends the dialog properly if the application quits meanwhile. Settings that could not be
+    /// given back are told in a message box afterwards.
     int exec() override;
 
 public slots:
@@ -44,6 +45,7 @@ private:
     void outliveParent();
     void connectDataModel();
     void showScene();
+    void tellRestoreFailure();
 
     QmlDataModelInterface* m_dataModel;
     QSharedPointer<Plugin::MessageLogCore::IMessageLogService> m_messageLog;

@@ -10,11 +10,13 @@ namespace ColorCalibration {
 
 QMessageBox::StandardButton showModalBox(BoxIcon icon, const QString& title, const QString& text,
                                          QMessageBox::StandardButtons buttons,
-                                         QMessageBox::StandardButton defaultButton)
+                                         QMessageBox::StandardButton defaultButton,
+                                         Qt::TextFormat format)
 {
     // The window below may end while the box is shown, and takes the box with it.
     const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
     box->setWindowTitle(title);
+    box->setTextFormat(format);
     box->setText(text);
     box->setStandardButtons(buttons);
     box->setDefaultButton(defaultButton);

@@ -125,6 +125,7 @@ void QmlDataModelInterface::resetScene()
     if (!m_view)
         return;
     ++m_scene;
+    m_restoreFailure.clear();
     m_view->setSource(QUrl());
     m_view->engine()->clearComponentCache();
     m_imageProvider->reset();
@@ -134,6 +135,7 @@ void QmlDataModelInterface::resetScene()
     m_showGrid = true;
     m_initial = true;
     m_activeStep = 1;
+    m_gray80PercentHitRate = noHitRate; // the last one may be of another camera
     m_previousCalibrationFile.clear();
     m_calibrationFileToSave.clear();
     m_summaryFileToSave.clear();

@@ -11,7 +11,6 @@
 #include <QFuture>
 #include <QJsonObject>
 #include <QList>
-#include <QMutex>
 #include <QObject>
 #include <QPointer>
 #include <QQmlError>
@@ -115,6 +114,10 @@ public:
     ///                     the camera is given back
     Q_INVOKABLE bool restoreSettingsBackup(bool intialImage = false);
     Q_INVOKABLE bool createSettingsBackup(bool intialImage = false);
+
+    /// Whether the camera may hold other settings than the backup with which it is given back,
+    /// although no calibration was written since.
+    Q_INVOKABLE bool isBackupOwed() const;
     Q_INVOKABLE bool restoreDetectedExposureAndGain();
     Q_INVOKABLE bool storeDetectedExposureAndGain();
 
@@ -149,6 +152,10 @@ public:
 
     /// Gives the camera its settings back although the user neither canceled nor finished.
     void abandon();
+
+    /// Text for people if the camera could not be given its settings back, else empty. A read
+    /// empties it.
+    QString takeRestoreFailure();
 
     /// Why the scene cannot be shown, for people; empty if it can.
     QString sceneProblem() const { return m_sceneProblem; }
@@ -203,7 +210,7 @@ private:
     bool tellOutcome(bool success, const QString& whenDone, const QString& whenFailed,
                      const QString& target);
     ChartSearch searchChart();
-    void endChartSearch(const ChartSearch& search, int scene);
+    void endChartSearch(const ChartSearch& search, int scene, int step);
     void beginBusyCursor();
     void endBusyCursor();
 
@@ -217,8 +224,8 @@ private:
     bool m_showGrid = true;
     bool m_singleShotEnabled = false;
     bool m_initial = true;
-    double m_gray80PercentHitRate = 1000.0;
-    QMutex m_mutex;
+    static constexpr double noHitRate = 1000.0;
+    double m_gray80PercentHitRate = noHitRate;
     QJsonObject m_calibrationResults;
     QString m_previousCalibrationFile;
     QString m_calibrationFileToSave;
@@ -226,6 +233,7 @@ private:
     QPointer<QQuickView> m_view;
     ColorCorrectionAutoChartFinder m_chartFinder;
     QString m_sceneProblem;
+    QString m_restoreFailure;
     QVector<QFuture<void>> m_searches;
     int m_busyCursors = 0;
     int m_scene = 0;

@@ -2,6 +2,7 @@
 // What the scene of the wizard asks of the model.
 #include "qmldatamodelinterface.h"
 
+#include "baseexception.h"
 #include "colorcorrectionmodel.h"
 #include "guarded.h"
 #include "originalimageprovider.h"
@@ -11,7 +12,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QJsonDocument>
-#include <QMutexLocker>
 #include <QtConcurrent>
 
 #include <algorithm>
@@ -35,11 +35,16 @@ QString compactText(const QJsonObject& object)
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
+QString notRestored()
+{
+    return QStringLiteral("The camera's original settings couldn’t be restored. Load them from a "
+                          "user set or a settings file.");
+}
+
 } // namespace
 
 void QmlDataModelInterface::updateTrapezoidList()
 {
-    const QMutexLocker lock(&m_mutex);
     m_grid.update();
 }
 
@@ -53,12 +58,14 @@ void QmlDataModelInterface::grabOriginalImage()
 
 bool QmlDataModelInterface::loadSettings(QString cstString)
 {
-    QFile file(cstString);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const auto text = guarded("", "QmlDataModelInterface::loadSettings", std::optional<QString>(),
-                              [&file] { return readSettingsText(file); });
-    file.close();
+    const auto text =
+        guarded("", "QmlDataModelInterface::loadSettings", std::optional<QString>(), [&cstString] {
+            QFile file(cstString);
+            if (!file.open(QIODevice::ReadOnly))
+                throw Core::Exception::BaseException(
+                    QStringLiteral("%1: %2").arg(cstString, file.errorString()));
+            return readSettingsText(file);
+        });
     return text && m_model->LoadSettings(*text);
 }
 
@@ -76,15 +83,25 @@ void QmlDataModelInterface::abandon()
 void QmlDataModelInterface::giveSettingsBack()
 {
     m_model->StopGrabbing();
-    if (!m_model->RestoreSettingsBackup(false))
-        LogMessage(QStringLiteral("The camera's original settings couldn’t be restored. Load them "
-                                  "from a user set or a settings file."),
-                   Core::Logging::Error);
+    if (!restoreSettingsBackup(false) || isBackupOwed())
+        m_restoreFailure = notRestored();
+}
+
+QString QmlDataModelInterface::takeRestoreFailure()
+{
+    QString text;
+    text.swap(m_restoreFailure);
+    return text;
 }
 
 void QmlDataModelInterface::finish()
 {
     m_model->StopGrabbing();
+    // What a calibration that failed has left must not pass for the result of one.
+    if (isBackupOwed()) {
+        LogMessage(notRestored(), Core::Logging::Error);
+        m_restoreFailure = notRestored();
+    }
     emit signalFinished();
 }
 
@@ -139,12 +156,25 @@ void QmlDataModelInterface::getGridPosition()
 
 bool QmlDataModelInterface::restoreSettingsBackup(bool intialImage)
 {
-    return m_model->RestoreSettingsBackup(intialImage);
+    const bool restored = m_model->RestoreSettingsBackup(intialImage);
+    if (!intialImage && (!restored || isBackupOwed()))
+        LogMessage(notRestored(), Core::Logging::Error);
+    return restored;
+}
+
+bool QmlDataModelInterface::isBackupOwed() const
+{
+    return m_model->IsBackupOwed();
 }
 
 bool QmlDataModelInterface::createSettingsBackup(bool intialImage)
 {
-    return m_model->CreateSettingsBackup(intialImage);
+    const bool created = m_model->CreateSettingsBackup(intialImage);
+    if (!created)
+        LogMessage(QStringLiteral("The camera's settings couldn’t be backed up, so the calibration "
+                                  "can't begin. Check the connection of the camera."),
+                   Core::Logging::Error);
+    return created;
 }
 
 bool QmlDataModelInterface::restoreDetectedExposureAndGain()
@@ -210,7 +240,7 @@ void QmlDataModelInterface::forceReload()
 void QmlDataModelInterface::findChart()
 {
     beginBusyCursor();
-    endChartSearch(searchChart(), m_scene);
+    endChartSearch(searchChart(), m_scene, m_activeStep);
 }
 
 void QmlDataModelInterface::findChartAsync()
@@ -224,10 +254,11 @@ void QmlDataModelInterface::findChartAsync()
                      m_searches.end());
     // The pool grabs and searches alone. Outline, list and cursor belong to the GUI thread, where
     // the pages read them at any time.
-    m_searches.append(QtConcurrent::run([this, scene = m_scene] {
+    m_searches.append(QtConcurrent::run([this, scene = m_scene, step = m_activeStep] {
         const ChartSearch search = searchChart();
         QMetaObject::invokeMethod(
-            this, [this, search, scene] { endChartSearch(search, scene); }, Qt::QueuedConnection);
+            this, [this, search, scene, step] { endChartSearch(search, scene, step); },
+            Qt::QueuedConnection);
     }));
 }
 
@@ -246,10 +277,10 @@ QmlDataModelInterface::ChartSearch QmlDataModelInterface::searchChart()
     return search;
 }
 
-void QmlDataModelInterface::endChartSearch(const ChartSearch& search, int scene)
+void QmlDataModelInterface::endChartSearch(const ChartSearch& search, int scene, int step)
 {
-    // What was found for a scene that has gone must not move the grid of the next one.
-    if (search.grabbed && scene == m_scene) {
+    // What was found for a scene or a step that has gone must not move the grid of the next one.
+    if (search.grabbed && scene == m_scene && step == m_activeStep) {
         if (search.result.valid) {
             const PointTransformer& transformer = *m_grid.transformer();
             QmlTrapezoid& outline = *m_grid.outlineView();

@@ -11,86 +11,45 @@
 namespace ColorCalibration {
 namespace {
 
-constexpr int quietMs = 10;
 constexpr double smallestWrite = 1e-6;
-constexpr double smallestMove = 0.003;
 
 } // namespace
 
 QMLGainvalue::QMLGainvalue(CalibrationInterface* model, QObject* parent)
-    : QObject(parent)
-    , m_model(model)
-    , m_quiet(new QTimer(this))
-{
-    m_quiet->setSingleShot(true);
-    m_quiet->setInterval(quietMs);
-}
+    : SliderAdapter(model, parent)
+{}
 
-double QMLGainvalue::value() const
+double QMLGainvalue::value()
 {
-    if (m_rawValue < 0.0)
+    if (rawValue() < 0.0)
         return -1.0;
-    const double range = m_rawMax - m_rawMin;
-    return range == 0.0 ? 0.0 : (m_rawValue - m_rawMin) / range;
-}
-
-QString QMLGainvalue::takeLastError()
-{
-    QString text;
-    text.swap(m_lastError);
-    return text;
-}
-
-bool QMLGainvalue::initialize()
-{
-    double min = -1.0;
-    double value = -1.0;
-    double max = -1.0;
-    if (!m_model->GetGainRange(min, value, max))
-        return false;
-    m_rawMin = min;
-    m_rawValue = value;
-    m_rawMax = max;
-    if (!m_model->SetGain(m_rawValue))
-        return false;
-    emit signalValueChanged();
-    return true;
+    const double range = rawMax() - rawMin();
+    return range == 0.0 ? 0.0 : (rawValue() - rawMin()) / range;
 }
 
 void QMLGainvalue::setValue(double value)
 {
     if (!(value >= 0.0))
         return;
-    const double gain = (m_rawMax - m_rawMin) * value + m_rawMin;
-    if (!(std::abs(m_rawValue - gain) > smallestWrite))
-        return;
-    m_rawValue = gain;
-    m_quiet->stop();
-    m_quiet->start();
-    if (!m_model->SetGain(gain)) {
-        m_lastError = QCoreApplication::translate("QMLGainvalue", "Couldn't set gain value!<br>");
-        emit lastErrorChanged();
-    }
+    const double gain = (rawMax() - rawMin()) * value + rawMin();
+    if (std::abs(rawValue() - gain) > smallestWrite)
+        writeRaw(gain, QCoreApplication::translate("QMLGainvalue", "Couldn't set gain value!<br>"));
 }
 
-void QMLGainvalue::reset()
+bool QMLGainvalue::readRange(double& min, double& value, double& max)
 {
-    m_rawMin = -1.0;
-    m_rawMax = -1.0;
-    m_rawValue = -1.0;
+    return model().GetGainRange(min, value, max);
 }
 
-void QMLGainvalue::onChangedValue(double value)
+bool QMLGainvalue::write(double value)
 {
-    if (value == m_rawValue)
-        return;
-    const double range = m_rawMax - m_rawMin;
-    const bool moves = range != 0.0 && std::abs(m_rawValue - value) / range > smallestMove;
-    m_rawValue = value;
-    if (moves && !m_quiet->isActive()) {
-        m_quiet->start();
-        emit signalValueChanged();
-    }
+    return model().SetGain(value);
+}
+
+double QMLGainvalue::moveTo(double value) const
+{
+    const double range = rawMax() - rawMin();
+    return range == 0.0 ? 0.0 : std::abs(rawValue() - value) / range;
 }
 
 } // namespace ColorCalibration

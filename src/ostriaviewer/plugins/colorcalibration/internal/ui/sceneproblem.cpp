@@ -9,6 +9,12 @@
 namespace ColorCalibration {
 namespace {
 
+#if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
+constexpr bool hasPackages = false;
+#else
+constexpr bool hasPackages = true;
+#endif
+
 QString headline()
 {
     return QStringLiteral("The Color Calibrator cannot be shown.");
@@ -32,6 +38,15 @@ QString packageOf(const QString& module)
     return packages.value(module, derived);
 }
 
+// Where there are no packages, the modules come with the viewer.
+QString remedyFor(const QString& module)
+{
+    if (!hasPackages)
+        return QStringLiteral("Install the viewer again.");
+    return QStringLiteral("Install the package %1, then start the Color Calibrator again.")
+        .arg(packageOf(module));
+}
+
 QString missingModule(const QQmlError& error)
 {
     static const QRegularExpression form(QStringLiteral(
@@ -52,9 +67,8 @@ QString adviceOn(const QQmlError& error)
 {
     const QString module = missingModule(error);
     if (!module.isEmpty())
-        return QStringLiteral("The QML module \"%1\" is missing or damaged. Install the package "
-                              "%2, then start the Color Calibrator again.")
-            .arg(module, packageOf(module));
+        return QStringLiteral("The QML module \"%1\" is missing or damaged. %2")
+            .arg(module, remedyFor(module));
     if (isMissingFile(error))
         return QStringLiteral("%1 is missing. Install the viewer again.")
             .arg(error.url().toString());
@@ -82,9 +96,11 @@ QString sceneProblemText(const QList<QQmlError>& errors)
 
 QString drawingProblemText(const QString& error)
 {
+    const QString package =
+        hasPackages ? QStringLiteral(", in Debian the package libgl1-mesa-dri") : QString();
     return headline() + QLatin1Char('\n') + error + QLatin1Char('\n') +
-           QStringLiteral("Install a graphics driver with OpenGL, in Debian the package "
-                          "libgl1-mesa-dri, then start the viewer again.");
+           QStringLiteral("Install a graphics driver with OpenGL%1, then start the viewer again.")
+               .arg(package);
 }
 
 } // namespace ColorCalibration

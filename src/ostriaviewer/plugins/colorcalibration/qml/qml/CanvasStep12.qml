@@ -58,7 +58,8 @@ Item {
             imageHeight = camera.size.height
             if (initial) {
                 Utility.fitTransformation(canvasStep12)
-                camera.singleGrab()
+                if (!stepBar.moving)
+                    camera.singleGrab()
             }
             if (qmlModelInterface.initial) {
                 qmlModelInterface.initial = false
@@ -163,6 +164,7 @@ Item {
         DragPoint {
             id: upperLeft
             objectName: "upperLeft"
+            cornerName: "Upper left corner of the grid"
 
             readonly property Item first: upperRight
             readonly property Item second: lowerLeft
@@ -176,6 +178,7 @@ Item {
         DragPoint {
             id: upperRight
             objectName: "upperRight"
+            cornerName: "Upper right corner of the grid"
 
             readonly property Item first: lowerRight
             readonly property Item second: upperLeft
@@ -189,6 +192,7 @@ Item {
         DragPoint {
             id: lowerRight
             objectName: "lowerRight"
+            cornerName: "Lower right corner of the grid"
 
             readonly property Item first: lowerLeft
             readonly property Item second: upperRight
@@ -202,6 +206,7 @@ Item {
         DragPoint {
             id: lowerLeft
             objectName: "lowerLeft"
+            cornerName: "Lower left corner of the grid"
 
             readonly property Item first: upperLeft
             readonly property Item second: lowerRight
@@ -295,7 +300,8 @@ Item {
             showGrid.enabled = true
             if (!canvasStep12.initial)
                 return
-            if (autoRefreshChecked)
+            // Else it begins when the camera has been led to another step.
+            if (autoRefreshChecked && !stepBar.moving)
                 camera.startGrab()
             if (showGrid.checked)
                 qmlModelInterface.updateTrapezoidList()

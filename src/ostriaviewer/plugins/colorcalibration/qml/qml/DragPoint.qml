@@ -5,6 +5,9 @@ import QtQuick 2.6
 Item {
     id: point
 
+    /// Which corner it is, for screen readers.
+    property string cornerName
+
     property bool dragActive: false
 
     signal pointChanged(int movedX, int movedY)
@@ -23,7 +26,7 @@ Item {
     height: 2 * mTouchPointRadius
     activeFocusOnTab: true
     Accessible.role: Accessible.Indicator
-    Accessible.name: objectName
+    Accessible.name: cornerName
 
     Keys.onLeftPressed: moveByKey(-1, 0)
     Keys.onRightPressed: moveByKey(1, 0)

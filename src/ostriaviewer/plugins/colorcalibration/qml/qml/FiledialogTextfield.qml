@@ -41,6 +41,7 @@ MouseArea {
             selectByMouse: true
             activeFocusOnTab: true
             Accessible.role: Accessible.EditableText
+            Accessible.name: field.Accessible.name
             onTextChanged: forceActiveFocus()
             onEditingFinished: field.editFinished(text)
             Keys.priority: Keys.AfterItem
@@ -61,6 +62,7 @@ MouseArea {
             border.width: activeFocus ? 1 : 0
             activeFocusOnTab: true
             Accessible.role: Accessible.Button
+            Accessible.name: field.Accessible.name
             Keys.onSpacePressed: field.openFileDialog()
 
             Image {

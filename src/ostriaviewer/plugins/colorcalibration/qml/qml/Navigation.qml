@@ -31,7 +31,9 @@ Row {
     }
 
     function tryCancel() {
-        if (step >= iStep2)
+        if (progress.moving)
+            progress.cancelWanted = true
+        else if (step >= iStep2)
             cancelWarningDialog.open()
         else
             cancel()

@@ -10,11 +10,34 @@ Item {
     property string warningText: ""
     property string criticalText: ""
 
+    // The camera's images are waited for in event loops, in which clicks, keys and the end of the
+    // wizard arrive. What changes the camera must not begin a second time in there.
+    property bool moving: false
+    property bool closed: false
+    property bool cancelWanted: false
+
     readonly property int activeStep: qmlModelInterface.activeStep
     readonly property real outerLine: (width - 8 * margin) / 8
     readonly property real innerLine: (width - 8 * margin) / 4
 
     signal close()
+    signal cancelAgain()
+
+    // Does this unless something of the kind is under way. A wish to cancel is heard afterwards.
+    function runAlone(work) {
+        if (moving)
+            return
+        moving = true
+        cancelWanted = false
+        try {
+            work()
+        } finally {
+            moving = false
+            // That box ends the wizard, whatever the answer is.
+            if (cancelWanted && !closed && !criticalError.visible)
+                cancelAgain()
+        }
+    }
 
     function stepColor(step) {
         return step <= activeStep ? cStepColorDark : cStepColorLight
@@ -30,6 +53,9 @@ Item {
     }
 
     function moveTo(circle) {
+        // A search for the chart that still runs would enable the buttons of a page that has gone.
+        if (active.step === iStep1)
+            enableNavigation()
         active = circle
         qmlModelInterface.activeStep = circle.step
     }
@@ -41,6 +67,14 @@ Item {
     }
 
     function jumpNext() {
+        runAlone(goOn)
+    }
+
+    function jumpPrev() {
+        runAlone(goBack)
+    }
+
+    function goOn() {
         var success = false
         if (active.step === iStep1) {
             success = leaveGrid()
@@ -54,6 +88,8 @@ Item {
             return
         }
 
+        if (closed)
+            return
         var ended = criticalText !== ""
         showMessages()
         if (success)
@@ -64,19 +100,26 @@ Item {
 
     function leaveGrid() {
         camera.stopGrab()
-        // The first backup is what Cancel goes back to, the second takes the pictures of before and after.
+        // A backup of the neutral, gray state would be of no use.
+        if (qmlModelInterface.isBackupOwed() && !qmlModelInterface.restoreSettingsBackup())
+            return fail("The camera's original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.")
+        // The first backup is what Cancel goes back to, the second takes the pictures of before and
+        // after.
         if (!qmlModelInterface.createSettingsBackup() || !qmlModelInterface.createSettingsBackup(true))
-            return false
+            return fail("The camera's settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.")
         if (initStep2())
             return true
         // The next attempt makes its backup of what the camera holds then.
-        qmlModelInterface.restoreSettingsBackup()
+        if (!closed)
+            qmlModelInterface.restoreSettingsBackup()
         return false
     }
 
     function leaveBrightness() {
         if (initStep3())
             return true
+        if (closed)
+            return false
         console.log("calibration failed: restore settings")
         camera.stopGrab()
         qmlModelInterface.restoreSettingsBackup()
@@ -102,14 +145,15 @@ Item {
         }
     }
 
-    function jumpPrev() {
+    function goBack() {
         if (active.step === iStep2) {
             camera.stopGrab()
             qmlModelInterface.restoreSettingsBackup()
         } else if (active.step === iStep3) {
             initStep2()
         }
-        moveTo(active.prev)
+        if (!closed)
+            moveTo(active.prev)
     }
 
     function initStep2() {
@@ -195,6 +239,13 @@ Item {
             return fail(tMsgErrImageTooDark)
         }
         return fail(qsTr("Calibration process failed.<br>"))
+    }
+
+    Connections {
+        target: qmlModelInterface
+        function onCleanupQML() {
+            bar.closed = true
+        }
     }
 
     height: 2 * margin + 2 * mDefaultPixelSize

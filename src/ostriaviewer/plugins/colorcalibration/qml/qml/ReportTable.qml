@@ -24,10 +24,23 @@ TableView {
         __horizontalScrollBar.value += step
     }
 
+    // Numbers of cameras may have more digits than a column has room for.
+    function shown(value) {
+        if (value === undefined)
+            return ""
+        if (!/^-?\d+\.\d{6,}$/.test(value))
+            return value
+        // A small value must not pass for none.
+        return Math.abs(value) < 0.0001 ? Number(value).toPrecision(5) : Number(value).toFixed(5)
+    }
+
     Keys.onLeftPressed: scrollSideways(-mTableColumnMinWidth)
     Keys.onRightPressed: scrollSideways(mTableColumnMinWidth)
     // The view keeps this key to itself as soon as a row is current.
-    Keys.onReturnPressed: navigation.jumpNext()
+    Keys.onReturnPressed: {
+        if (!event.isAutoRepeat)
+            navigation.jumpNext()
+    }
 
     rowDelegate: Rectangle {
         height: 1.8 * mDefaultPixelSize
@@ -46,7 +59,7 @@ TableView {
             elide: styleData.elideMode
             color: palette.text
             font.pixelSize: mDefaultPixelSize
-            text: styleData.value !== undefined ? styleData.value : ""
+            text: table.shown(styleData.value)
         }
     }
 
@@ -59,7 +72,7 @@ TableView {
             id: title
             x: margin / 2
             width: (wrapsHeader ? Math.min(parent.width, table.viewport.width) : parent.width)
-                   - margin
+                   - 0.8 * margin
             anchors.verticalCenter: parent.verticalCenter
             wrapMode: wrapsHeader ? Text.WordWrap : Text.NoWrap
             elide: wrapsHeader ? Text.ElideNone : Text.ElideRight

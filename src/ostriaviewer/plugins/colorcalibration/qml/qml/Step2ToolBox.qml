@@ -21,6 +21,9 @@ Item {
     }
 
     function runAutoAdjustGray80Percent() {
+        // The end of a run that another one replaces would enable the page in the middle of it.
+        if (!autoButton.enabled)
+            return
         checkTimer.updateImages = true
         setEnabled(false)
         if (qmlModelInterface.autoAdjustGray80PercentPatch())
@@ -236,7 +239,8 @@ Item {
         repeat: true
         interval: 500
         onTriggered: {
-            if (!updateImages || (controlsEnabled && autoRefreshChecked))
+            // A grab must not begin while the camera is led to another step.
+            if (stepBar.moving || !updateImages || (controlsEnabled && autoRefreshChecked))
                 return
             camera.singleGrab()
             updateImages = false

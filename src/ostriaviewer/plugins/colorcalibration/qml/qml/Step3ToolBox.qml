@@ -288,9 +288,15 @@ Item {
             page.fillJasonStatisticsToModel()
         }
         function onAutoAdjustGray80PercentPatchFinished() {
-            // Without results nothing else would enable the page again.
-            if (!Utility.autoCalibrate())
+            // The way to another step has ended the run.
+            if (stepBar.moving)
+                return
+            // Without results nothing else would enable the page again, and those of before are not
+            // those of the settings that the camera has now.
+            if (!Utility.autoCalibrate() && !stepBar.closed) {
                 page.setEnabled(true)
+                page.fillJasonStatisticsToModel()
+            }
             if (!autoRefreshChecked)
                 camera.singleGrab()
         }

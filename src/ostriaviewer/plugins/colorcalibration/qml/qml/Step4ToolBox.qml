@@ -235,7 +235,12 @@ Item {
     Connections {
         target: qmlModelInterface
         function onAutoAdjustGray80PercentPatchFinished() {
+            // The way to another step has ended the run.
+            if (stepBar.moving)
+                return
             Utility.autoCalibrate()
+            if (stepBar.closed)
+                return
             if (!autoRefreshChecked)
                 camera.singleGrab()
             page.setEnabled(true)

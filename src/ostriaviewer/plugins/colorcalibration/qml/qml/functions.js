@@ -64,6 +64,14 @@ function cleanUpQml() {
 // Calibrates again with the grid and the brightness as they are; the settings come back if it fails.
 // Returns whether it succeeded.
 function autoCalibrate() {
+    var succeeded = false
+    stepBar.runAlone(function() {
+        succeeded = calibrateAgain()
+    })
+    return succeeded
+}
+
+function calibrateAgain() {
     var errorText = ""
     if (!qmlModelInterface.applyInitialCameraImageAndPatchValues())
         errorText = qsTr("Unable to apply initial camera image and patch values.")
@@ -85,6 +93,8 @@ function autoCalibrate() {
     }
     if (success)
         return true
+    if (stepBar.closed)
+        return false
     console.log("Calibration process failed: Restore camera settings.")
     qmlModelInterface.restoreSettingsBackup()
     modelError.text = errorText

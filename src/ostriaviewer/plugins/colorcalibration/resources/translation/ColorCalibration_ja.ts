@@ -380,7 +380,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Capture a single image.</source>
-        <translation>画像を1枚取り込みます。</translation>
+        <translation>画像を1枚だけ取り込みます。</translation>
     </message>
     <message>
         <source>Exposure Time</source>
@@ -492,7 +492,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Use the slider to compare the colors in images before and after calibration.</source>
-        <translation>スライダーを使って、キャリブレーション前後の画像の色を比較します。</translation>
+        <translation>スライダーでキャリブレーション前後の画像の色を比較します。</translation>
     </message>
     <message>
         <source>Before Calibration</source>
@@ -564,7 +564,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Source</source>
-        <translation>ソース</translation>
+        <translation>項目</translation>
     </message>
     <message>
         <source>Blue</source>

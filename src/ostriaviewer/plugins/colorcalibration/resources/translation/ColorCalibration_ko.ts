@@ -380,7 +380,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Capture a single image.</source>
-        <translation>이미지를 한 장 획득합니다.</translation>
+        <translation>이미지를 한 장만 획득합니다.</translation>
     </message>
     <message>
         <source>Exposure Time</source>
@@ -564,7 +564,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Source</source>
-        <translation>소스</translation>
+        <translation>항목</translation>
     </message>
     <message>
         <source>Blue</source>

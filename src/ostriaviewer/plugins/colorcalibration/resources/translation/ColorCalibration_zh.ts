@@ -97,11 +97,11 @@
     </message>
     <message>
         <source>Color Adjustment Hue</source>
-        <translation>色彩调整色相</translation>
+        <translation>色彩调整：色相</translation>
     </message>
     <message>
         <source>Color Adjustment Saturation</source>
-        <translation>色彩调整饱和度</translation>
+        <translation>色彩调整：饱和度</translation>
     </message>
     <message>
         <source>Color Transformation</source>
@@ -179,11 +179,11 @@
     </message>
     <message>
         <source>Color Adjustment Hue</source>
-        <translation>色彩调整色相</translation>
+        <translation>色彩调整：色相</translation>
     </message>
     <message>
         <source>Color Adjustment Saturation</source>
-        <translation>色彩调整饱和度</translation>
+        <translation>色彩调整：饱和度</translation>
     </message>
     <message>
         <source>Color Transformation</source>
@@ -564,7 +564,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Source</source>
-        <translation>来源</translation>
+        <translation>项目</translation>
     </message>
     <message>
         <source>Blue</source>

@@ -26,10 +26,6 @@ struct ColorCorrectionAutoChartFinderResult
                lowerLeft == other.lowerLeft && lowerRight == other.lowerRight &&
                valid == other.valid;
     }
-    bool operator!=(const ColorCorrectionAutoChartFinderResult& other) const
-    {
-        return !(*this == other);
-    }
 };
 
 } // namespace ColorCalibration

@@ -82,6 +82,7 @@ public:
     /// Exposure time and gain as they were at StoreDetectedExposureAndGain.
     /// \return  false if nothing was stored
     virtual bool RestoreDetectedExposureAndGain() = 0;
+    /// Ends a brightness run that is still under way.
     virtual bool StoreDetectedExposureAndGain() = 0;
 
     /// Signal: brightness of the gray patch in percent of its goal.

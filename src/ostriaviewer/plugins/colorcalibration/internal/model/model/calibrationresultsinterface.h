@@ -31,7 +31,7 @@ public:
     virtual QJsonObject GetAvailableUserSetsJson() = 0;
 
     /// Stores the camera's settings in one of its user sets, now and again whenever the calibration
-    /// writes to the camera until it is closed.
+    /// writes to the camera until it is closed, be it neutral settings.
     /// \param name          as it is written
     /// \param setAsDefault  the camera starts with this set
     virtual bool StoreSettingsInUserSet(const QString& name, bool setAsDefault) = 0;

@@ -84,13 +84,13 @@ void CameraAutoBrightnessHelper::doWork()
 
 void CameraAutoBrightnessHelper::readLimits()
 {
+    const auto number = [this](const char* name) {
+        return m_parameters->floatParameter(QLatin1String(name))->value();
+    };
     if (isOldGeneration(*m_parameters)) {
         const auto integer = [this](const char* name) {
             return static_cast<double>(
                 m_parameters->integerParameter(QLatin1String(name))->value());
-        };
-        const auto number = [this](const char* name) {
-            return m_parameters->floatParameter(QLatin1String(name))->value();
         };
         m_gainScale = 10.0;
         m_gainLimits = {integer("AutoGainRawLowerLimit"), integer("AutoGainRawUpperLimit")};
@@ -98,9 +98,6 @@ void CameraAutoBrightnessHelper::readLimits()
                             number("AutoExposureTimeAbsUpperLimit")};
         return;
     }
-    const auto number = [this](const char* name) {
-        return m_parameters->floatParameter(QLatin1String(name))->value();
-    };
     m_gainLimits = {number("AutoGainLowerLimit"), number("AutoGainUpperLimit")};
     m_exposureLimits = {number("AutoExposureTimeLowerLimit"), number("AutoExposureTimeUpperLimit")};
 }

@@ -14,9 +14,10 @@ namespace ColorCalibration {
 
 /// The worker of one run: exposure time first, gain once exposure has reached a limit.
 ///
-/// Lives in a thread of its own and reaches the camera through the calibration alone, so that each
-/// of its steps takes the model's lock by itself. It never waits for that lock longer than until it
-/// is stopped, so that who holds the lock may wait for its end.
+/// Lives in a thread of its own and, once it has read the limits of the automatic functions,
+/// reaches the camera through the calibration alone, so that each of its steps takes the model's
+/// lock by itself. It never waits for that lock longer than until it is stopped, so that who holds
+/// the lock may wait for its end.
 class CameraAutoBrightnessHelper : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ public:
 
     /// Takes the camera with exclusive rights.
     /// \return  false if the rights are refused or the camera lacks what the calibration needs; it
-    ///          is given back as it was
+    ///          is given back as it was. False also while a camera is open, which stays so.
     virtual bool Open(const Core::CameraPoolComponents::CameraPtr& camera) = 0;
 
     /// Gives the camera back; it is closed if Open had to open it.
@@ -58,6 +58,10 @@ public:
 
     /// Writes a backup to the camera; nothing if there is none. True also without an open camera.
     virtual bool RestoreSettingsBackup(bool initialImage) = 0;
+
+    /// Whether the camera may hold other settings than the backup for giving it back, although no
+    /// calibration was written since. Answers for a lost camera, too, until it is closed.
+    virtual bool IsBackupOwed() const = 0;
 
     /// Chooses a monochrome pixel format if the camera has one.
     virtual void ActivateMonoImage() = 0;

@@ -4,6 +4,7 @@
 
 #include "baseexception.h"
 #include "brightnessrun.h"
+#include "colormatrixwriter.h"
 #include "genicamexception.h"
 #include "logging.h"
 #include "parameterwrites.h"
@@ -14,7 +15,6 @@
 
 #include <array>
 #include <cmath>
-#include <utility>
 
 using Core::CameraPoolComponents::CameraPtr;
 using Core::ParameterCollection::ParameterCollectionPtr;
@@ -24,6 +24,7 @@ namespace ColorCalibration {
 namespace {
 
 constexpr int sectors = 6;
+
 constexpr std::array<const char*, sectors> sectorNames{"Red",  "Yellow", "Green",
                                                        "Cyan", "Blue",   "Magenta"};
 
@@ -36,7 +37,6 @@ const Name adjustmentSelector(
 const Name adjustmentHue("@CameraDevice/ColorAdjustmentHue|@CameraDevice/TvrColorAdjustmentHue");
 const Name adjustmentSaturation(
     "@CameraDevice/ColorAdjustmentSaturation|@CameraDevice/TvrColorAdjustmentSaturation");
-const QString cameraNodeMap = QStringLiteral("@CameraDevice");
 
 void log(const QString& text, Core::Logging::ELogLevel level = Core::Logging::Debug)
 {
@@ -44,8 +44,8 @@ void log(const QString& text, Core::Logging::ELogLevel level = Core::Logging::De
     Core::Logging::createLogEntry(level, category, text);
 }
 
-/// The camera is asked once more: an answer that changes between two questions comes from a camera
-/// that is going away.
+/// For collections that read the version from the camera each time it is asked for: an answer that
+/// changes between two questions comes from a camera that is going away.
 void requireNewGeneration(const Core::ParameterCollection::IParameterCollection& parameters)
 {
     if (isOldGeneration(parameters))
@@ -53,46 +53,18 @@ void requireNewGeneration(const Core::ParameterCollection::IParameterCollection&
 }
 
 /// A computation that went wrong must leave the camera as it is.
+/// \param feature  whose values they are
 template <typename Values>
-void requireFinite(const Values& values)
+void requireFinite(const Values& values, Name feature)
 {
     for (const double value : values)
         if (!std::isfinite(value))
             throw Core::Exception::BaseException(
-                QStringLiteral("A value for the camera is not a finite number."));
+                QStringLiteral("The measured colors give no usable %1, so the camera's was kept. "
+                               "Check that the grid lies on the chart and that the chart is lit, "
+                               "then calibrate again.")
+                    .arg(feature));
 }
-
-/// Writes the nine gains of the colour transformation.
-class MatrixWriter
-{
-public:
-    explicit MatrixWriter(Core::ParameterCollection::IParameterCollection& parameters)
-        : m_selector(parameters.enumerationParameter(
-              Name("@CameraDevice/ColorTransformationValueSelector")))
-        , m_value(parameters.floatParameter(Name("@CameraDevice/ColorTransformationValue")))
-    {}
-
-    void writeRow(const ColorMatrix& matrix, int row) const
-    {
-        const int first = row == 0 ? 1 : 0;
-        const int second = row == 2 ? 1 : 2;
-        const double a = writeGain(row, first, matrix(row, first));
-        const double b = writeGain(row, second, matrix(row, second));
-        writeGain(row, row, 1.0 - a - b);
-    }
-
-private:
-    /// \return  what the camera has made of it
-    double writeGain(int row, int column, double gain) const
-    {
-        m_selector->trySetValue(QStringLiteral("Gain%1%2").arg(row).arg(column));
-        m_value->trySetValue(gain);
-        return m_value->valueOrDefault(0.0);
-    }
-
-    Core::ParameterCollection::EnumerationParameterPtr m_selector;
-    Core::ParameterCollection::FloatParameterPtr m_value;
-};
 
 } // namespace
 
@@ -133,6 +105,7 @@ void CameraJustify::SetGammaNeutral()
 
 void CameraJustify::WriteGamma(double gamma, bool enable)
 {
+    requireFinite(std::array<double, 1>{gamma}, Name("Gamma"));
     const ParameterCollectionPtr collection = parameters();
     const ParameterWrites write(collection);
     if (isOldGeneration(*collection)) {
@@ -159,7 +132,7 @@ void CameraJustify::WriteSrgbGamma(bool enable)
 
 void CameraJustify::WriteColorMatrix(const ColorMatrix& matrix)
 {
-    requireFinite(matrix);
+    requireFinite(matrix, Name("ColorTransformationValue"));
     const ParameterCollectionPtr collection = parameters();
     const ParameterWrites write(collection);
     bool hasTransformation = true;
@@ -175,11 +148,14 @@ void CameraJustify::WriteColorMatrix(const ColorMatrix& matrix)
         if (!preset->isEmpty())
             preset->setValue(Name("Off"));
     }
-    if (hasTransformation) {
-        const MatrixWriter writer(*collection);
-        for (int row = 0; row < 3; ++row)
-            writer.writeRow(matrix, row);
-    }
+    const ColorMatrixWriter writer(*collection);
+    if (hasTransformation)
+        writer.write(matrix);
+    const bool isLost = !hasTransformation || writer.isMissing();
+    if (isLost && matrix != ColorMatrix(dlib::identity_matrix<double>(3)))
+        log(Name("The camera has no color matrix, so the computed one is not in the camera, and "
+                 "its colors stay less exact than they could be."),
+            Core::Logging::Warning);
     persistToUserSet();
 }
 
@@ -195,7 +171,9 @@ void CameraJustify::SetColorTransformationNeutral()
 
 void CameraJustify::WriteColorAdjustment(const ColorAdjustment& adjustment)
 {
-    requireFinite(adjustment);
+    requireFinite(dlib::rowm(adjustment, dlib::range(0, sectors - 1)), Name("ColorAdjustmentHue"));
+    requireFinite(dlib::rowm(adjustment, dlib::range(sectors, 2 * sectors - 1)),
+                  Name("ColorAdjustmentSaturation"));
     const ParameterCollectionPtr collection = parameters();
     if (isOldGeneration(*collection)) {
         const ParameterWrites write(collection);
@@ -239,7 +217,7 @@ void CameraJustify::SetWhiteBalanceNeutral()
 
 void CameraJustify::WriteWhiteBalance(double red, double green, double blue)
 {
-    requireFinite(std::array<double, 3>{red, green, blue});
+    requireFinite(std::array<double, 3>{red, green, blue}, Name("BalanceRatio"));
     const ParameterCollectionPtr collection = parameters();
     const auto selector = collection->enumerationParameter(Name("BalanceRatioSelector"));
     const bool old = isOldGeneration(*collection);
@@ -296,9 +274,25 @@ void CameraJustify::DisableExposureAndGainAuto()
 
 void CameraJustify::DisableTestImage()
 {
-    const ParameterWrites write(parameters());
-    write.guardedEntry(Name("TestImageSelector"), Name("Off"));
-    write.guardedEntry(Name("TestPattern"), Name("Off"));
+    const ParameterCollectionPtr collection = parameters();
+    const ParameterWrites write(collection);
+    for (const Name name : {Name("TestImageSelector"), Name("TestPattern")}) {
+        const auto before = collection->enumerationParameter(name);
+        const QString entry = before->isReadable() ? before->value() : QString();
+        if (write.guardedEntry(name, Name("Off")) && !entry.isEmpty() && entry != Name("Off"))
+            m_testImages.append({name, entry});
+    }
+}
+
+void CameraJustify::RestoreTestImage()
+{
+    const auto replaced = std::exchange(m_testImages, {});
+    for (const auto& [name, entry] : replaced)
+        if (!parameters()->enumerationParameter(name)->trySetValue(entry))
+            log(QStringLiteral(
+                    "The camera's test image stays off: %1 cannot be set to \"%2\" again.")
+                    .arg(name, entry),
+                Core::Logging::Warning);
 }
 
 void CameraJustify::ActivateMonoPixelFormat()
@@ -313,8 +307,12 @@ void CameraJustify::StartAutoBrightness(CalibrationInterface* calibration, QRecu
     const QMutexLocker guard(&m_brightnessRunMutex);
     StopAutoBrightness();
     m_brightnessRun = std::make_unique<BrightnessRun>(calibration, parameters(), lock);
+    // The word of a run that is replaced may still be under way.
     connect(m_brightnessRun->worker(), &CameraAutoBrightnessHelper::AutoBrightnessFinished, this,
-            &CameraJustify::AutoBrightnessFinished);
+            [this, run = ++m_brightnessRuns] {
+                if (run == m_brightnessRuns)
+                    emit AutoBrightnessFinished();
+            });
     m_brightnessRun->start();
 }
 
@@ -322,77 +320,6 @@ void CameraJustify::StopAutoBrightness()
 {
     const QMutexLocker guard(&m_brightnessRunMutex);
     m_brightnessRun.reset();
-}
-
-QString& CameraJustify::backup(bool initial)
-{
-    return initial ? m_initialBackup : m_backup;
-}
-
-void CameraJustify::CreateBackup(bool initial)
-{
-    backup(initial).clear();
-    backup(initial) = SaveFeaturesToString();
-}
-
-void CameraJustify::RestoreBackup(bool initial)
-{
-    if (backup(initial).isEmpty())
-        return;
-    applyFeatures(backup(initial),
-                  "Not all settings of the camera came back; the first that did not: %1");
-}
-
-QString CameraJustify::BackupText(bool initial) const
-{
-    return initial ? m_initialBackup : m_backup;
-}
-
-QString CameraJustify::SaveFeaturesToString()
-{
-    QString text;
-    parameters()->saveFeatures(text, cameraNodeMap);
-    return text;
-}
-
-void CameraJustify::LoadFeaturesFromString(const QString& text)
-{
-    applyFeatures(text, "Not all settings were loaded; the first that was not: %1");
-}
-
-void CameraJustify::applyFeatures(const QString& text, const char* remark)
-{
-    QString errors;
-    parameters()->loadFeatures(text, errors, cameraNodeMap);
-    if (!errors.isEmpty())
-        log(QString::fromLatin1(remark).arg(errors.section(QLatin1Char('\n'), 0, 0)),
-            Core::Logging::Warning);
-}
-
-void CameraJustify::StoreInUserSet(const QString& name, bool store, bool setAsDefault)
-{
-    const auto start = parameters()->enumerationParameter(Name("UserSetDefault"));
-    const QString startBefore = start->isReadable() ? start->value() : QString();
-    const UserSetChoice before = std::exchange(m_userSet, {name, store, setAsDefault});
-    try {
-        persistToUserSet();
-    } catch (...) {
-        m_userSet = before;
-        if (setAsDefault && !startBefore.isEmpty())
-            start->trySetValue(startBefore);
-        throw;
-    }
-}
-
-void CameraJustify::persistToUserSet()
-{
-    if (!m_userSet.isArmed)
-        return;
-    const ParameterCollectionPtr collection = parameters();
-    collection->enumerationParameter(Name("UserSetSelector"))->setValue(m_userSet.name);
-    if (m_userSet.isDefault)
-        collection->enumerationParameter(Name("UserSetDefault"))->setValue(m_userSet.name);
-    collection->commandParameter(Name("UserSetSave"))->execute();
 }
 
 } // namespace ColorCalibration

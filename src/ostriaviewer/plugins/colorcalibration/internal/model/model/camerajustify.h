@@ -8,6 +8,11 @@
 #include <QObject>
 #include <QRecursiveMutex>
 #include <QString>
+#include <QVector>
+
+#include <atomic>
+#include <memory>
+#include <utility>
 
 namespace ColorCalibration {
 
@@ -45,6 +50,10 @@ public:
     void DisableExposureAndGainAuto();
     void DisableTestImage();
 
+    /// Brings the test images back that DisableTestImage has switched off, once. One that the
+    /// camera refuses is logged.
+    void RestoreTestImage();
+
     /// The best monochrome format that the camera has; nothing if it has none.
     void ActivateMonoPixelFormat();
 
@@ -77,7 +86,15 @@ public:
     void CreateBackup(bool initial);
 
     /// Writes a backup to the camera; nothing if it is empty. What the camera refuses is logged.
+    /// A normal backup stays owed until it has come back whole, and is written again with the next
+    /// one, whenever that was made.
     void RestoreBackup(bool initial);
+
+    /// To be told before settings change that the normal backup is to bring back.
+    void OweBackup();
+
+    /// \return  whether the camera may hold other settings than a normal backup that was made
+    bool IsBackupOwed() const;
 
     /// \param initial  which of the two backups
     /// \return  feature stream text; empty if there is none
@@ -86,12 +103,13 @@ public:
     /// \return  all settings as feature stream text
     QString SaveFeaturesToString();
 
-    /// Lines that the camera refuses are skipped.
+    /// Lines that the camera refuses are skipped, and each of them is logged.
     void LoadFeaturesFromString(const QString& text);
 
     /// Stores the settings in a user set, now and again after each group that is written later. If
-    /// that fails the camera starts with the set that it started with before, and later groups
-    /// store where they did before.
+    /// that fails selector and start-up set are those of before, and later groups store where they
+    /// did before; if the camera refuses its start-up set, what is thrown says so. The first later
+    /// group that stores again is logged, as it may be a neutral one.
     ///
     /// \param name          of the user set
     ///
@@ -101,7 +119,8 @@ public:
     void StoreInUserSet(const QString& name, bool store, bool setAsDefault);
 
 signals:
-    /// A brightness run has ended.
+    /// A brightness run has ended, of itself or because it was stopped. That of a run which another
+    /// one has replaced is not told.
     void AutoBrightnessFinished();
 
 private:
@@ -111,20 +130,32 @@ private:
         QString name = QStringLiteral("UserSet1");
         bool isArmed = false;
         bool isDefault = false;
+        /// The next group replaces what was stored, which the user has not been told yet.
+        bool isReplacementUntold = false;
     };
 
     Core::ParameterCollection::ParameterCollectionPtr parameters() const;
     QString& backup(bool initial);
-    /// Logs the first line that the camera refused.
-    void applyFeatures(const QString& text, const char* remark);
+    /// Logs a remark on each line that the camera refused.
+    /// \return  false if there are such lines
+    bool applyFeatures(const QString& text, const char* remark);
+    /// \return  empty if it cannot be read
+    QString presentEntry(const QString& name) const;
+    /// \param entry  empty: nothing to do
+    /// \return  false if the camera did not take it
+    bool restoreEntry(const QString& name, const QString& entry) const;
     void persistToUserSet();
 
     Core::CameraPoolComponents::CameraPtr m_camera;
     QString m_backup;
     QString m_initialBackup;
+    /// A normal backup that has not come back whole yet.
+    QString m_owedBackup;
     std::unique_ptr<BrightnessRun> m_brightnessRun;
     QRecursiveMutex m_brightnessRunMutex;
+    std::atomic_uint m_brightnessRuns{0};
     UserSetChoice m_userSet;
+    QVector<std::pair<QString, QString>> m_testImages; ///< features and what they were
 };
 
 } // namespace ColorCalibration

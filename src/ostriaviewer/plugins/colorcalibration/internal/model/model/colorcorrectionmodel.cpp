@@ -110,6 +110,11 @@ bool ColorCorrectionModel::RestoreSettingsBackup(bool initialImage)
     return m_impl->RestoreSettingsBackup(initialImage);
 }
 
+bool ColorCorrectionModel::IsBackupOwed() const
+{
+    return m_impl->IsBackupOwed();
+}
+
 void ColorCorrectionModel::ActivateMonoImage()
 {
     m_impl->ActivateMonoImage();

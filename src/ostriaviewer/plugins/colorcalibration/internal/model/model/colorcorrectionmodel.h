@@ -39,7 +39,7 @@ public:
     CalibrationSettings LastCalibration() const;
 
     /// How many images this object has taken. Where an operation goes on without a new image, the
-    /// number stays.
+    /// number stays; of a camera that is grabbing continuously the newest image counts each time.
     quint64 TakenImages() const;
 
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
@@ -51,6 +51,7 @@ public:
     bool SetNeutralSettings() override;
     bool CreateSettingsBackup(bool initialImage) override;
     bool RestoreSettingsBackup(bool initialImage) override;
+    bool IsBackupOwed() const override;
     void ActivateMonoImage() override;
 
     bool AutoAdjustGray80PercentPatch() override;

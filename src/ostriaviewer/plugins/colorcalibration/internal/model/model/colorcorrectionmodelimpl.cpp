@@ -108,8 +108,11 @@ bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
 void ColorCorrectionModelImpl::openHandle(const CameraPtr& camera)
 {
     m_connectionLost = false;
+    m_isCalibrationKept = false;
     // What belongs to the camera before.
     m_latestImage = Image();
+    m_initialImage = Image();
+    m_currentColors.clear();
     m_detectedGain = -1.0;
     m_detectedExposure = -1.0;
     CameraPtr handle;
@@ -141,14 +144,19 @@ void ColorCorrectionModelImpl::attachHandle(const CameraPtr& camera, const Camer
     connect(m_justify.get(), &CameraJustify::AutoBrightnessFinished, this,
             &ColorCorrectionModelImpl::AutoAdjustGray80PercentPatchFinished);
     m_result = std::make_unique<CalibrationResult>(camera->modelName());
-    connectParameterSignals();
-    // The news may still be under way when this camera is closed and the next one is open.
+    // The news may still be under way when this camera is closed and the next one is open. Listened
+    // for before the parameters are asked for, which fails where the connection is lost already.
     const unsigned opening = ++m_openings;
     connect(handle.data(), &ICamera::cameraConnectionLost, this, [this, opening] {
         if (opening == m_openings)
             onConnectionLost();
     });
+    connectParameterSignals();
     restoreLastGridPosition();
+    // Nobody would ever be told of a loss that has happened before.
+    if (!handle->isOpen())
+        throw Core::Exception::BaseException(
+            QStringLiteral("The camera has closed while it was being opened."));
 }
 
 void ColorCorrectionModelImpl::abandonOpening()
@@ -179,6 +187,8 @@ bool ColorCorrectionModelImpl::Close()
 /// as an image may be on its way.
 void ColorCorrectionModelImpl::releaseCamera()
 {
+    if (!m_isCalibrationKept)
+        restoreTestImage();
     disconnectParameterSignals();
     m_result.reset();
     m_resultsObject = {};
@@ -198,6 +208,17 @@ void ColorCorrectionModelImpl::releaseCamera()
     disconnect(handle.data(), &ICamera::cameraConnectionLost, this, nullptr);
     if (handle->isOpen() && !m_attachedToOpenCamera && m_controlService)
         m_controlService->close(camera);
+}
+
+/// The backups were made without it, as no step can work on a test image.
+void ColorCorrectionModelImpl::restoreTestImage()
+{
+    if (!m_justify || !isCameraOpen())
+        return;
+    guarded("", "ColorCorrectionModelImpl::restoreTestImage", false, [this] {
+        m_justify->RestoreTestImage();
+        return true;
+    });
 }
 
 void ColorCorrectionModelImpl::onConnectionLost()

@@ -54,7 +54,7 @@ public:
     CalibrationSettings LastCalibration() const;
 
     /// How many images this object has taken. Where an operation goes on without a new image, the
-    /// number stays.
+    /// number stays; of a camera that is grabbing continuously the newest image counts each time.
     quint64 TakenImages() const;
 
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
@@ -66,6 +66,7 @@ public:
     bool SetNeutralSettings() override;
     bool CreateSettingsBackup(bool initialImage) override;
     bool RestoreSettingsBackup(bool initialImage) override;
+    bool IsBackupOwed() const override;
     void ActivateMonoImage() override;
 
     bool AutoAdjustGray80PercentPatch() override;
@@ -119,6 +120,10 @@ private:
     void attachHandle(const CameraPtr& camera, const CameraPtr& handle);
     void abandonOpening();
     void releaseCamera();
+    void restoreTestImage();
+
+    /// Settings are about to be written that neither a calibration found nor the user chose.
+    void beginChange();
 
     /// What was measured belongs to settings that the camera will not have any more.
     void forgetMeasurement();
@@ -147,6 +152,8 @@ private:
     QPointer<ConvertingImageCamera> m_imageCamera;
     bool m_attachedToOpenCamera = false;
     bool m_connectionLost = false;
+    /// Nothing has been restored since the last calibration.
+    bool m_isCalibrationKept = false;
     std::atomic_uint m_openings{0};
     std::shared_ptr<CameraJustify> m_justify;
     /// Guards the pointer m_justify alone, for those who must not wait for a grab.

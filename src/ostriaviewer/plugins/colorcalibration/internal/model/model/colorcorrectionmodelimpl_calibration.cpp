@@ -208,6 +208,7 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                                                     toPatchColors(m_neutralColors, false));
                        m_calibration->ExecuteAll();
                        writeCalibration();
+                       m_isCalibrationKept = true;
                        emit CalibrationFinished();
                        return true;
                    });

@@ -7,6 +7,7 @@
 #include "camerajustify.h"
 #include "guarded.h"
 #include "patchresults.h"
+#include "storableusersets.h"
 
 #include <QJsonArray>
 #include <QMutexLocker>
@@ -48,7 +49,8 @@ QJsonObject ColorCorrectionModelImpl::collectResults()
 
 bool ColorCorrectionModelImpl::haveResults()
 {
-    if (m_resultsObject.isEmpty())
+    // Without patches they were fetched when there was no image, and there may be one by now.
+    if (m_resultsObject.value(QStringLiteral("Colors")).toObject().isEmpty())
         GetCalibrationResultsJson();
     return !m_resultsObject.isEmpty();
 }
@@ -69,12 +71,9 @@ QJsonArray ColorCorrectionModelImpl::userSets() const
     const auto parameters = m_imageCamera->ParameterCollection();
     if (!parameters)
         throw Core::Exception::BaseException(QStringLiteral("The camera is closed."));
-    const auto selector = parameters->enumerationParameter(QStringLiteral("UserSetSelector"));
     QJsonArray sets;
-    for (const EnumerationEntry& entry : selector->entries()) {
-        if (entry.isSettable && entry.name.contains(QLatin1String("userset"), Qt::CaseInsensitive))
-            sets.append(QJsonObject{{entry.displayName, entry.name}});
-    }
+    for (const EnumerationEntry& entry : storableUserSets(*parameters))
+        sets.append(QJsonObject{{entry.displayName, entry.name}});
     return sets;
 }
 

@@ -2,6 +2,7 @@
 // The model's care for settings: neutral state, backups, exposure and gain, the grid's position.
 #include "colorcorrectionmodelimpl.h"
 
+#include "baseexception.h"
 #include "camerajustify.h"
 #include "chartdiscriminator.h"
 #include "guarded.h"
@@ -9,6 +10,7 @@
 #include "settingsfile.h"
 #include "truncate.h"
 
+#include <QDir>
 #include <QIODevice>
 #include <QMutexLocker>
 #include <QPointF>
@@ -70,12 +72,28 @@ void beginGridGroup(QSettings& settings, const QString& modelName)
     settings.beginGroup(QStringLiteral("GridPosition %1").arg(modelName));
 }
 
+/// Settings are written behind the caller's back, so nobody would notice that they were not.
+void requireStored(QSettings& settings)
+{
+    settings.sync();
+    if (settings.status() != QSettings::NoError)
+        throw Core::Exception::BaseException(
+            QStringLiteral("The settings cannot be written to \"%1\".")
+                .arg(QDir::toNativeSeparators(settings.fileName())));
+}
+
 } // namespace
 
 void ColorCorrectionModelImpl::forgetMeasurement()
 {
     m_latestImage = Image();
     m_discriminator->setOutline(m_discriminator->outline());
+}
+
+void ColorCorrectionModelImpl::beginChange()
+{
+    m_isCalibrationKept = false;
+    justify().OweBackup();
 }
 
 bool ColorCorrectionModelImpl::StopGrabbing()
@@ -99,6 +117,7 @@ bool ColorCorrectionModelImpl::LoadSettings(const QString& settings)
                            return true;
                        m_imageCamera->StopGrabbing();
                        forgetMeasurement();
+                       beginChange();
                        justify().LoadFeaturesFromString(settings);
                        return true;
                    });
@@ -124,6 +143,7 @@ bool ColorCorrectionModelImpl::SetNeutralSettings()
                            return true;
                        m_imageCamera->StopGrabbing();
                        forgetMeasurement();
+                       beginChange();
                        justify().SetBlackLevelNeutral();
                        justify().SetGammaNeutral();
                        justify().SetColorTransformationNeutral();
@@ -158,6 +178,7 @@ bool ColorCorrectionModelImpl::RestoreSettingsBackup(bool initialImage)
     const QMutexLocker lock(&m_mutex);
     return guarded("Error: Restore of camera settings failed.",
                    "ColorCorrectionModelImpl::RestoreSettingsBackup", false, [&] {
+                       m_isCalibrationKept = false;
                        if (!isCameraOpen())
                            return true;
                        m_imageCamera->StopGrabbing();
@@ -165,6 +186,12 @@ bool ColorCorrectionModelImpl::RestoreSettingsBackup(bool initialImage)
                        justify().RestoreBackup(initialImage);
                        return true;
                    });
+}
+
+bool ColorCorrectionModelImpl::IsBackupOwed() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_justify && !m_isCalibrationKept && m_justify->IsBackupOwed();
 }
 
 void ColorCorrectionModelImpl::ActivateMonoImage()
@@ -271,6 +298,8 @@ double ColorCorrectionModelImpl::GetGain()
 
 bool ColorCorrectionModelImpl::StoreDetectedExposureAndGain()
 {
+    // Values in the middle of a search are none that were found.
+    stopBrightnessRun();
     const QMutexLocker lock(&m_mutex);
     m_detectedGain = GetGain();
     m_detectedExposure = GetExposureTime();
@@ -346,6 +375,7 @@ void ColorCorrectionModelImpl::storeLastGridPosition()
                     settings.setValue(QLatin1String(corner.key),
                                       QPointF(point.x() / width, point.y() / height));
                 }
+                requireStored(settings);
                 return true;
             });
 }

@@ -106,7 +106,8 @@ bool ConvertingImageCamera::GrabSingle(Image& image, bool triggered)
             timeoutMs = firstGrabTimeoutMs;
     }
     bool inTime = true;
-    // Whatever the event loop lets through may end this object.
+    // The event loop lets through whatever its thread has to do, closing the camera included, and
+    // that deletes this object.
     const QPointer<ConvertingImageCamera> self(this);
     const CameraPtr camera = reachableCamera();
     if (camera && !camera->isGrabbing())
@@ -137,15 +138,27 @@ bool ConvertingImageCamera::waitForImage(const CameraPtr& camera, int timeoutMs,
     connect(camera.data(), &ICamera::cameraConnectionLost, &loop, &QEventLoop::quit,
             Qt::QueuedConnection);
     connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    const QPointer<ConvertingImageCamera> self(this);
+    const quint64 before = receivedImages();
     const bool accepted = triggered ? camera->grabSingle(timeoutMs) : camera->grabSingle();
     if (!accepted)
         return false;
     timer.start(timeoutMs);
     loop.exec();
+    // An image may be in the middle of its conversion, which a busy machine makes long.
+    if (arrived || (self && receivedImages() != before))
+        return true;
     // Else the image of this request could be taken for that of the next one.
-    if (!arrived && camera->isOpen())
+    if (camera->isOpen())
         camera->stopGrabbing();
-    return arrived;
+    return false;
+}
+
+// Waits for the end of a conversion.
+quint64 ConvertingImageCamera::receivedImages() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_received;
 }
 
 void ConvertingImageCamera::onCameraImageGrabbed(CameraInfoPtr /*camera*/,
@@ -157,6 +170,7 @@ void ConvertingImageCamera::onCameraImageGrabbed(CameraInfoPtr /*camera*/,
     Image image;
     if (!convert(result->image(), image))
         return;
+    ++m_received;
     m_writeIndex = (m_writeIndex - 1) & 1;
     m_buffers[static_cast<std::size_t>(m_writeIndex)] = image;
     emit imageGrabbed();

@@ -41,7 +41,8 @@ public:
 
     /// One image: a new one from a camera that is not grabbing, the newest from one that is.
     /// The first image is given 200 ms, so that a camera that does not deliver is found out soon,
-    /// each later one 5 s.
+    /// each later one 5 s. If its conversion has begun within that time it counts, however long
+    /// that takes.
     /// \param image      receives the image; an invalid one without a handle
     /// \param triggered  gives the camera the same limit instead of its own
     /// The event loop may let a call through that deletes this object; that ends the wait too.
@@ -62,6 +63,7 @@ private:
     Core::CameraPoolComponents::CameraPtr reachableCamera() const;
     bool waitForImage(const Core::CameraPoolComponents::CameraPtr& camera, int timeoutMs,
                       bool triggered);
+    quint64 receivedImages() const;
     bool convert(const Ostria::COstriaImage& source, Image& target);
     bool toMeasuring(const Ostria::COstriaImage& source, Ostria::COstriaImage& target);
     bool toDisplay(const Ostria::COstriaImage& source, Image& target);
@@ -71,6 +73,7 @@ private:
     Core::CameraPoolComponents::CameraPtr m_camera;
     std::array<Image, 2> m_buffers;
     int m_writeIndex = 0;
+    quint64 m_received = 0;
     bool m_connectionLost = false;
     bool m_firstGrab = true;
     mutable QRecursiveMutex m_mutex;

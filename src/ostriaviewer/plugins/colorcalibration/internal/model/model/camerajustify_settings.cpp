@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: Apache-2.0
+// The camera adapter's care for whole states: backups, settings texts, user sets.
+#include "camerajustify.h"
+
+#include "baseexception.h"
+#include "genicamexception.h"
+#include "logging.h"
+#include "reportfailure.h"
+
+#include <QStringList>
+
+#include <exception>
+#include <utility>
+
+using Core::ParameterCollection::ParameterCollectionPtr;
+
+namespace ColorCalibration {
+namespace {
+
+const QString cameraNodeMap = QStringLiteral("@CameraDevice");
+const QString setSelectorName = QStringLiteral("UserSetSelector");
+const QString startSetName = QStringLiteral("UserSetDefault");
+
+const char* const restoreRemark = "A setting of the camera did not come back: %1";
+
+/// More than any camera's settings file has lines that could be wrong, and few enough to read.
+constexpr int mostRemarks = 200;
+
+void warn(const QString& text)
+{
+    static const Core::Logging::CatId category = Core::Logging::getCatId(adapterLogCategory());
+    Core::Logging::createLogEntry(Core::Logging::Warning, category, text);
+}
+
+} // namespace
+
+QString& CameraJustify::backup(bool initial)
+{
+    return initial ? m_initialBackup : m_backup;
+}
+
+void CameraJustify::CreateBackup(bool initial)
+{
+    backup(initial).clear();
+    backup(initial) = SaveFeaturesToString();
+}
+
+void CameraJustify::RestoreBackup(bool initial)
+{
+    if (backup(initial).isEmpty())
+        return;
+    if (initial) {
+        applyFeatures(m_initialBackup, restoreRemark);
+        return;
+    }
+    OweBackup();
+    // A backup that was made of a state which had not come back whole does not know the settings
+    // that were missing.
+    if (m_backup != m_owedBackup)
+        applyFeatures(m_backup, restoreRemark);
+    if (applyFeatures(m_owedBackup, restoreRemark))
+        m_owedBackup.clear();
+}
+
+void CameraJustify::OweBackup()
+{
+    if (m_owedBackup.isEmpty())
+        m_owedBackup = m_backup;
+}
+
+bool CameraJustify::IsBackupOwed() const
+{
+    return !m_owedBackup.isEmpty();
+}
+
+QString CameraJustify::BackupText(bool initial) const
+{
+    return initial ? m_initialBackup : m_backup;
+}
+
+QString CameraJustify::SaveFeaturesToString()
+{
+    QString text;
+    parameters()->saveFeatures(text, cameraNodeMap);
+    return text;
+}
+
+void CameraJustify::LoadFeaturesFromString(const QString& text)
+{
+    applyFeatures(text, "A setting was not loaded: %1");
+}
+
+bool CameraJustify::applyFeatures(const QString& text, const char* remark)
+{
+    QString errors;
+    parameters()->loadFeatures(text, errors, cameraNodeMap);
+    const QStringList lines = errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QString& line : lines.mid(0, mostRemarks))
+        warn(QString::fromLatin1(remark).arg(line));
+    if (lines.size() > mostRemarks)
+        warn(QStringLiteral("At least %1 more lines of settings were skipped.")
+                 .arg(lines.size() - mostRemarks));
+    return lines.isEmpty();
+}
+
+void CameraJustify::StoreInUserSet(const QString& name, bool store, bool setAsDefault)
+{
+    const QString selectedBefore = store ? presentEntry(setSelectorName) : QString();
+    const QString startBefore = store && setAsDefault ? presentEntry(startSetName) : QString();
+    const UserSetChoice before = std::exchange(m_userSet, {name, store, setAsDefault});
+    try {
+        persistToUserSet();
+        m_userSet.isReplacementUntold = true;
+    } catch (const std::exception& failure) {
+        m_userSet = before;
+        restoreEntry(setSelectorName, selectedBefore);
+        if (restoreEntry(startSetName, startBefore))
+            throw;
+        throw Core::Exception::BaseException(
+            QStringLiteral("The camera may start with the user set \"%1\", which was not saved: it "
+                           "could not be told to start with \"%2\" again. %3")
+                .arg(name, startBefore, QString::fromUtf8(failure.what())));
+    }
+}
+
+QString CameraJustify::presentEntry(const QString& name) const
+{
+    try {
+        const auto parameter = parameters()->enumerationParameter(name);
+        return parameter->isReadable() ? parameter->value() : QString();
+    } catch (const GenICam::RuntimeException&) {
+        // Nothing to come back to is no reason not to go on.
+        return {};
+    }
+}
+
+bool CameraJustify::restoreEntry(const QString& name, const QString& entry) const
+{
+    if (entry.isEmpty())
+        return true;
+    const ParameterCollectionPtr collection =
+        m_camera ? m_camera->parameterCollection() : ParameterCollectionPtr();
+    return collection && collection->enumerationParameter(name)->trySetValue(entry);
+}
+
+void CameraJustify::persistToUserSet()
+{
+    if (!m_userSet.isArmed)
+        return;
+    const ParameterCollectionPtr collection = parameters();
+    collection->enumerationParameter(setSelectorName)->setValue(m_userSet.name);
+    if (m_userSet.isDefault)
+        collection->enumerationParameter(startSetName)->setValue(m_userSet.name);
+    collection->commandParameter(QStringLiteral("UserSetSave"))->execute();
+    if (std::exchange(m_userSet.isReplacementUntold, false))
+        warn(QStringLiteral("The user set \"%1\" follows the camera's settings until the camera is "
+                            "closed: what was stored in it has just been replaced. Store it anew "
+                            "when the calibration is done.")
+                 .arg(m_userSet.name));
+}
+
+} // namespace ColorCalibration
