@@ -108,19 +108,6 @@ void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
                 .arg(camera->displayName()));
 }
 
-/// What the camera cannot use of the user's file is passed over, but not in silence.
-void checkPreviousSettings(const Cameras::HostCameraPtr& camera, const SequenceOptions& options,
-                           std::ostream& err)
-{
-    if (options.previousSettings.isEmpty())
-        return;
-    const int count = countForeignSettings(options.previousSettings, options.previousFile,
-                                           *camera->parameterCollection());
-    if (count > 0)
-        err << options.previousFile.toStdString() << ": " << count
-            << " settings are of features that the camera has not; they are skipped\n";
-}
-
 Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera,
                  const SequenceOptions& options, SavingOptions saving, std::ostream& err)
 {
@@ -130,7 +117,9 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     SettingsGuard guard(camera);
     requireSupported(cameras, camera);
     resolveUserSet(camera, saving);
-    checkPreviousSettings(camera, options, err);
+    if (!options.previousSettings.isEmpty())
+        requireOwnSettings(options.previousSettings, options.previousFile,
+                           *camera->parameterCollection());
     report.sfnc = camera->parameterCollection()->sfncVersion().toString();
 
     const Interruption interruption;
@@ -141,7 +130,11 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
         if (isShown)
             err << step.toStdString() << std::endl;
     };
-    CalibrationSequence sequence(model, progress, [] { return Interruption::isRequested(); });
+    const auto warn = [&err](const QString& warning) {
+        err << warning.toStdString() << std::endl;
+    };
+    CalibrationSequence sequence(
+        model, progress, [] { return Interruption::isRequested(); }, warn);
     try {
         report.result = sequence.run(camera, options);
     } catch (const CommandError& error) {
@@ -192,7 +185,7 @@ void writeText(std::ostream& out, const Report& report)
                     {"Before", "After", report.result.initialColors, report.result.currentColors,
                      toQColors(ChartTargets().TargetColors(), true)},
                     report.before, report.after);
-    out << "\n";
+    out << "\nSettings as computed; the camera keeps them in steps of its own:\n";
     writeSettings(out, report.settings);
 }
 

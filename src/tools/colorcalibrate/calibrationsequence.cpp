@@ -29,9 +29,6 @@ constexpr int cancelPollMs = 100;
 /// A run ends where it reaches the camera's limits; the next one goes on from there.
 constexpr int mostBrightnessRuns = 3;
 
-/// Some cameras change nothing and refuse nothing, and the worker has no limit of its own.
-constexpr int longestBrightnessRunMs = 120000;
-
 /// Further off than this on average, what was measured is hardly the chart.
 constexpr double usableDeltaE = 8.0;
 
@@ -42,15 +39,18 @@ constexpr double usableLoss = 1.0;
 
 CalibrationSequence::CalibrationSequence(ColorCorrectionModel& model,
                                          std::function<void(const QString& step)> progress,
-                                         std::function<bool()> isCancelled)
+                                         std::function<bool()> isCancelled,
+                                         std::function<void(const QString& warning)> warn)
     : m_model(model)
     , m_progress(std::move(progress))
     , m_isCancelled(std::move(isCancelled))
+    , m_warn(std::move(warn))
 {}
 
 SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceOptions& options)
 {
     m_camera.reset();
+    m_gridBefore.reset();
     m_isLost = false;
     QObject receiver;
     QObject::connect(&m_model, &ColorCorrectionModel::cameraRemoved, &receiver,
@@ -63,6 +63,9 @@ SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceO
     } catch (...) {
         m_model.StopGrabbing();
         m_model.RestoreSettingsBackup(false);
+        // Closing keeps the grid for the next time, and this one may be to blame.
+        if (m_gridBefore)
+            m_model.SetGridPosition(*m_gridBefore);
         m_model.Close();
         m_camera.reset();
         throw;
@@ -74,7 +77,7 @@ SequenceResult CalibrationSequence::calibrateOpened(const SequenceOptions& optio
     placeGrid(options);
     makeNeutral(options);
     if (options.adjustExposure)
-        adjustBrightness();
+        adjustBrightness(options);
     calibrate();
     SequenceResult result = measureOutcome();
     requireChart(result);
@@ -91,9 +94,21 @@ void CalibrationSequence::step(const char* name, const std::function<bool()>& ca
     if (call())
         return;
     stopIfCancelled();
+    throw CommandError(withReason(QLatin1String(failure)));
+}
+
+QString CalibrationSequence::withReason(const QString& message) const
+{
     const QString reason = m_log.lastFailure();
-    throw CommandError(QLatin1String(failure) +
-                       (reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(reason)));
+    return reason.isEmpty() ? message : QStringLiteral("%1 (%2)").arg(message, reason);
+}
+
+void CalibrationSequence::settingsStep(const char* name, const std::function<bool()>& call,
+                                       const char* failure)
+{
+    step(name, call, failure);
+    for (const QString& refusal : m_log.failures())
+        m_warn(refusal);
 }
 
 void CalibrationSequence::imageStep(const char* name, const std::function<bool()>& call,
@@ -105,9 +120,10 @@ void CalibrationSequence::imageStep(const char* name, const std::function<bool()
         if (m_model.TakenImages() != before)
             return succeeded;
         stopIfCancelled();
-        throw CommandError(QStringLiteral("the camera delivered no image at the step \"%1\"; check "
-                                          "its cable, trigger and exposure time, and try again")
-                               .arg(QLatin1String(name)));
+        throw CommandError(
+            withReason(QStringLiteral("the camera delivered no image at the step \"%1\"; check its "
+                                      "cable, trigger and exposure time, and try again")
+                           .arg(QLatin1String(name))));
     };
     step(name, callWithImage, failure);
 }
@@ -127,6 +143,7 @@ void CalibrationSequence::open(const CameraPtr& camera)
         "Opening the camera", [&] { return m_model.Open(camera); },
         "the camera could not be opened with exclusive access; is another program using it?");
     m_camera = camera;
+    m_gridBefore = m_model.GetGridPosition();
     // Before anything is changed, the exposure time included.
     step(
         "Keeping the camera's settings",
@@ -146,6 +163,7 @@ void CalibrationSequence::placeGrid(const SequenceOptions& options)
     };
     imageStep("Taking the first image", grab, "the camera delivered no image");
     if (options.grid) {
+        requireInside(*options.grid, image.size());
         m_model.SetGridPosition(*options.grid);
         return;
     }
@@ -177,7 +195,7 @@ void CalibrationSequence::makeNeutral(const SequenceOptions& options)
         },
         "the camera's settings could not be read");
     if (!options.previousSettings.isEmpty())
-        step(
+        settingsStep(
             "Loading previous settings",
             [&] { return m_model.LoadSettings(options.previousSettings); },
             "could not load previous settings");
@@ -222,11 +240,11 @@ void CalibrationSequence::balanceWhite(bool mayChangeExposure)
     }
 }
 
-void CalibrationSequence::adjustBrightness()
+void CalibrationSequence::adjustBrightness(const SequenceOptions& options)
 {
     QString failure;
     for (int run = 0; run < mostBrightnessRuns; ++run) {
-        runBrightness();
+        runBrightness(options);
         failure = m_log.lastFailure();
         // The worker ends by its limits too, and its last write comes after its last image.
         imageStep(
@@ -249,7 +267,7 @@ void CalibrationSequence::adjustBrightness()
         (failure.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(failure)));
 }
 
-void CalibrationSequence::runBrightness()
+void CalibrationSequence::runBrightness(const SequenceOptions& options)
 {
     QEventLoop loop;
     QTimer poll;
@@ -273,7 +291,7 @@ void CalibrationSequence::runBrightness()
             if (!m_model.AutoAdjustGray80PercentPatch())
                 return false;
             poll.start(cancelPollMs);
-            limit.start(longestBrightnessRunMs);
+            limit.start(options.longestBrightnessRun);
             loop.exec();
             return hasFinished;
         },
@@ -292,7 +310,7 @@ void CalibrationSequence::calibrate()
     step(
         "Storing exposure time and gain", [this] { return m_model.StoreDetectedExposureAndGain(); },
         "couldn't store detected exposure and gain values");
-    step(
+    settingsStep(
         "Restoring the settings before calibration",
         [this] { return m_model.RestoreSettingsBackup(true); },
         "couldn't restore preneutral camera settings");
@@ -308,7 +326,7 @@ void CalibrationSequence::calibrate()
     imageStep(
         "Measuring the patches", [this] { return m_model.ApplyInitialColorPatchValues(); },
         "couldn't apply initial values");
-    step(
+    settingsStep(
         "Calibrating", [this] { return m_model.ExecuteCalibrationAndApply(); },
         "calibration process failed; is the grid on the chart, and the image neither too bright "
         "nor too dark?");

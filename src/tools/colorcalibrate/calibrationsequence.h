@@ -11,6 +11,7 @@
 #include <QString>
 #include <QVector>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -22,6 +23,8 @@ struct SequenceOptions
     bool adjustExposure = true;                            ///< else exposure and gain stay
     QString previousSettings;                              ///< feature stream text, may be empty
     QString previousFile;                                  ///< its name, for messages
+    /// Some cameras change nothing and refuse nothing, and the worker has no limit of its own.
+    std::chrono::milliseconds longestBrightnessRun = std::chrono::minutes(2);
 };
 
 struct SequenceResult
@@ -42,9 +45,11 @@ public:
     /// \param model     with its services set, not open; outlives the sequence
     /// \param progress  is told each step as it begins
     /// \param isCancelled  is asked between the steps
-    CalibrationSequence(ColorCalibration::ColorCorrectionModel& model,
-                        std::function<void(const QString& step)> progress,
-                        std::function<bool()> isCancelled);
+    /// \param warn      is told each setting that the camera did not take, though all goes on
+    CalibrationSequence(
+        ColorCalibration::ColorCorrectionModel& model,
+        std::function<void(const QString& step)> progress, std::function<bool()> isCancelled,
+        std::function<void(const QString& warning)> warn = [](const QString&) {});
 
     /// The camera stays open and calibrated.
     /// \throws CommandError, and whatever else ends it, after the camera was given back
@@ -57,23 +62,31 @@ private:
     void placeGrid(const SequenceOptions& options);
     void makeNeutral(const SequenceOptions& options);
     void balanceWhite(bool mayChangeExposure);
-    void adjustBrightness();
-    void runBrightness();
+    void adjustBrightness(const SequenceOptions& options);
+    void runBrightness(const SequenceOptions& options);
     void calibrate();
     SequenceResult measureOutcome();
     void requireChart(const SequenceResult& result);
 
     void step(const char* name, const std::function<bool()>& call, const char* failure);
 
+    /// A step that writes settings, some of which the camera may refuse.
+    void settingsStep(const char* name, const std::function<bool()>& call, const char* failure);
+
     /// A step that is worth nothing without a new image.
     void imageStep(const char* name, const std::function<bool()>& call, const char* failure);
     void stopIfCancelled() const;
 
+    /// The message with what the log says of the failure.
+    QString withReason(const QString& message) const;
+
     ColorCalibration::ColorCorrectionModel& m_model;
     std::function<void(const QString&)> m_progress;
     std::function<bool()> m_isCancelled;
+    std::function<void(const QString&)> m_warn;
     FailureLog m_log;
     Core::CameraPoolComponents::CameraPtr m_camera;
+    std::optional<ColorCalibration::TrapezoidPoints> m_gridBefore;
     bool m_isLost = false;
     double m_hitRate = 0.0;
 };

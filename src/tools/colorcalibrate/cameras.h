@@ -22,7 +22,7 @@ public:
                          const CameraSelection& selection = {});
     ~ToolCameras();
 
-    const QList<Cameras::HostCameraPtr>& all() const { return m_pool->cameras(); }
+    QList<Cameras::HostCameraPtr> all() const { return m_pool->cameras(); }
 
     /// "emulation" or "genicam".
     static QString backendOf(const Cameras::HostCameraPtr& camera);

@@ -23,7 +23,7 @@ FailureLog::FailureLog()
               if (level < Core::Logging::Warning)
                   return;
               const QMutexLocker lock(&m_mutex);
-              m_lastFailure = withoutFunction(text);
+              m_failures.append(withoutFunction(text));
           }))
 {}
 
@@ -35,13 +35,19 @@ FailureLog::~FailureLog()
 void FailureLog::clear()
 {
     const QMutexLocker lock(&m_mutex);
-    m_lastFailure.clear();
+    m_failures.clear();
+}
+
+QStringList FailureLog::failures() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_failures;
 }
 
 QString FailureLog::lastFailure() const
 {
     const QMutexLocker lock(&m_mutex);
-    return m_lastFailure;
+    return m_failures.value(m_failures.size() - 1);
 }
 
 } // namespace ColorCalibrate

@@ -5,12 +5,12 @@
 #include "logging.h"
 
 #include <QMutex>
-#include <QString>
+#include <QStringList>
 
 namespace ColorCalibrate {
 
-/// While it lives, log entries are not written to standard error, but the last one that tells of a
-/// failure is kept, as it names the reason behind a step that has failed. One at a time.
+/// While it lives, log entries are not written to standard error, but those that tell of a failure
+/// are kept: the last one names the reason behind a step that has failed. One at a time.
 /// Thread-safe.
 class FailureLog
 {
@@ -23,12 +23,15 @@ public:
     /// Forgets what was kept.
     void clear();
 
-    /// The last entry of level warning and above without its function, empty if there was none.
+    /// All entries of level warning and above, without their functions.
+    QStringList failures() const;
+
+    /// The last of them, empty if there was none.
     QString lastFailure() const;
 
 private:
     mutable QMutex m_mutex;
-    QString m_lastFailure;
+    QStringList m_failures;
     Core::Logging::LogSink m_previous;
 };
 

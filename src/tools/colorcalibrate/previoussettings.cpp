@@ -7,9 +7,7 @@
 #include "settingsfile.h"
 
 #include <QFile>
-#include <QHash>
-
-#include <algorithm>
+#include <QSet>
 
 namespace ColorCalibrate {
 
@@ -25,22 +23,20 @@ QString readPreviousSettings(const QString& fileName)
     }
 }
 
-int countForeignSettings(const QString& text, const QString& fileName,
-                         Core::ParameterCollection::IParameterCollection& parameters)
+void requireOwnSettings(const QString& text, const QString& fileName,
+                        Core::ParameterCollection::IParameterCollection& parameters)
 {
     const QVector<QString> names = ColorCalibration::settingNames(text);
-    QHash<QString, bool> isKnown;
-    const auto isForeign = [&](const QString& name) {
-        const auto known = isKnown.constFind(name);
-        if (known != isKnown.constEnd())
-            return !*known;
-        return !*isKnown.insert(name, !parameters.parameter(name)->isEmpty());
-    };
-    const auto count = static_cast<int>(std::count_if(names.begin(), names.end(), isForeign));
-    if (count == names.size())
-        throw CommandError(
-            QStringLiteral("%1: the camera has none of the features in this file").arg(fileName));
-    return count;
+    QSet<QString> foreign;
+    for (const QString& name : names) {
+        if (foreign.contains(name))
+            continue;
+        if (!parameters.parameter(name)->isEmpty())
+            return;
+        foreign.insert(name);
+    }
+    throw CommandError(
+        QStringLiteral("%1: the camera has none of the features in this file").arg(fileName));
 }
 
 } // namespace ColorCalibrate

@@ -12,9 +12,8 @@ namespace ColorCalibrate {
 /// \throws CommandError  the file cannot be read, is no settings file, or is far too large for one
 QString readPreviousSettings(const QString& fileName);
 
-/// \return  how many settings of the text are of features that the camera has not
-/// \throws CommandError  all of them are
-int countForeignSettings(const QString& text, const QString& fileName,
-                         Core::ParameterCollection::IParameterCollection& parameters);
+/// \throws CommandError  no setting of the text is of a feature that the camera has
+void requireOwnSettings(const QString& text, const QString& fileName,
+                        Core::ParameterCollection::IParameterCollection& parameters);
 
 } // namespace ColorCalibrate

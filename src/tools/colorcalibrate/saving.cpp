@@ -4,6 +4,7 @@
 
 #include "failurelog.h"
 #include "iparametercollection.h"
+#include "storableusersets.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -82,14 +83,8 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
 {
     if (options.userSet.isEmpty())
         return;
-    const auto selector = camera->parameterCollection()->enumerationParameter(
-        QStringLiteral("@CameraDevice/UserSetSelector"));
     QStringList names;
-    for (const auto& entry : selector->entries()) {
-        // Factory settings cannot be overwritten.
-        if (!entry.isSettable ||
-            !entry.name.contains(QLatin1String("userset"), Qt::CaseInsensitive))
-            continue;
+    for (const auto& entry : ColorCalibration::storableUserSets(*camera->parameterCollection())) {
         if (options.userSet == entry.name || options.userSet == entry.displayName) {
             options.userSet = entry.name;
             return;
