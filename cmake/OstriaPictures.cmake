@@ -37,19 +37,11 @@ function(ostria_add_pictures name prefix)
         _ostria_render("${drawing}" ${CMAKE_MATCH_1} ${CMAKE_MATCH_2} "${folder}/${alias}")
         _ostria_render("${drawing}" ${width} ${height} "${folder}/${doubleAlias}")
         foreach(file IN ITEMS "${alias}" "${doubleAlias}")
-            string(APPEND entries "    <file alias=\"${file}\">${folder}/${file}</file>\n")
+            list(APPEND entries "${file}=${folder}/${file}")
         endforeach()
     endforeach()
     foreach(file IN LISTS arg_FILES)
-        string(APPEND entries
-            "    <file alias=\"${file}\">${CMAKE_CURRENT_SOURCE_DIR}/${file}</file>\n")
+        list(APPEND entries "${file}=${CMAKE_CURRENT_SOURCE_DIR}/${file}")
     endforeach()
-    set(bundle "${CMAKE_CURRENT_BINARY_DIR}/${name}.qrc")
-    file(CONFIGURE OUTPUT "${bundle}" @ONLY
-        CONTENT "<RCC>\n<qresource prefix=\"@prefix@\">\n@entries@</qresource>\n</RCC>\n")
-    # Version 1 has no times of files in it: the same sources give the same program. PNG is
-    # compressed already.
-    qt5_add_resources(sources "${bundle}" OPTIONS --format-version 1 --no-compress)
-    add_library(${name} OBJECT ${sources})
-    target_link_libraries(${name} PRIVATE Qt5::Core)
+    ostria_add_bundle(${name} ${prefix} ${entries})
 endfunction()
