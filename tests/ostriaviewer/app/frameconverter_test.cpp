@@ -113,6 +113,33 @@ TEST_F(FrameConverterTest, KeepsAPictureThatSomebodyHoldsWhileFramesGoOn)
     EXPECT_EQ(held.pixelColor(0, 0), QColor(255, 0, 0));
 }
 
+TEST_F(FrameConverterTest, ConvertsNothingWhileItIsPausedAndTheNewestAfterwards)
+{
+    m_converter.setPaused(true);
+    const auto inlet = m_converter.openInlet();
+    inlet(frame(1));
+    // Another converter has long been done with the same frame.
+    FrameConverter other;
+    bool isOtherDone = false;
+    QObject::connect(&other, &FrameConverter::frameReady,
+                     [&](const LiveFrame& ready) { isOtherDone = ready.number == 2; });
+    const auto otherInlet = other.openInlet();
+    otherInlet(frame(1));
+    otherInlet(frame(2));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isOtherDone; }, 60000));
+    EXPECT_TRUE(m_frames.isEmpty());
+    inlet(frame(3));
+    m_converter.setPaused(false);
+    ASSERT_TRUE(waitFor(3));
+    EXPECT_EQ(m_frames.size(), 1);
+}
+
+TEST_F(FrameConverterTest, MayEndWhileItIsPaused)
+{
+    m_converter.setPaused(true);
+    m_converter.openInlet()(frame(1));
+}
+
 TEST(FrameConverter, MayEndBeforeItsInlets)
 {
     FrameConverter::Inlet inlet;

@@ -99,6 +99,45 @@ TEST_F(MessageLogTest, DropsTheOldestWhenItIsFull)
     EXPECT_EQ(m_model.message(0).text, "1000");
 }
 
+TEST_F(MessageLogTest, KeepsWhatMattersWhenLesserEntriesFillIt)
+{
+    m_service.addEntry(Information, "Somebody", "begun", {});
+    m_service.addEntry(Error, "Somebody", "lost", {});
+    for (int number = 0; number < 2 * MessageLogModel::capacity; ++number)
+        m_service.addEntry(Debug, "Somebody", QString::number(number), {});
+    EXPECT_LE(m_model.rowCount(), MessageLogModel::capacity);
+    EXPECT_EQ(m_model.message(0).text, "begun");
+    EXPECT_EQ(m_model.message(1).text, "lost");
+    EXPECT_EQ(m_model.message(m_model.rowCount() - 1).text,
+              QString::number(2 * MessageLogModel::capacity - 1));
+    for (int row = 3; row < m_model.rowCount(); ++row)
+        ASSERT_EQ(m_model.message(row).text.toInt(), m_model.message(row - 1).text.toInt() + 1);
+}
+
+TEST_F(MessageLogTest, TakesNoLesserEntryWhenAllThatFillsItMattersMore)
+{
+    for (int number = 0; number < MessageLogModel::capacity; ++number)
+        m_service.addEntry(Warning, "Somebody", QString::number(number), {});
+    m_service.addEntry(Information, "Somebody", "less", {});
+    EXPECT_EQ(m_model.rowCount(), MessageLogModel::capacity);
+    EXPECT_EQ(m_model.message(0).text, "0");
+    m_service.addEntry(Error, "Somebody", "more", {});
+    EXPECT_EQ(m_model.message(0).text, "1000");
+    EXPECT_EQ(m_model.message(m_model.rowCount() - 1).text, "more");
+}
+
+TEST_F(MessageLogTest, ShowsTheWholeNameOfEachLevel)
+{
+    auto* levels = m_panel.findChild<QComboBox*>("level");
+    levels->setCurrentIndex(0);
+    auto* view = m_panel.findChild<QTreeView*>("messages");
+    for (const ELogLevel level : {Debug, Information, Warning, Error, Fatal}) {
+        m_service.addEntry(level, "Somebody", "text", {});
+        const QModelIndex index = view->model()->index(level, MessageLogModel::Level);
+        EXPECT_GE(view->columnWidth(MessageLogModel::Level), view->sizeHintForIndex(index).width());
+    }
+}
+
 TEST_F(MessageLogTest, HidesLowerLevels)
 {
     for (const ELogLevel level : {Debug, Information, Warning, Error, Fatal})

@@ -74,6 +74,16 @@ TEST_F(RecorderTest, EndsWithTheHostsStopOfAllActivity)
     EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
 }
 
+TEST_F(RecorderTest, EndsWithACameraThatIsTakenOutOfTheList)
+{
+    startRecording();
+    ASSERT_TRUE(waitUntil([this] { return recording().entryList({"*.png"}).size() >= 2; }));
+    m_viewer->pool().remove(m_first);
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    EXPECT_FALSE(m_viewer->pool().recordings()->isRecording(m_first.data()));
+    EXPECT_FALSE(m_first->isOpen());
+}
+
 TEST_F(RecorderTest, EndsWithALostCameraAndKeepsWhatThereIs)
 {
     m_first->faults().loseConnectionAfter(3);

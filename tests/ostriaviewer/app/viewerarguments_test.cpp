@@ -29,8 +29,30 @@ TEST(ViewerArguments, HelpNamesEachOption)
 {
     const ParsedArguments parsed = parseArguments({"viewer", "--help"});
     EXPECT_EQ(parsed.action, ParsedArguments::ShowText);
-    for (const char* option : {"--scene", "--plugins", "--camera", "--version"})
+    for (const char* option : {"--scene", "--plugins", "--camera", "--backend", "--version"})
         EXPECT_TRUE(parsed.text.contains(option)) << option;
+}
+
+TEST(ViewerArguments, TakesBackendsFromTheUserBeforeTheEnvironment)
+{
+    qputenv("OSTRIA_BACKEND", "genicam");
+    EXPECT_EQ(parseArguments({"viewer"}).arguments.backends, Backends::GenICam);
+    EXPECT_EQ(parseArguments({"viewer", "--backend", "all"}).arguments.backends, Backends::All);
+    qunsetenv("OSTRIA_BACKEND");
+    EXPECT_EQ(parseArguments({"viewer"}).arguments.backends, std::nullopt);
+    const ParsedArguments parsed = parseArguments({"viewer", "--backend", "others"});
+    EXPECT_EQ(parsed.action, ParsedArguments::Fail);
+    EXPECT_EQ(parsed.text, "--backend is \"emulation\", \"genicam\" or \"all\", not \"others\".");
+}
+
+TEST(ViewerArguments, SayWhereABackendThatThereIsNotComesFrom)
+{
+    qputenv("OSTRIA_BACKEND", "others");
+    const ParsedArguments parsed = parseArguments({"viewer"});
+    qunsetenv("OSTRIA_BACKEND");
+    EXPECT_EQ(parsed.action, ParsedArguments::Fail);
+    EXPECT_EQ(parsed.text,
+              "OSTRIA_BACKEND is \"emulation\", \"genicam\" or \"all\", not \"others\".");
 }
 
 TEST(ViewerArguments, RefusesWhatItDoesNotKnow)

@@ -16,6 +16,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Viewer {
 
@@ -51,6 +52,7 @@ protected:
         ViewerArguments arguments;
         arguments.pluginFolder = pluginFolder.isEmpty() ? folder() : pluginFolder;
         arguments.camera = camera;
+        arguments.backends = m_backends;
         m_viewer = std::make_unique<ViewerApplication>(
             arguments, QList<Cameras::HostCameraPtr>{m_first, m_second});
         m_viewer->start();
@@ -87,10 +89,12 @@ protected:
     }
     QString shownState(int row) { return cameraItem(row)->text(1); }
 
-    void clickCamera(int row, bool isDoubled = false)
+    void clickCamera(int row, bool isDoubled = false) { clickItem(cameraItem(row), isDoubled); }
+
+    void clickItem(const QTreeWidgetItem* item, bool isDoubled = false)
     {
         auto* tree = child<QTreeWidget>("cameras");
-        const QPoint position = tree->visualItemRect(cameraItem(row)).center();
+        const QPoint position = tree->visualItemRect(item).center();
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, position);
         if (isDoubled)
             QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, position);
@@ -116,6 +120,7 @@ protected:
         return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     }
 
+    std::optional<Backends> m_backends = Backends::Emulation;
     EmulatedCameraPtr m_first;
     EmulatedCameraPtr m_second;
     std::unique_ptr<ViewerApplication> m_viewer;

@@ -118,6 +118,7 @@ public:
     }
     Core::ParameterCollection::ParameterCollectionPtr parameterCollection() override
     {
+        features().announce(QStringLiteral("features"));
         return open && withParameters ? m_parameters : nullptr;
     }
 

@@ -108,7 +108,14 @@ public:
         return find<FakeCommand>(name, FakeKind::Command);
     }
 
-    QVersionNumber sfncVersion() const override { return m_version; }
+    /// Answers to the next questions for the version, for a camera that changes its mind.
+    mutable QVector<QVersionNumber> nextVersions;
+
+    QVersionNumber sfncVersion() const override
+    {
+        m_features->announce(QStringLiteral("version"));
+        return nextVersions.isEmpty() ? m_version : nextVersions.takeFirst();
+    }
 
     /// One "name<tab>value" a line, by name.
     void saveFeatures(QString& out, const QString& nodeMap) override
@@ -130,7 +137,7 @@ public:
                     feature.value = line.section(QLatin1Char('\t'), 1);
                 });
             else
-                errors += line;
+                errors += line + QLatin1Char('\n');
         }
     }
 

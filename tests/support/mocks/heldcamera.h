@@ -103,6 +103,7 @@ public:
     bool SetNeutralSettings() override { return true; }
     bool CreateSettingsBackup(bool /*initialImage*/) override { return true; }
     bool RestoreSettingsBackup(bool /*initialImage*/) override { return true; }
+    bool IsBackupOwed() const override { return false; }
     void ActivateMonoImage() override {}
     void cameraRemoved() override {}
 

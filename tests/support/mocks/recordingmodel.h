@@ -18,6 +18,7 @@ public:
     using Trapezoid = ColorCalibration::TrapezoidPoints;
 
     QSet<QString> refused; ///< operations that answer with their failure value
+    bool isBackupOwed = false;
     Trapezoid outline;
     QVector<Trapezoid> patches;
     QVector<QColor> colors;
@@ -62,6 +63,7 @@ public:
     {
         return note("RestoreSettingsBackup", initial);
     }
+    bool IsBackupOwed() const override { return isBackupOwed; }
     void ActivateMonoImage() override { note("ActivateMonoImage"); }
     bool AutoAdjustGray80PercentPatch() override { return note("AutoAdjustGray80PercentPatch"); }
     Trapezoid GetGridPosition() override { return outline; }

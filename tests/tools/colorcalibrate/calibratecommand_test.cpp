@@ -8,9 +8,13 @@
 #include "settingsguard.h"
 
 #include <QColor>
+#include <QDir>
+#include <QDirIterator>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include <new>
@@ -25,7 +29,12 @@ class CalibrateCommand : public CommandTest
 {
 protected:
     CalibrateCommand() { QStandardPaths::setTestModeEnabled(true); }
-    ~CalibrateCommand() override { QStandardPaths::setTestModeEnabled(false); }
+    ~CalibrateCommand() override
+    {
+        // User sets that a test has stored.
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
+        QStandardPaths::setTestModeEnabled(false);
+    }
 
     static QJsonArray listed()
     {
@@ -177,6 +186,59 @@ TEST_F(CalibrateCommand, RefusesCamerasItCannotCalibrateOrFind)
                   1, {QStringLiteral("/no/such/file.cst")});
 }
 
+TEST_F(CalibrateCommand, StartsFromTheSettingsOfAPreviousCalibrationAtTheExposureThatItHas)
+{
+    const QString oldGeneration = QStringLiteral("Emulation 1920-40c");
+    const auto meanDeltaE = [](const QJsonObject& json) {
+        return json.value(QStringLiteral("after"))
+            .toObject()
+            .value(QStringLiteral("meanDeltaE"))
+            .toDouble(1e9);
+    };
+    // Found once, and then what the camera starts with.
+    const double found = meanDeltaE(
+        calibrateJson(oldGeneration, {QStringLiteral("--save-settings"),
+                                      path(QStringLiteral("saved")), QStringLiteral("--user-set"),
+                                      QStringLiteral("UserSet1"), QStringLiteral("--default")}));
+    QDirIterator files(path(QStringLiteral("saved")), {QStringLiteral("*.cst")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    ASSERT_TRUE(files.hasNext());
+    const Outcome again = calibrate(
+        oldGeneration, {QStringLiteral("--exposure"), QStringLiteral("keep"),
+                        QStringLiteral("--settings"), files.next(), QStringLiteral("--json")});
+    EXPECT_EQ(again.code, 0);
+    EXPECT_EQ(again.err, "") << "all of it was loaded";
+    EXPECT_NEAR(meanDeltaE(QJsonDocument::fromJson(QByteArray::fromStdString(again.out)).object()),
+                found, 0.3)
+        << "what was loaded is made neutral like everything else";
+}
+
+TEST_F(CalibrateCommand, RefusesSettingsFilesThatAreNone)
+{
+    const QString camera = namesOf(true).first();
+    const QStringList files{
+        writeFile(QStringLiteral("empty.cst"), {}),
+        writeFile(QStringLiteral("text.cst"), "Gamma is 1\n"),
+        writeFile(QStringLiteral("binary.cst"), QByteArray("\x7f\x00\x01\xff\xfe", 5)),
+        writeFile(QStringLiteral("foreign.cst"), "NoSuchFeature\t1\n"),
+    };
+    for (const QString& file : files)
+        expectFailure(calibrate(camera, {QStringLiteral("--settings"), file}), 1, {file});
+}
+
+TEST_F(CalibrateCommand, TellsWhichPreviousSettingsTheCameraDidNotTake)
+{
+    const QString file = writeFile(QStringLiteral("previous.cst"),
+                                   QByteArrayLiteral("Gamma\t2\nGain\t1000\nNoSuch\t1\n"
+                                                     "BlackLevel\tdark\n"));
+    const Outcome outcome = calibrate(namesOf(true).at(1), {QStringLiteral("--settings"), file});
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(outcome.err, "A setting was not loaded: Line 2: Gain: 1000 is above the maximum 24.\n"
+                           "A setting was not loaded: Line 3: the camera has no feature "
+                           "\"NoSuch\".\n"
+                           "A setting was not loaded: Line 4: BlackLevel: a number is expected.\n");
+}
+
 TEST_F(CalibrateCommand, SaysSoWhereThereIsNoChart)
 {
     QImage scene(320, 200, QImage::Format_RGB32);
@@ -200,6 +262,37 @@ TEST_F(CalibrateCommand, SaysSoWhereThereIsNoChart)
                   1, {QStringLiteral("grid"), QStringLiteral("settings are as they were")});
 }
 
+TEST_F(CalibrateCommand, RefusesAGridOutsideTheImage)
+{
+    expectFailure(
+        calibrate(namesOf(true).first(),
+                  {QStringLiteral("--grid"), QStringLiteral("10,10 5000,10 10,900 5000,900")}),
+        1,
+        {QStringLiteral("upper right corner (5000, 10) lies outside the image of 1920 x"),
+         QStringLiteral("settings are as they were")});
+}
+
+TEST_F(CalibrateCommand, KeepsTheGridOfASuccessAlone)
+{
+    const auto kept = [] {
+        QMap<QString, QVariant> all;
+        const QSettings settings;
+        for (const QString& key : settings.allKeys())
+            all.insert(key, settings.value(key));
+        return all;
+    };
+    const QString camera = namesOf(true).first();
+    QSettings().clear();
+    ASSERT_EQ(calibrate(camera).code, 0);
+    const auto before = kept();
+    ASSERT_EQ(before.size(), 4);
+    EXPECT_EQ(
+        calibrate(camera, {QStringLiteral("--grid"), QStringLiteral("10,10 300,10 10,200 300,200")})
+            .code,
+        1);
+    EXPECT_EQ(kept(), before);
+}
+
 TEST_P(FaultyCamera, IsGivenBackAsItWasWhenAFeatureRefuses)
 {
     const QString before = settings();
@@ -219,6 +312,11 @@ INSTANTIATE_TEST_SUITE_P(Features, FaultyCamera,
 
 TEST_F(FaultyCamera, IsGivenBackAsItWasWhereverItIsCancelled)
 {
+    // A test image, which is switched off as soon as the model has the camera.
+    const auto pattern =
+        m_camera->parameterCollection()->enumerationParameter(QStringLiteral("TestPattern"));
+    pattern->setValue(pattern->entries().last().name);
+    ASSERT_NE(pattern->value().toStdString(), "Off");
     const QString before = settings();
     ASSERT_EQ(runAndFail().toStdString(), "");
     const int steps = m_steps.size();
@@ -251,8 +349,7 @@ TEST_F(FaultyCamera, IsReportedWhenItsConnectionBreaksAtAnyImage)
 {
     for (int images = 1; images <= 5; ++images) {
         m_camera->faults().loseConnectionAfter(images);
-        const QString message = runAndFail();
-        EXPECT_FALSE(message.isEmpty()) << images;
+        EXPECT_EQ(runAndFail().toStdString(), "the camera has been disconnected") << images;
         EXPECT_FALSE(m_camera->isOpen());
         m_camera->reconnect();
         ASSERT_TRUE(m_camera->open());

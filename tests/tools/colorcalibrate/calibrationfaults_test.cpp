@@ -55,7 +55,7 @@ protected:
             },
             [] { return false; });
         SequenceOptions options;
-        options.adjustExposure = false;
+        options.adjustExposure = m_adjustsExposure;
         options.grid = m_host.chartGrid();
         try {
             sequence.run(m_host.pointer(), options);
@@ -78,6 +78,7 @@ protected:
 
     EmulatedHost m_host;
     QStringList m_steps;
+    bool m_adjustsExposure = false;
 };
 
 /// Those that wait for an image for 5 s; one camera is enough.
@@ -140,6 +141,43 @@ TEST_P(CalibrationFaults, ALostConnectionIsToldAtEveryStep)
                 << step.toStdString();
         }
         EXPECT_FALSE(m_host.camera().isOpen()) << step.toStdString();
+        m_host.camera().reconnect();
+        reopen();
+    }
+}
+
+TEST_P(CalibrationFaults, WithoutAFaultTheExposureStaysWhereItIsToBeKept)
+{
+    const auto keptExposure = [&] {
+        return m_host.camera()
+            .parameterCollection()
+            ->floatParameter(QStringLiteral("ExposureTimeAbs|ExposureTime"))
+            ->value();
+    };
+    double calibrated = 0.0;
+    EXPECT_EQ(run(QStringLiteral("Collecting the results"), [&] { calibrated = keptExposure(); })
+                  .toStdString(),
+              "");
+    EXPECT_EQ(calibrated, exposure);
+}
+
+TEST_P(CalibrationFaults, AConnectionLostInAnyPassOfTheBrightnessWorkerIsTold)
+{
+    m_adjustsExposure = true;
+    // The image that the worker discards, and that of its second pass.
+    for (const int images : {1, 3}) {
+        m_host.setExposure(exposure / 4.0); // several passes from its goal
+        int losses = 0;
+        QObject receiver;
+        QObject::connect(&m_host.model(), &ColorCalibration::ColorCorrectionModel::cameraRemoved,
+                         &receiver, [&] { ++losses; });
+        const QString message = run(QStringLiteral("Adjusting brightness"),
+                                    [&] { m_host.camera().faults().loseConnectionAfter(images); });
+        EXPECT_EQ(message.toStdString(), "the camera has been disconnected") << images;
+        EXPECT_EQ(m_steps.last().toStdString(), "Adjusting brightness") << images;
+        EXPECT_LE(losses, 1) << images;
+        EXPECT_FALSE(m_host.model().StopGrabbing()) << "the model has been closed";
+        EXPECT_FALSE(m_host.camera().isOpen()) << images;
         m_host.camera().reconnect();
         reopen();
     }

@@ -4,6 +4,7 @@
 
 #include "charttargets.h"
 #include "colorcalibrate.h"
+#include "testsettings.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -19,14 +20,23 @@ namespace {
 class Application : public testing::Environment
 {
 public:
-    void SetUp() override { m_application = std::make_unique<QCoreApplication>(m_count, m_names); }
-    void TearDown() override { m_application.reset(); }
+    void SetUp() override
+    {
+        m_application = std::make_unique<QCoreApplication>(m_count, m_names);
+        m_settings = std::make_unique<TestSettings>();
+    }
+    void TearDown() override
+    {
+        m_settings.reset();
+        m_application.reset();
+    }
 
 private:
     int m_count = 1;
     char m_name[5] = "test";
     char* m_names[2] = {m_name, nullptr};
     std::unique_ptr<QCoreApplication> m_application;
+    std::unique_ptr<TestSettings> m_settings; // the grid's, which would be the user's
 };
 
 const auto* const application = testing::AddGlobalTestEnvironment(new Application);

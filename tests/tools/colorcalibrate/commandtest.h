@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <string>
 
 struct Outcome
@@ -25,6 +26,22 @@ Outcome runTool(const QStringList& arguments, const std::string& in = {});
 
 /// The code, nothing on standard output, and one line of message that names all these words.
 void expectFailure(const Outcome& outcome, int code, const QStringList& words);
+
+/// While it lives, programs are started with Ctrl-C working, also where this one ignores it, as a
+/// program in the background of a script does.
+class WorkingInterrupt
+{
+public:
+    WorkingInterrupt()
+        : m_previous(std::signal(SIGINT, SIG_DFL))
+    {}
+    ~WorkingInterrupt() { std::signal(SIGINT, m_previous); }
+    WorkingInterrupt(const WorkingInterrupt&) = delete;
+    WorkingInterrupt& operator=(const WorkingInterrupt&) = delete;
+
+private:
+    void (*m_previous)(int);
+};
 
 /// 24 lines of the chart's target colours.
 std::string targetLines();

@@ -49,14 +49,14 @@ TEST_F(PreviousSettings, OtherFilesAreRefused)
     EXPECT_NE(refusal(path(QStringLiteral("none.cst"))), "");
 }
 
-TEST_F(PreviousSettings, OfAnotherCameraAreCounted)
+TEST_F(PreviousSettings, OfAnotherCameraAreRefusedIfNoneIsOfThisOne)
 {
     m_camera.addFloat(QStringLiteral("Gamma"), 1.0);
     const QString name = QStringLiteral("c.cst");
-    EXPECT_EQ(countForeignSettings(QStringLiteral("Gamma\t1\nGamma\t2\n"), name, m_camera), 0);
-    EXPECT_EQ(
-        countForeignSettings(QStringLiteral("Gamma\t1\nOther\t2\nOther\t3\n"), name, m_camera), 2);
-    EXPECT_THROW(countForeignSettings(QStringLiteral("Other\t2\n"), name, m_camera), CommandError);
+    EXPECT_NO_THROW(requireOwnSettings(QStringLiteral("Gamma\t1\nGamma\t2\n"), name, m_camera));
+    EXPECT_NO_THROW(requireOwnSettings(QStringLiteral("Other\t2\nGamma\t1\n"), name, m_camera));
+    EXPECT_THROW(requireOwnSettings(QStringLiteral("Other\t2\nOther\t3\n"), name, m_camera),
+                 CommandError);
 }
 
 } // namespace

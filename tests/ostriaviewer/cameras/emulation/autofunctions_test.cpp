@@ -3,6 +3,7 @@
 #include "autofunctions.h"
 #include "emulationtest.h"
 #include "frameprobe.h"
+#include "generationname.h"
 #include "modelfeatures.h"
 #include "registerstore.h"
 
@@ -101,7 +102,8 @@ TEST_P(AutoFunctionsTest, WhiteBalanceLeavesABlackImageAlone)
 
 INSTANTIATE_TEST_SUITE_P(Generations, AutoFunctionsTest,
                          testing::Values(FeatureNames::FirstGeneration,
-                                         FeatureNames::SecondGeneration));
+                                         FeatureNames::SecondGeneration),
+                         generationName);
 
 TEST(MeasureLevels, TakesTheMeanOfEachChannel)
 {

@@ -3,6 +3,7 @@
 #include "emulationtest.h"
 #include "genicamexception.h"
 
+#include <QHash>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -66,11 +67,14 @@ protected:
                            static_cast<double>(integer->maximum()));
         return value == QLatin1String("0") ? QStringLiteral("1") : QStringLiteral("0");
     }
+    /// Without the head, which carries the time.
     QString saved()
     {
         QString text;
         m_features->saveFeatures(text, QStringLiteral("@CameraDevice"));
-        return text;
+        QStringList lines = text.split(QLatin1Char('\n'));
+        const QStringList head = lines.filter(QRegularExpression(QStringLiteral("^#")));
+        return lines.mid(head.size()).join(QLatin1Char('\n'));
     }
 
     QSharedPointer<EmulatedCamera> m_camera;
@@ -271,14 +275,18 @@ TEST_F(FeatureBehavior, SavedSettingsBringEveryFeatureBack)
                                      FeatureNames::SecondGenerationMaker}) {
         open(names);
         const QString before = saved();
+        const QStringList lines = before.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QHash<QString, int> lastLines; // of a selector: its own position
+        for (int i = 0; i < lines.size(); ++i)
+            lastLines[lines[i].section(QLatin1Char('\t'), 0, 0)] = i;
         QStringList alone; // features with a single value
         QString errors;
-        for (const QString& line : before.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        for (int i = 0; i < lines.size(); ++i) {
+            const QString& line = lines[i];
             const QString name = line.section(QLatin1Char('\t'), 0, 0);
-            if (name.startsWith(QLatin1Char('#')))
-                continue;
             const QString value = line.section(QLatin1Char('\t'), 1);
-            const QString next = isSelector(name) ? value : otherValue(name, value);
+            const bool leadsTheWay = isSelector(name) && lastLines[name] != i;
+            const QString next = leadsTheWay ? value : otherValue(name, value);
             if (next == value)
                 alone.append(line);
             m_features->loadFeatures(name + QLatin1Char('\t') + next, errors,
@@ -286,12 +294,17 @@ TEST_F(FeatureBehavior, SavedSettingsBringEveryFeatureBack)
         }
         const QStringList now = saved().split(QLatin1Char('\n'));
         QStringList kept;
-        for (const QString& line : before.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-            const QString name = line.section(QLatin1Char('\t'), 0, 0);
-            if (!name.startsWith(QLatin1Char('#')) && !alone.contains(line) && now.contains(line))
+        for (const QString& line : lines) {
+            if (!alone.contains(line) && now.contains(line))
                 kept.append(line);
         }
+        int moved = 0;
+        for (auto last = lastLines.cbegin(); last != lastLines.cend(); ++last)
+            if (isSelector(last.key()) &&
+                now.filter(last.key() + QLatin1Char('\t')).last() != lines[*last])
+                ++moved;
         EXPECT_EQ(kept.join(QLatin1Char('\n')).toStdString(), "") << "not changed";
+        EXPECT_GE(moved, 3) << "selectors stand elsewhere";
         EXPECT_LT(
             alone.filter(QRegularExpression(QStringLiteral("^(?!.*Selector\t|LUTIndex)"))).size(),
             4);

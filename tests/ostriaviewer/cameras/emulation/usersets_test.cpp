@@ -2,9 +2,14 @@
 // User sets outlive the camera that saved them.
 #include "emulationtest.h"
 #include "genicamexception.h"
+#include "modelfeatures.h"
+#include "usersets.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+
+#include <thread>
 
 namespace Cameras::Emulation {
 namespace {
@@ -165,6 +170,54 @@ TEST_F(UserSetsTest, TwoThatHaveOneCameraOpenDoNotUndoEachOther)
     EXPECT_EQ(gain(*fourth)->value(), 5.0);
     load(*fourth, "UserSet1");
     EXPECT_EQ(gain(*fourth)->value(), 3.0);
+}
+
+TEST_F(UserSetsTest, WhatAnotherHasSavedIsLoadedByAnOpenCamera)
+{
+    const auto first = openCamera(smallModel());
+    const auto second = openCamera(smallModel());
+    gain(*second)->setValue(3.0);
+    save(*second, "UserSet1");
+    load(*first, "UserSet1");
+    EXPECT_EQ(gain(*first)->value(), 3.0);
+    gain(*first)->setValue(5.0);
+    save(*first, "UserSet1");
+    load(*second, "UserSet1");
+    EXPECT_EQ(gain(*second)->value(), 5.0);
+}
+
+TEST_F(UserSetsTest, NothingButTheSetsIsLeftInTheFolder)
+{
+    const auto camera = openCamera(smallModel());
+    save(*camera, "UserSet1");
+    choose(*camera, "UserSetDefault", "UserSet1");
+    EXPECT_EQ(QDir(folder()).entryList(QDir::Files | QDir::Hidden),
+              QStringList(QFileInfo(file(smallModel())).fileName()));
+}
+
+TEST_F(UserSetsTest, ProgramsThatSaveAtOnceLoseNothing)
+{
+    // Each thread stands for a program: they share nothing but the file.
+    constexpr int rounds = 25;
+    const auto table = std::make_shared<FeatureTable>(modelFeatures(smallModel()));
+    const QString path = file(smallModel());
+    const auto saveOften = [&](const char* set, double gain) {
+        UserSets sets(table, path);
+        FeatureValues values(table);
+        for (int round = 1; round <= rounds; ++round) {
+            values.set(QStringLiteral("Gain"), gain * round);
+            sets.save(QString::fromLatin1(set), values);
+        }
+    };
+    std::thread other(saveOften, "UserSet1", 0.2);
+    saveOften("UserSet2", 0.4);
+    other.join();
+    UserSets sets(table, path);
+    FeatureValues values(table);
+    sets.load(QStringLiteral("UserSet1"), values);
+    EXPECT_EQ(values.value(QStringLiteral("Gain")), 5.0);
+    sets.load(QStringLiteral("UserSet2"), values);
+    EXPECT_EQ(values.value(QStringLiteral("Gain")), 10.0);
 }
 
 TEST_F(UserSetsTest, DamagedFilesHarmNothing)

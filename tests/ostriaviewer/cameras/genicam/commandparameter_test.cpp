@@ -45,14 +45,14 @@ TEST_F(CommandParameter, WaitsWhileTheCameraIsBusy)
 
 TEST_F(CommandParameter, FailsWhenItTakesTooLong)
 {
-    map->setCommandTimeout(std::chrono::milliseconds(0));
+    use(testDescription(), std::chrono::milliseconds(0));
     const auto save = camera->commandParameter("Save"_q);
     EXPECT_EQ(refusalOf([&] { save->execute(); }), "Save: the camera does not finish the command.");
 }
 
 TEST_F(CommandParameter, OfAWriteOnlyRegisterIsDoneAtOnce)
 {
-    map->setCommandTimeout(std::chrono::milliseconds(0));
+    use(testDescription(), std::chrono::milliseconds(0));
     camera->commandParameter("Trigger"_q)->execute();
     EXPECT_EQ(port->word(Register::trigger), 7U);
 }

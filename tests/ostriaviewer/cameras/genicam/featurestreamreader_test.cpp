@@ -174,6 +174,17 @@ TEST_F(FeatureStreamReader, ATextThatIsTooLongIsRefusedWhole)
     EXPECT_EQ(savedLines(), full);
 }
 
+TEST_F(FeatureStreamReader, ATextWithANulIsRefusedWhole)
+{
+    ASSERT_EQ(load("DeviceName\tleft\n"_q), QString());
+    const QString named = savedLines();
+    EXPECT_EQ(load(QStringLiteral("DeviceName\tri\0ght\nGain\t2\n")),
+              "Line 1: DeviceName: the text has a NUL character.\n"_q);
+    EXPECT_EQ(load(QStringLiteral("DeviceName\t\0")).count(QLatin1Char('\n')), 1);
+    EXPECT_EQ(savedLines().section("DeviceName"_q, 1), named.section("DeviceName"_q, 1));
+    EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 2.0);
+}
+
 TEST_F(FeatureStreamReader, GarbageHarmsNothing)
 {
     const auto registers = port->bytes();

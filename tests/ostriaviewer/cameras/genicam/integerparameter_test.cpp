@@ -38,7 +38,7 @@ TEST_F(IntegerParameter, RefusesValuesBetweenIncrements)
 {
     const auto width = camera->integerParameter("Width"_q);
     EXPECT_EQ(refusalOf([&] { width->setValue(642, false); }),
-              "Width: 642 is no multiple of 4 above 16.");
+              "Width: 642 is not a multiple of 4 above 16.");
     width->setValue(644, false);
     EXPECT_EQ(width->value(), 644);
 }

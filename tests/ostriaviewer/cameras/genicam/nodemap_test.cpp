@@ -31,6 +31,28 @@ TEST_F(NodeMapTest, RefusesDescriptionsThatAreNone)
             << xml.substr(0, 40);
 }
 
+// The library's own parser does not bear it.
+TEST_F(NodeMapTest, IsMadeOnSeveralThreadsAtOnce)
+{
+    constexpr int threads = 4;
+    constexpr int rounds = 50;
+    std::atomic<int> ready = 0;
+    std::atomic<int> made = 0;
+    std::vector<std::thread> makers;
+    for (int i = 0; i < threads; ++i)
+        makers.emplace_back([&] {
+            ++ready;
+            while (ready < threads)
+                std::this_thread::yield();
+            for (int round = 0; round < rounds; ++round)
+                if (NodeMap::create(port, testDescription())->isConnected())
+                    ++made;
+        });
+    for (std::thread& maker : makers)
+        maker.join();
+    EXPECT_EQ(made, threads * rounds);
+}
+
 TEST_F(NodeMapTest, LivesWithDanglingReferences)
 {
     use(describe("<pFeature>NoSuch</pFeature><pFeature>I</pFeature><pFeature>Good</pFeature>",

@@ -164,9 +164,9 @@ TestCamera::TestCamera()
     use(testDescription());
 }
 
-void TestCamera::use(const std::string& description)
+void TestCamera::use(const std::string& description, std::chrono::milliseconds commandTimeout)
 {
-    map = Cameras::GenICam::NodeMap::create(port, description);
+    map = Cameras::GenICam::NodeMap::create(port, description, commandTimeout);
     camera = Cameras::GenICam::createParameterCollection(map, "Test Camera"_q);
 }
 

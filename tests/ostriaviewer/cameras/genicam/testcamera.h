@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -48,7 +49,8 @@ protected:
     TestCamera();
 
     /// Another description over the same registers, in place of the test camera's.
-    void use(const std::string& description);
+    void use(const std::string& description,
+             std::chrono::milliseconds commandTimeout = std::chrono::seconds(5));
 
     /// The text of saveFeatures without comment lines.
     QString savedLines();

@@ -135,7 +135,7 @@ TEST_F(CameraPoolTest, StatusFollowsTheCamera)
     m_registry.find<ICameraStreamControlService>()->stopAllAcquisitionsAndRecordings();
     EXPECT_FALSE(m_status->isAcquiringOrRecording(m_first));
     EXPECT_TRUE(m_status->isCameraOpen(m_first));
-    m_control->close(m_first);
+    m_first->close();
     EXPECT_FALSE(m_status->isCameraOpen(m_first));
 }
 
@@ -230,6 +230,37 @@ TEST_F(CameraPoolTest, AHandleMayOutliveThePoolsInterest)
     EXPECT_TRUE(m_control->openWithExclusiveAccess(m_first));
 }
 
+TEST_F(CameraPoolTest, TheControlServiceClosesOnlyWhatItHasOpened)
+{
+    ASSERT_TRUE(m_pool.open(m_first));
+    CameraPtr handle = m_control->getExclusiveAccess(m_first);
+    ASSERT_TRUE(handle);
+    m_control->close(m_first);
+    m_control->close(handle);
+    EXPECT_TRUE(m_first->isOpen()) << "the host's";
+
+    ASSERT_TRUE(m_second->open()); // by nobody's service
+    m_control->close(m_second);
+    EXPECT_TRUE(m_second->isOpen());
+}
+
+TEST_F(CameraPoolTest, ACameraThatTheHostOpensAgainIsTheHosts)
+{
+    CameraPtr handle = m_control->openWithExclusiveAccess(m_first);
+    ASSERT_TRUE(handle);
+    m_first->close();
+    ASSERT_TRUE(m_pool.open(m_first));
+    m_control->close(handle);
+    EXPECT_TRUE(m_first->isOpen());
+    handle.reset();
+
+    m_first->close();
+    handle = m_control->openWithExclusiveAccess(m_first);
+    ASSERT_TRUE(handle);
+    m_control->close(m_first);
+    EXPECT_FALSE(m_first->isOpen()) << "opened by the service again";
+}
+
 TEST_F(CameraPoolTest, ALostConnectionIsToldInTheServicesThread)
 {
     ASSERT_TRUE(m_pool.open(m_second));
@@ -254,7 +285,7 @@ TEST_F(CameraPoolTest, ParametersAreThereWhileTheCameraIsOpen)
     const auto features = service->parameterCollection(m_first);
     ASSERT_TRUE(features);
     EXPECT_EQ(features->integerParameter(QStringLiteral("DeviceColorPipelineVersion"))->value(), 1);
-    m_control->close(m_first);
+    m_first->close();
     EXPECT_FALSE(service->parameterCollection(m_first));
 }
 

@@ -5,6 +5,7 @@
 #include "discovery.h"
 #include "emulationtest.h"
 #include "frameprobe.h"
+#include "logrecorder.h"
 #include "servedemulation.h"
 
 #include <QCoreApplication>
@@ -66,7 +67,7 @@ struct BrokenDescription
 {
     const char* name;
     const char* xml;
-    const char* word; ///< that the message holds
+    const char* message;
 };
 
 class BrokenDescriptionTest : public GenicamCameraTest,
@@ -139,9 +140,19 @@ TEST_F(GenicamCameraTest, ShowsWholeImagesAloneWhenHalfOfThePacketsAreLost)
     ASSERT_TRUE(rig.camera()->startGrabbing());
     EXPECT_TRUE(becomes([&] {
         const auto statistics = rig.client()->statistics();
-        return statistics.delivered + statistics.damaged >= 20;
+        return statistics.damaged > 0 && statistics.delivered + statistics.damaged >= 20;
     }));
+    const LogRecorder log;
     rig.camera()->stopGrabbing();
+    const auto statistics = rig.client()->statistics();
+    EXPECT_GT(statistics.missingPackets, 0U);
+    EXPECT_EQ(statistics.delivered, probe.count());
+    ASSERT_EQ(log.entries().size(), 1);
+    EXPECT_TRUE(log.entries().first().text.contains(
+        QStringLiteral("%1 of %2 images were damaged on their way and left out (")
+            .arg(statistics.damaged + statistics.overrun)
+            .arg(statistics.damaged + statistics.overrun + statistics.delivered)))
+        << log.entries().first().text.toStdString();
     for (const auto& result : probe.results()) {
         ASSERT_TRUE(result->GrabSucceeded()) << result->errorText();
         ASSERT_EQ(result->image().size(), whole.size());
@@ -213,18 +224,31 @@ TEST_P(BrokenDescriptionTest, IsRefusedWithAReason)
     const Emulation::GigeServer server(
         std::make_shared<Misdescribed>(Emulation::serveEmulation(served), GetParam().xml),
         NetworkRig::address());
+    const LogRecorder log;
+    testing::internal::CaptureStderr();
     EXPECT_FALSE(rig.camera()->open());
-    EXPECT_TRUE(rig.camera()->lastErrorText().contains(QLatin1String(GetParam().word)))
-        << rig.camera()->lastErrorText().toStdString();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(rig.camera()->lastErrorText().toStdString(), GetParam().message);
+    const QString faulty =
+        QStringLiteral("The description of the camera \"127.0.0.1\" is faulty: ");
+    for (const LogEntry& entry : log.entries())
+        EXPECT_TRUE(entry.text.startsWith(faulty)) << entry.text.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, BrokenDescriptionTest,
-    testing::Values(BrokenDescription{"CutOff", "<RegisterDescription><Category", "description"},
-                    BrokenDescription{"NoDescription", "<html></html>", "description"},
-                    BrokenDescription{"NoXml", "hello", "description"},
-                    BrokenDescription{"NoTree", "<RegisterDescription></RegisterDescription>",
-                                      "description"}),
+    testing::Values(
+        BrokenDescription{"CutOff", "<RegisterDescription><Category",
+                          "The camera's description cannot be used: line 1: Premature end of "
+                          "document."},
+        BrokenDescription{"NoDescription", "<html></html>",
+                          "The description of the camera \"127.0.0.1\" cannot be used (Invalid "
+                          "Genicam data)."},
+        BrokenDescription{"NoXml", "hello",
+                          "The description of the camera \"127.0.0.1\" cannot be used (Invalid "
+                          "Genicam data)."},
+        BrokenDescription{"NoTree", "<RegisterDescription></RegisterDescription>",
+                          "The camera's description cannot be used: it has no feature tree."}),
     [](const auto& test) { return std::string(test.param.name); });
 
 TEST_F(GenicamCameraTest, RefusesARegisterThatTheCameraDoesNotHave)

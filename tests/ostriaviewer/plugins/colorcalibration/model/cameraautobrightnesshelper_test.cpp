@@ -230,7 +230,7 @@ TEST_F(CameraAutoBrightnessHelperTest, AStopBeforeTheBeginHolds)
     EXPECT_TRUE(m_patch.calls.isEmpty());
 }
 
-TEST_F(CameraAutoBrightnessHelperTest, AStopEndsTheRunAfterItsPass)
+TEST_F(CameraAutoBrightnessHelperTest, AStopEndsTheRunBeforeItsNextCall)
 {
     const auto camera = newCamera();
     m_patch.fixedLevel = 100.0;
@@ -242,12 +242,16 @@ TEST_F(CameraAutoBrightnessHelperTest, AStopEndsTheRunAfterItsPass)
     };
     helper.doWork();
     EXPECT_EQ(m_patch.passes, 3);
+    EXPECT_EQ(m_patch.calls.last(), "measure 1") << "nothing is written any more";
     EXPECT_EQ(finished.count(), 1);
 }
 
-TEST_F(CameraAutoBrightnessHelperTest, TheEndOfARunWaitsForItsThread)
+TEST_F(CameraAutoBrightnessHelperTest, TheEndOfARunStopsItAndWaitsForItsThread)
 {
+    // A run that would go on for minutes.
     const auto camera = newCamera();
+    camera->features().change("AutoExposureTimeUpperLimit",
+                              [](FakeFeature& limit) { limit.value = 1e300; });
     m_patch.fixedLevel = 100.0;
     QSemaphore measuring;
     m_patch.onMeasure = [&] {

@@ -209,6 +209,132 @@ TEST(CameraJustifyMatrix, GoesOnWithoutAGainThatTheCameraRefuses)
     EXPECT_EQ(camera->features().writes(), QStringList{"LightSourcePreset = Off"});
 }
 
+QStringList warningsOf(const LogRecorder& log)
+{
+    QStringList texts;
+    for (const LogEntry& entry : log.entries()) {
+        EXPECT_EQ(entry.level, 2);
+        EXPECT_EQ(entry.category, "ostria.viewer.plugins.colorCalibration.cameraJustify");
+        texts << entry.text;
+    }
+    return texts;
+}
+
+TEST(CameraJustifyMatrix, TellsOfAGainThatTheCameraRefuses)
+{
+    const LogRecorder log;
+    const auto camera = newCamera();
+    camera->features().change("ColorTransformationValue", [](FakeFeature& value) {
+        value.value = 0.25;
+        value.minimum = -1.0;
+        value.maximum = 1.0;
+    });
+    ColorMatrix matrix = dlib::identity_matrix<double>(3);
+    matrix(0, 1) = 1.5;
+    CameraJustify justify(camera);
+    justify.WriteColorMatrix(matrix);
+    // One value stands for all nine here, so the one that was refused is still the first one.
+    EXPECT_EQ(camera->features().writes().mid(1, 5),
+              (QStringList{"try ColorTransformationValueSelector = Gain01",
+                           "try ColorTransformationValueSelector = Gain02",
+                           "try ColorTransformationValue = 0",
+                           "try ColorTransformationValueSelector = Gain00",
+                           "try ColorTransformationValue = 0.75"}));
+    EXPECT_EQ(warningsOf(log),
+              QStringList{
+                  "The camera refuses Gain01 of the color matrix: it keeps 0.25 instead of 1.5."});
+}
+
+TEST(CameraJustifyMatrix, ClaimsNoValueThatItCannotRead)
+{
+    const LogRecorder log;
+    const auto camera = newCamera();
+    camera->features().change("ColorTransformationValue",
+                              [](FakeFeature& value) { value.readable = false; });
+    ColorMatrix matrix = dlib::zeros_matrix<double>(3, 3);
+    matrix(0, 1) = 1.5;
+    CameraJustify justify(camera);
+    justify.WriteColorMatrix(matrix);
+    EXPECT_EQ(warningsOf(log).value(0),
+              "The camera does not tell Gain01 of the color matrix, which should be 1.5.");
+}
+
+TEST(CameraJustifyMatrix, TellsOfAGainThatTheCameraDoesNotKnow)
+{
+    const LogRecorder log;
+    const auto camera = newCamera();
+    camera->features().change("ColorTransformationValueSelector", [](FakeFeature& selector) {
+        selector.entries = QStringList{"Gain00", "Gain01", "Gain02", "Gain10",
+                                       "Gain11", "Gain20", "Gain21", "Gain22"};
+    });
+    CameraJustify justify(camera);
+    writeIdentity(justify);
+    EXPECT_EQ(warningsOf(log),
+              QStringList{"The camera cannot select Gain12 of the color matrix; its value, 0, went "
+                          "to the gain that was selected before, or is lost."});
+}
+
+TEST(CameraJustifyMatrix, RoundingIsNoRefusal)
+{
+    const LogRecorder log;
+    const auto camera = newCamera();
+    camera->features().change("ColorTransformationValue",
+                              [](FakeFeature& value) { value.resolution = 1.0 / 64.0; });
+    ColorMatrix matrix = dlib::identity_matrix<double>(3);
+    matrix(1, 0) = 0.3;
+    CameraJustify justify(camera);
+    justify.WriteColorMatrix(matrix);
+    EXPECT_EQ(warningsOf(log), QStringList());
+}
+
+/// Each group that asks for the version twice, with a camera whose answer changes in between.
+TEST(CameraJustifyVersion, ThatChangesBetweenTwoQuestionsIsUnsupported)
+{
+    const std::vector<Operation> operations{
+        [](CameraJustify& justify) { justify.SetBlackLevelNeutral(); },
+        [](CameraJustify& justify) { justify.WriteGamma(1.0, true); },
+        [](CameraJustify& justify) { writeIdentity(justify); },
+        [](CameraJustify& justify) { justify.SetColorAdjustmentNeutral(); },
+        [](CameraJustify& justify) { justify.WriteWhiteBalance(1.0, 1.0, 1.0); },
+    };
+    for (std::size_t i = 0; i < operations.size(); ++i) {
+        const auto camera = newCamera();
+        camera->parameters().nextVersions = {{2, 0, 0}, {1, 5, 1}};
+        CameraJustify justify(camera);
+        try {
+            operations[i](justify);
+            ADD_FAILURE() << i;
+        } catch (const GenICam::RuntimeException& exception) {
+            EXPECT_STREQ(exception.what(), "Camera SFNC version is unsupported.") << i;
+        }
+    }
+}
+
+TEST(CameraJustifyTestImage, ComesBackOnce)
+{
+    const auto camera = newCamera();
+    camera->features().change("TestPattern", [](FakeFeature& one) { one.value = "Ramp"; });
+    CameraJustify justify(camera);
+    justify.DisableTestImage();
+    camera->features().forget();
+    justify.RestoreTestImage();
+    justify.RestoreTestImage();
+    EXPECT_EQ(camera->features().writes(), QStringList{"try TestPattern = Ramp"});
+}
+
+TEST(CameraJustifyTestImage, ThatCannotComeBackIsTold)
+{
+    const LogRecorder log;
+    const auto camera = newCamera();
+    camera->features().change("TestPattern", [](FakeFeature& one) { one.value = "Ramp"; });
+    CameraJustify justify(camera);
+    justify.DisableTestImage();
+    camera->features().change("TestPattern", [](FakeFeature& one) { one.refuses = true; });
+    justify.RestoreTestImage();
+    EXPECT_EQ(warningsOf(log), QStringList{"The camera's test image stays off: TestPattern cannot "
+                                           "be set to \"Ramp\" again."});
+}
+
 TEST(CameraJustifyMatrix, RaisesWhereThePresetExistsAndRefuses)
 {
     const auto camera = newCamera();
@@ -251,12 +377,13 @@ TEST(CameraJustifyAdjustment, LogsWhatItCouldNotWriteAndStoresAllTheSame)
     for (const char* name :
          {"ColorAdjustmentHue", "ColorAdjustmentSaturation", "ColorAdjustmentSelector"})
         for (const auto& spoil : {makeMissing, makeReadOnly}) {
-            const LogRecorder log;
             const auto camera = newCamera();
             spoil(*camera, name);
             CameraJustify justify(camera);
             justify.StoreInUserSet("UserSet1", true, false);
+            justify.WriteSrgbGamma(false); // stores again, which is told once
             camera->features().forget();
+            const LogRecorder log;
             EXPECT_NO_THROW(writeNeutralAdjustment(justify));
             EXPECT_EQ(camera->features().writes(),
                       (QStringList{"UserSetSelector = UserSet1", "execute UserSetSave"}));
@@ -283,7 +410,25 @@ TEST(CameraJustifyAdjustment, TakesTheMakersNamesWhereTheOthersAreMissing)
     EXPECT_EQ(camera->features().writes().size(), 18);
 }
 
-TEST(CameraJustifyNumbers, ThatAreNotFiniteReachNoCamera)
+QString messageOf(const std::function<void()>& write)
+{
+    try {
+        write();
+    } catch (const Core::Exception::BaseException& exception) {
+        return exception.getMessage();
+    }
+    return {};
+}
+
+QString noUsable(const QString& feature)
+{
+    return QStringLiteral("The measured colors give no usable %1, so the camera's was kept. Check "
+                          "that the grid lies on the chart and that the chart is lit, then "
+                          "calibrate again.")
+        .arg(feature);
+}
+
+TEST(CameraJustifyNumbers, ThatAreNotFiniteReachNoCameraAndAreTold)
 {
     for (const double bad :
          {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
@@ -292,11 +437,19 @@ TEST(CameraJustifyNumbers, ThatAreNotFiniteReachNoCamera)
         CameraJustify justify(camera);
         ColorMatrix matrix = dlib::identity_matrix<double>(3);
         matrix(2, 1) = bad;
-        ColorAdjustment adjustment = neutralAdjustment();
-        adjustment(11) = bad;
-        EXPECT_THROW(justify.WriteColorMatrix(matrix), Core::Exception::BaseException);
-        EXPECT_THROW(justify.WriteColorAdjustment(adjustment), Core::Exception::BaseException);
-        EXPECT_THROW(justify.WriteWhiteBalance(1.0, bad, 1.0), Core::Exception::BaseException);
+        ColorAdjustment hues = neutralAdjustment();
+        hues(5) = bad;
+        ColorAdjustment saturations = neutralAdjustment();
+        saturations(11) = bad;
+        EXPECT_EQ(messageOf([&] { justify.WriteColorMatrix(matrix); }),
+                  noUsable("ColorTransformationValue"));
+        EXPECT_EQ(messageOf([&] { justify.WriteColorAdjustment(hues); }),
+                  noUsable("ColorAdjustmentHue"));
+        EXPECT_EQ(messageOf([&] { justify.WriteColorAdjustment(saturations); }),
+                  noUsable("ColorAdjustmentSaturation"));
+        EXPECT_EQ(messageOf([&] { justify.WriteWhiteBalance(1.0, bad, 1.0); }),
+                  noUsable("BalanceRatio"));
+        EXPECT_EQ(messageOf([&] { justify.WriteGamma(bad, true); }), noUsable("Gamma"));
         EXPECT_TRUE(camera->features().writes().isEmpty());
     }
 }

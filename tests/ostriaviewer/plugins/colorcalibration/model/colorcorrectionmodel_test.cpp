@@ -7,6 +7,8 @@
 #include <QSignalSpy>
 #include <QTimer>
 
+#include <thread>
+
 using ColorCalibration::ColorCorrectionModel;
 using ColorCalibration::TrapezoidPoints;
 
@@ -165,6 +167,53 @@ TEST_F(ModelTest, OpenSwitchesTestImagesOff)
 {
     ASSERT_TRUE(open());
     EXPECT_EQ(writes(), (QStringList{"TestImageSelector = Off", "TestPattern = Off"}));
+}
+
+TEST_F(ModelTest, TestImagesComeBackUnlessTheCameraStaysCalibrated)
+{
+    const auto entryOf = [this](const char* feature) {
+        return m_camera->features().get(feature).value.toString();
+    };
+    for (const char* feature : {"TestImageSelector", "TestPattern"})
+        m_camera->features().change(feature, [](FakeFeature& one) { one.value = "Ramp"; });
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.Close());
+    EXPECT_EQ(entryOf("TestImageSelector"), "Ramp");
+    EXPECT_EQ(entryOf("TestPattern"), "Ramp");
+
+    m_camera->features().change("TestPattern", [](FakeFeature& one) { one.refuses = true; });
+    EXPECT_FALSE(open());
+    EXPECT_EQ(entryOf("TestImageSelector"), "Ramp") << "an opening that breaks off";
+    m_camera->features().change("TestPattern", [](FakeFeature& one) { one.refuses = false; });
+
+    const auto calibrate = [this] {
+        return open() && m_model.CreateSettingsBackup(false) &&
+               m_model.ApplyInitialColorPatchValues() && m_model.ExecuteCalibrationAndApply();
+    };
+    ASSERT_TRUE(calibrate());
+    ASSERT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(entryOf("TestPattern"), "Off") << "the wizard goes on from here";
+    ASSERT_TRUE(m_model.Close());
+    EXPECT_EQ(entryOf("TestPattern"), "Ramp");
+
+    ASSERT_TRUE(calibrate());
+    ASSERT_TRUE(m_model.Close());
+    EXPECT_EQ(entryOf("TestPattern"), "Off") << "a calibrated camera is there to be used";
+}
+
+TEST_F(ModelTest, AnOpeningDuringWhichTheConnectionBreaksFails)
+{
+    // When the camera has been looked at already, and by a thread of its own.
+    m_camera->features().beforeCall = [this](const QString& call) {
+        if (call != "version")
+            return;
+        std::thread camera([this] { m_camera->loseConnection(); });
+        camera.join();
+    };
+    EXPECT_FALSE(open());
+    m_camera->features().beforeCall = nullptr;
+    EXPECT_EQ(m_control.handles, 0);
+    EXPECT_TRUE(open()) << "it may come back";
 }
 
 TEST_F(ModelTest, CanBeOpenedAndClosedManyTimes)

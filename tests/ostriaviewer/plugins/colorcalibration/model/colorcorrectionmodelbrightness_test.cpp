@@ -39,19 +39,41 @@ TEST_F(ModelBrightnessTest, ARunSaysWhenItHasFinished)
     EXPECT_NEAR(m_model.GetExposureTime(), 1000.0, 10.0);
 }
 
-TEST_F(ModelBrightnessTest, ASecondRunEndsTheFirst)
+TEST_F(ModelBrightnessTest, TheEndOfARunThatAnotherReplacesIsNotTakenForTheEndOfThatOne)
+{
+    ASSERT_TRUE(open());
+    int ends = 0;
+    QEventLoop loop;
+    QObject::connect(&m_model, &Model::AutoAdjustGray80PercentPatchFinished, &loop, [&] {
+        ++ends;
+        loop.quit();
+    });
+    m_camera->delivery = Delivery::OnRelease;
+    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
+    // The first run has ended when the second one begins; its word is under way to this thread.
+    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ends, 0) << "the second run waits for its image";
+    m_camera->delivery = Delivery::OtherThread;
+    m_camera->releaseImage(); // of the first run
+    m_camera->releaseImage();
+    loop.exec();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ends, 1);
+    for (const QString& text : logTexts())
+        EXPECT_FALSE(text.startsWith("2 Autoadjust failed.")) << "it was stopped, not starved";
+}
+
+TEST_F(ModelBrightnessTest, TheEndOfARunThatIsStoppedIsTold)
 {
     ASSERT_TRUE(open());
     const QSignalSpy finished(&m_model, &Model::AutoAdjustGray80PercentPatchFinished);
-    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
-    EXPECT_TRUE(m_model.AutoAdjustGray80PercentPatch());
-    QEventLoop loop;
-    QObject::connect(&m_model, &Model::AutoAdjustGray80PercentPatchFinished, &loop, [&] {
-        if (finished.count() >= 2)
-            loop.quit();
-    });
-    loop.exec();
-    EXPECT_EQ(finished.count(), 2);
+    m_camera->delivery = Delivery::OnRelease;
+    ASSERT_TRUE(m_model.AutoAdjustGray80PercentPatch());
+    m_camera->releaseImage();
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(finished.count(), 1);
 }
 
 TEST_F(ModelBrightnessTest, CloseEndsARunThatWaitsForAnImage)
@@ -102,6 +124,8 @@ protected:
         // The patch is too dark, so that the worker would raise the exposure time.
         showChart(*m_camera, castColors());
         ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+        ASSERT_TRUE(m_model.StoreDetectedExposureAndGain());
+        ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
         m_camera->delivery = Delivery::OnRelease;
         m_camera->onRequest = [this] {
             m_requested.release();
@@ -132,9 +156,17 @@ TEST_F(ModelStoppedRunTest, RestoringABackupEndsTheRunSoThatItWritesNothingBehin
 
 TEST_F(ModelStoppedRunTest, SettingsThatAreWrittenEndTheRun)
 {
+    // Those that take an image for themselves find one at once.
     const QVector<std::function<bool()>> operations{
         [this] { return m_model.SetNeutralSettings(); },
         [this] { return m_model.LoadSettings("Gamma\t3\n"); },
+        [this] {
+            m_camera->delivery = Delivery::AtOnce;
+            return m_model.ExecuteWhitebalance();
+        },
+        [this] { return m_model.ExecuteCalibrationAndApply(); },
+        [this] { return m_model.StoreDetectedExposureAndGain(); },
+        [this] { return m_model.RestoreDetectedExposureAndGain(); },
     };
     for (const auto& operation : operations) {
         startRun();

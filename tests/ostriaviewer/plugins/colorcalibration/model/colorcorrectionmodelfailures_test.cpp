@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // Tests of what the model logs and answers when the camera fails.
 #include "baseexception.h"
+#include "colorcalibrationv1.h"
+#include "expectedwrites.h"
 #include "modeltest.h"
+#include "patchcolorconversion.h"
+#include "stepkey.h"
 
+#include <QBuffer>
 #include <QImage>
+#include <QSignalSpy>
 
 #include <stdexcept>
 
@@ -32,6 +38,14 @@ std::vector<Failing> failures()
          [](Model& model) { return model.LoadSettings("text"); }, "load"},
         {"LoadSettings", "Error: Load settings to camera failed.",
          [](Model& model) { return model.LoadSettings("text"); }, "stop"},
+        {"LoadSettings", "Error: Load settings to camera failed.",
+         [](Model& model) {
+             QBuffer file;
+             file.setData("Gamma\t1\n");
+             file.open(QIODevice::ReadOnly);
+             return model.LoadSettingsFromDevice(&file);
+         },
+         "load"},
         {"SetNeutralSettings", "Error: Set neutral camera settings failed.",
          [](Model& model) { return model.SetNeutralSettings(); }, "Gamma"},
         {"SetNeutralSettings", "Error: Set neutral camera settings failed.",
@@ -58,7 +72,10 @@ std::vector<Failing> failures()
     };
 }
 
-/// Operations without a message of their own: the second entry stands alone.
+/// Operations without a message of their own: the second entry stands alone. Those that are missing
+/// here work on what the model has measured, and ask neither camera nor file: GetGridPosition,
+/// SetGridPosition, GetColorPatchTrapezoids, the initial, the target and the current colors, the
+/// initial image. Nothing short of the end of memory makes them fail.
 std::vector<Failing> failuresWithoutMessage()
 {
     return {
@@ -91,8 +108,40 @@ std::vector<Failing> failuresWithoutMessage()
              return model.GetGainRange(a, a, a);
          },
          "read maximum of Gain"},
+        // Nothing is answered by these.
+        {"ActivateMonoImage", "",
+         [](Model& model) {
+             model.ActivateMonoImage();
+             return false;
+         },
+         "features"},
+        {"DisableAutoFunctions", "",
+         [](Model& model) {
+             model.DisableAutoFunctions();
+             return false;
+         },
+         "features"},
     };
 }
+
+/// What a file's driver does when the file goes away while it is read.
+template <typename Exception>
+class BrokenFile : public QIODevice
+{
+public:
+    explicit BrokenFile(const Exception& exception)
+        : m_exception(exception)
+    {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+
+protected:
+    qint64 readData(char* /*data*/, qint64 /*size*/) override { throw m_exception; }
+    qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
+
+private:
+    Exception m_exception;
+};
 
 class ModelFailureTest : public ModelTest
 {
@@ -119,6 +168,12 @@ protected:
                 throw exception;
         };
         EXPECT_NO_THROW(EXPECT_FALSE(failing.operation(m_model))) << failing.function;
+        return modelEntries(log);
+    }
+
+    /// Texts of entries that must come from the model, at level 2.
+    static QStringList modelEntries(const LogRecorder& log)
+    {
         QStringList texts;
         for (const LogEntry& entry : log.entries()) {
             EXPECT_EQ(entry.level, 2);
@@ -127,6 +182,15 @@ protected:
             texts << entry.text;
         }
         return texts;
+    }
+
+    void expectWords(const Failing& failing)
+    {
+        EXPECT_EQ(entriesOf(failing, Core::Exception::BaseException("the host's")),
+                  expected(failing, ":the host's"));
+        EXPECT_EQ(entriesOf(failing, std::runtime_error("the library's")),
+                  expected(failing, ": the library's"));
+        EXPECT_EQ(entriesOf(failing, 'x'), expected(failing, ": Unspecified exception occurred."));
     }
 
     static QStringList expected(const Failing& failing, const QString& tail)
@@ -142,14 +206,47 @@ protected:
 TEST_F(ModelFailureTest, EachOperationHasItsWords)
 {
     for (const auto& list : {failures(), failuresWithoutMessage()})
-        for (const Failing& failing : list) {
-            EXPECT_EQ(entriesOf(failing, Core::Exception::BaseException("the host's")),
-                      expected(failing, ":the host's"));
-            EXPECT_EQ(entriesOf(failing, std::runtime_error("the library's")),
-                      expected(failing, ": the library's"));
-            EXPECT_EQ(entriesOf(failing, 'x'),
-                      expected(failing, ": Unspecified exception occurred."));
-        }
+        for (const Failing& failing : list)
+            expectWords(failing);
+}
+
+TEST_F(ModelFailureTest, EachChangeThatCannotBeReadHasItsWordsAndIsNotTold)
+{
+    const QSignalSpy exposures(&m_model, &Model::ExposureTimeValueChanged);
+    const QSignalSpy gains(&m_model, &Model::GainValueChanged);
+    const auto changeOf = [this](const char* feature) {
+        return [this, feature](Model&) {
+            m_camera->parameters().emitChanged(feature);
+            return false;
+        };
+    };
+    expectWords({"onExposureChanged", "", changeOf("ExposureTime"), "read value of ExposureTime"});
+    expectWords({"onGainChanged", "", changeOf("Gain"), "read value of Gain"});
+    m_camera->features().beforeCall = nullptr;
+    ASSERT_TRUE(m_model.Close());
+    use(oldCamera());
+    ASSERT_TRUE(open());
+    expectWords({"onGainRawChanged", "", changeOf("GainRaw"), "read value of GainRaw"});
+    EXPECT_EQ(exposures.count(), 0);
+    EXPECT_EQ(gains.count(), 0);
+}
+
+TEST_F(ModelFailureTest, ASettingsFileThatCannotBeReadHasItsWordsAndChangesNothing)
+{
+    const Failing failing{"LoadSettingsFromDevice", "", nullptr, ""};
+    const auto entriesOfBroken = [this](const auto& exception) {
+        const LogRecorder log;
+        BrokenFile<std::decay_t<decltype(exception)>> file(exception);
+        EXPECT_FALSE(m_model.LoadSettingsFromDevice(&file));
+        return modelEntries(log);
+    };
+    m_camera->features().forget();
+    EXPECT_EQ(entriesOfBroken(Core::Exception::BaseException("the host's")),
+              expected(failing, ":the host's"));
+    EXPECT_EQ(entriesOfBroken(std::runtime_error("the library's")),
+              expected(failing, ": the library's"));
+    EXPECT_EQ(entriesOfBroken('x'), expected(failing, ": Unspecified exception occurred."));
+    EXPECT_EQ(writes(), QStringList());
 }
 
 TEST_F(ModelFailureTest, BrightnessThatCannotStartHasItsWords)
@@ -168,7 +265,24 @@ TEST_F(ModelFailureTest, AFailedCalibrationLeavesWhatItHasWritten)
     m_camera->features().forget();
     m_camera->features().change("Gamma", [](FakeFeature& one) { one.refuses = true; });
     EXPECT_FALSE(m_model.ExecuteCalibrationAndApply());
-    EXPECT_EQ(writes().size(), 6 + 1 + 18 + 18);
+    // The engine by itself, on the colors that were measured.
+    QVector<QColor> measured;
+    ASSERT_EQ(m_model.GetColorPatchValues(measured, true), 24);
+    ColorCalibration::ColorCalibrationV1 engine;
+    engine.SetStepColors(ColorCalibration::StepKey::Original,
+                         ColorCalibration::toPatchColors(measured, false));
+    engine.ExecuteAll();
+    double red = 0.0;
+    double green = 0.0;
+    double blue = 0.0;
+    engine.GetWhiteBalance(red, green, blue);
+    ColorCalibration::ColorMatrix matrix;
+    engine.GetColorMatrix(matrix);
+    ColorCalibration::ColorAdjustment adjustment;
+    engine.GetColorAdjustment(adjustment);
+    EXPECT_EQ(writes(), balanceWrites("BalanceRatio", red, green, blue) +
+                            QStringList{"LightSourcePreset = Off"} + gainWrites(matrix) +
+                            sectorWrites(adjustment));
 }
 
 TEST_F(ModelFailureTest, DetectedValuesThatCannotComeBackAreLogged)

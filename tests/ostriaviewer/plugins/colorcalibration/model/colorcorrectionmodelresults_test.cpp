@@ -133,6 +133,37 @@ TEST_F(ModelResultsTest, StoresAndStaysArmed)
         << "a group that is written later is saved again";
 }
 
+TEST_F(ModelResultsTest, ReplacingAUserSetIsToldOnce)
+{
+    ASSERT_TRUE(calibrate());
+    ASSERT_TRUE(m_model.StoreSettingsInUserSet("UserSet1", true));
+    EXPECT_TRUE(logTexts().isEmpty());
+    m_camera->features().forget();
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    EXPECT_TRUE(writes().contains("execute UserSetSave"));
+    EXPECT_EQ(
+        logTexts(),
+        QStringList("2 The user set \"UserSet1\" follows the camera's settings until the camera "
+                    "is closed: what was stored in it has just been replaced. Store it anew "
+                    "when the calibration is done."));
+    ASSERT_TRUE(m_model.StoreSettingsInUserSet("UserSet1", true));
+    ASSERT_TRUE(m_model.ExecuteWhitebalance());
+    EXPECT_EQ(logTexts().size(), 2) << "once for each storing";
+}
+
+TEST_F(ModelResultsTest, AnotherCameraGetsNoneOfTheFirstOnesResults)
+{
+    ASSERT_TRUE(calibrate());
+    ASSERT_FALSE(m_model.GetCalibrationResultsJson()["Colors"].toObject().isEmpty());
+    ASSERT_TRUE(m_model.Close());
+    use(newCamera());
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(m_model.GetCalibrationResultsJson()["Colors"].toObject().isEmpty());
+    QImage image;
+    EXPECT_FALSE(m_model.GetInitialCameraImage(image));
+    EXPECT_FALSE(m_model.SaveSummaryToFile(m_folder.path()));
+}
+
 TEST_F(ModelResultsTest, IsNotArmedAfterTheCameraWasClosed)
 {
     ASSERT_TRUE(open());
@@ -162,6 +193,7 @@ TEST_F(ModelResultsTest, AUserSetThatRefusesLeavesDefaultAndStateAsTheyWere)
     EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", true));
     EXPECT_EQ(m_camera->features().get("UserSetDefault").value, "Default")
         << "the camera would start with a set that lacks the settings";
+    EXPECT_EQ(m_camera->features().get("UserSetSelector").value, "Default");
     m_camera->features().beforeCall = nullptr;
     m_camera->features().forget();
     EXPECT_TRUE(m_model.ExecuteWhitebalance());
@@ -174,6 +206,36 @@ TEST_F(ModelResultsTest, AUserSetThatRefusesLeavesDefaultAndStateAsTheyWere)
     EXPECT_EQ(writes().mid(writes().size() - 2),
               (QStringList{"UserSetSelector = MYUSERSET2", "execute UserSetSave"}))
         << "armed as it was";
+}
+
+TEST_F(ModelResultsTest, TheDefaultIsReadOnlyWhereItIsToBeChanged)
+{
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    ASSERT_TRUE(m_model.StoreSettingsInUserSet("UserSet1", false));
+    EXPECT_FALSE(m_camera->features().journal().contains("read value of UserSetDefault"));
+    m_camera->features().beforeCall = [](const QString& call) {
+        if (call.startsWith("read value of UserSet"))
+            throw GenICam::RuntimeException("reason");
+    };
+    EXPECT_TRUE(m_model.StoreSettingsInUserSet("UserSet1", true)) << "nothing to come back to";
+}
+
+TEST_F(ModelResultsTest, ADefaultThatDoesNotComeBackIsTold)
+{
+    m_camera->parameters().addEnumeration("UserSetDefault", {"Default", "UserSet1"});
+    ASSERT_TRUE(open());
+    m_camera->features().beforeCall = [this](const QString& call) {
+        if (call.startsWith("UserSetDefault = Default") || call.startsWith("try UserSetDefault") ||
+            call.startsWith("execute UserSetSave"))
+            throw Core::Exception::BaseException("reason");
+    };
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", true));
+    EXPECT_EQ(logTexts(),
+              (QStringList{"2 Store settings in UserSet failed.",
+                           "2 ColorCorrectionModelImpl::StoreSettingsInUserSet:The camera may "
+                           "start with the user set \"UserSet1\", which was not saved: it could "
+                           "not be told to start with \"Default\" again. reason"}));
 }
 
 TEST_F(ModelResultsTest, WhatWasMeasuredBeforeACalibrationIsNotItsOutcome)
@@ -240,6 +302,22 @@ TEST_F(ModelResultsTest, ANewCalibrationIsFetchedAnew)
     QFile file(m_folder.filePath(saved("*").first()) + "/Calibrated.cst");
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("Gamma\t6\n"));
+}
+
+TEST_F(ModelResultsTest, ResultsWithoutPatchesAreFetchedAgain)
+{
+    ASSERT_TRUE(calibrate());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    QVector<QColor> colors;
+    m_camera->delivery = Delivery::Refused;
+    EXPECT_EQ(m_model.GetColorPatchValues(colors, true), 0);
+    EXPECT_TRUE(m_model.GetCalibrationResultsJson()["Colors"].toObject().isEmpty());
+    m_camera->delivery = Delivery::AtOnce;
+    ASSERT_EQ(m_model.GetColorPatchValues(colors, true), 24);
+    ASSERT_TRUE(m_model.SaveSummaryToFile(m_folder.path()));
+    QFile report(m_folder.filePath(saved("*").first()) + "/calibration_report.html");
+    ASSERT_TRUE(report.open(QIODevice::ReadOnly));
+    EXPECT_EQ(report.readAll().count("R: "), 24 * 3);
 }
 
 TEST_F(ModelResultsTest, ASummaryWithoutAnImageFailsAndSaysWhy)

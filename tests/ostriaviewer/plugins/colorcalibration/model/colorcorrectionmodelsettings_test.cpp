@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-// Tests of the model's settings: neutral state, backups, exposure and gain, the grid's position.
+// Tests of the model's settings: neutral state, backups, files, exposure and gain.
 #include "expectedwrites.h"
 #include "modeltest.h"
 
 #include <QBuffer>
-#include <QPointF>
+#include <QTemporaryFile>
 
-#include <cmath>
 #include <limits>
 
 using namespace ColorCalibration;
@@ -131,6 +130,21 @@ TEST_F(ModelTest, FilesThatAreNoSettingsAreRefused)
     EXPECT_TRUE(writes().isEmpty());
 }
 
+TEST_F(ModelTest, AFileOfAHundredMegabytesIsRefused)
+{
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write("Gamma\t3\n");
+    ASSERT_TRUE(file.resize(100'000'000));
+    file.seek(0);
+    EXPECT_FALSE(m_model.LoadSettingsFromDevice(&file));
+    EXPECT_EQ(logTexts(), QStringList("2 ColorCorrectionModelImpl::LoadSettingsFromDevice:The file "
+                                      "is too large for a settings file."));
+    EXPECT_TRUE(writes().isEmpty());
+}
+
 TEST_F(ModelTest, ASettingThatDoesNotComeBackIsTold)
 {
     ASSERT_TRUE(open());
@@ -139,8 +153,69 @@ TEST_F(ModelTest, ASettingThatDoesNotComeBackIsTold)
     EXPECT_TRUE(logTexts().isEmpty());
     m_camera->features().remove("Gamma");
     EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
-    EXPECT_EQ(logTexts(), QStringList("2 Not all settings of the camera came back; the first that "
-                                      "did not: Gamma\t0.25"));
+    EXPECT_EQ(logTexts(), QStringList("2 A setting of the camera did not come back: Gamma\t0.25"));
+}
+
+TEST_F(ModelTest, ASettingThatDidNotComeBackComesWithALaterBackup)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    m_camera->features().remove("Gamma");
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    m_camera->parameters().addFloat("Gamma", 7.0);
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false)) << "of a state that is not the user's";
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 0.25);
+
+    m_camera->parameters().addFloat("Gamma", 9.0);
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 7.0) << "nothing is owed now";
+}
+
+TEST_F(ModelTest, ABackupIsOwedUntilItIsBackWhole)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    EXPECT_FALSE(m_model.IsBackupOwed()) << "there is none";
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    EXPECT_FALSE(m_model.IsBackupOwed());
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    EXPECT_TRUE(m_model.IsBackupOwed());
+
+    m_camera->features().remove("Gamma");
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_TRUE(m_model.IsBackupOwed()) << "a setting is missing";
+    EXPECT_EQ(logTexts().filter("did not come back").size(), 1) << "written once";
+
+    m_camera->parameters().addFloat("Gamma", 7.0);
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_FALSE(m_model.IsBackupOwed());
+    ASSERT_TRUE(m_model.LoadSettings("Gamma\t2\n"));
+    EXPECT_TRUE(m_model.IsBackupOwed());
+}
+
+TEST_F(ModelTest, ALostCameraStillOwesItsBackup)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    m_camera->loseConnection();
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_TRUE(m_model.IsBackupOwed());
+    m_model.Close();
+    EXPECT_FALSE(m_model.IsBackupOwed());
+}
+
+TEST_F(ModelTest, EverySettingThatIsNotLoadedIsTold)
+{
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(m_model.LoadSettings("None\t1\nGamma\t2\nNor this\t3\n"));
+    EXPECT_EQ(logTexts(), (QStringList{"2 A setting was not loaded: None\t1",
+                                       "2 A setting was not loaded: Nor this\t3"}));
+    const int before = logTexts().size();
+    EXPECT_TRUE(m_model.LoadSettings(QString("None\t1\n").repeated(250)));
+    EXPECT_EQ(logTexts().size() - before, 201) << "few enough to read";
+    EXPECT_EQ(logTexts().last(), "2 At least 50 more lines of settings were skipped.");
 }
 
 TEST_F(ModelTest, MonoImageAndAutoFunctionsReachTheCamera)
@@ -303,80 +378,6 @@ TEST_F(ModelTest, ResultsOfTheRestoringSettersAreIgnored)
     ASSERT_TRUE(m_model.StoreDetectedExposureAndGain());
     m_camera->features().change("Gain", [](FakeFeature& one) { one.writable = false; });
     EXPECT_TRUE(m_model.RestoreDetectedExposureAndGain());
-}
-
-TEST_F(ModelTest, ACameraModelSeenForTheFirstTimeGetsTheMiddleOfTheImage)
-{
-    ASSERT_TRUE(open());
-    EXPECT_EQ(m_model.GetGridPosition(), TrapezoidPoints({12, 8}, {108, 8}, {12, 72}, {108, 72}));
-}
-
-TEST_F(ModelTest, TheGridIsKeptAsSharesOfTheImagePerCameraModel)
-{
-    ASSERT_TRUE(open());
-    m_model.SetGridPosition(TrapezoidPoints({30, 20}, {90, 24}, {36, 60}, {96, 64}));
-    ASSERT_TRUE(m_model.Close());
-    QSettings settings;
-    const QString group("ColCalPlugin/GridPosition Fake 100/");
-    EXPECT_EQ(settings.value(group + "TopLeft").toPointF(), QPointF(0.25, 0.25));
-    EXPECT_EQ(settings.value(group + "TopRight").toPointF(), QPointF(0.75, 0.3));
-    EXPECT_EQ(settings.value(group + "BottomRight").toPointF(), QPointF(0.8, 0.8));
-    EXPECT_EQ(settings.value(group + "BottomLeft").toPointF(), QPointF(0.3, 0.75));
-
-    const auto another = newCamera();
-    another->parameters().addInteger("Width", 240);
-    use(another);
-    ASSERT_TRUE(open());
-    EXPECT_EQ(m_model.GetGridPosition(), TrapezoidPoints({60, 20}, {180, 24}, {72, 60}, {192, 64}))
-        << "shares carry over to another size";
-    ASSERT_TRUE(m_model.Close());
-
-    use(newCamera());
-    m_camera->model = "Fake 200";
-    ASSERT_TRUE(open());
-    EXPECT_EQ(m_model.GetGridPosition(), TrapezoidPoints({12, 8}, {108, 8}, {12, 72}, {108, 72}));
-}
-
-TEST_F(ModelTest, TheGridIsKeptForModelsOfAnyName)
-{
-    const TrapezoidPoints outline({30, 20}, {90, 24}, {36, 60}, {96, 64});
-    m_camera->model = QString::fromUtf8("a/b\\c: <d> & \"e\" %1 \u6821\u6b63");
-    ASSERT_TRUE(open());
-    m_model.SetGridPosition(outline);
-    ASSERT_TRUE(m_model.Close());
-    m_model.SetGridPosition(TrapezoidPoints({1, 2}, {3, 4}, {5, 6}, {7, 8}));
-    QSettings().sync();
-    ASSERT_TRUE(open());
-    EXPECT_EQ(m_model.GetGridPosition(), outline);
-}
-
-TEST_F(ModelTest, AGridThatCannotBeUsedFallsBackToTheMiddle)
-{
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const QString group("ColCalPlugin/GridPosition Fake 100/");
-    for (const QVariant& bad :
-         {QVariant("nonsense"), QVariant(QPointF(nan, 0.5)), QVariant(QPointF(0.5, 1e300)),
-          QVariant(QPointF(-std::numeric_limits<double>::infinity(), 0.0))}) {
-        QSettings().setValue(group + "TopLeft", bad);
-        ASSERT_TRUE(open());
-        EXPECT_EQ(m_model.GetGridPosition().upperLeft(), QPoint(12, 8));
-        ASSERT_TRUE(m_model.Close());
-    }
-}
-
-TEST_F(ModelTest, WithoutAnImageSizeTheGridStaysAndNothingIsStored)
-{
-    const TrapezoidPoints outline({1, 2}, {3, 4}, {5, 6}, {7, 8});
-    m_model.SetGridPosition(outline);
-    m_camera->features().remove("Height");
-    ASSERT_TRUE(open());
-    EXPECT_EQ(m_model.GetGridPosition(), outline);
-    ASSERT_TRUE(m_model.Close());
-    m_camera->parameters().addInteger("Height", 0);
-    ASSERT_TRUE(open());
-    ASSERT_TRUE(m_model.Close());
-    EXPECT_TRUE(QSettings().allKeys().isEmpty());
-    EXPECT_TRUE(logTexts().isEmpty());
 }
 
 } // namespace

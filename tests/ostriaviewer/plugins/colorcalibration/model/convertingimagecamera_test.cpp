@@ -5,6 +5,9 @@
 #include "fakecamera.h"
 #include "logrecorder.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -97,6 +100,41 @@ TEST_F(ConvertingImageCameraTest, AFirstRequestThatFailsWasTheFirstAllTheSame)
     m_camera->delivery = Delivery::AtOnce;
     EXPECT_TRUE(m_converting.GrabSingle(image, true));
     EXPECT_EQ(m_camera->timeouts(), (QVector<int>{200, 5000}));
+}
+
+/// Sees the end of the first request's time before the request does.
+class FirstTimeOut : public QObject
+{
+public:
+    FirstTimeOut() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool await() { return m_over.tryAcquire(1, 10000); }
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* timer = qobject_cast<QTimer*>(watched);
+        if (timer && event->type() == QEvent::Timer && timer->interval() == 200)
+            m_over.release();
+        return false;
+    }
+
+    QSemaphore m_over;
+};
+
+TEST_F(ConvertingImageCameraTest, AnImageInTimeCountsAlsoIfItsConversionOutlastsTheTimeOut)
+{
+    FirstTimeOut timeOut;
+    m_camera->delivery = Delivery::OtherThread;
+    nextImageIs(42);
+    // On the delivering thread, and heard before the request hears of the image.
+    QObject::connect(
+        &m_converting, &ConvertingImageCamera::imageGrabbed, &m_converting,
+        [&timeOut] { EXPECT_TRUE(timeOut.await()); }, Qt::DirectConnection);
+    Image image;
+    EXPECT_TRUE(m_converting.GrabSingle(image, true));
+    EXPECT_EQ(red(image), 42);
+    EXPECT_EQ(m_camera->stops, 0);
 }
 
 TEST_F(ConvertingImageCameraTest, UntriggeredRequestsUseTheCamerasOwnTimeOut)

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSet>
+#include <QWindow>
 
 namespace {
 
@@ -75,6 +76,30 @@ TEST_F(PluginCommandTest, ASecondStartReusesTheDialogUnderANewTitle)
     select(camera("cVTX %2"));
     EXPECT_EQ(titlesOfWizards(), QStringList("Color Calibrator - cVTX %2"));
     EXPECT_EQ(m_windows.size(), 1);
+}
+
+TEST_F(PluginCommandTest, TheWizardSpeaksTheLanguageOfItsStart)
+{
+    startWith(camera("cVTX 1"));
+    auto* localized = qobject_cast<Core::Plugin::ALocalizedPlugin*>(m_plugin);
+    QStringList seen;
+    const auto look = [&seen](QDialog& window) {
+        seen << window.windowTitle();
+        QSet<const QObject*> scenes;
+        for (const QWindow* each : QGuiApplication::allWindows())
+            scenes.insert(each->findChild<QObject*>("root"));
+        scenes.remove(nullptr);
+        for (const QObject* scene : scenes)
+            seen << scene->property("tStep1").toString();
+        window.close();
+    };
+    for (const char* language : {"ja", "ko", "zh", "xx"}) {
+        localized->setLanguage(language);
+        trigger(look);
+    }
+    EXPECT_EQ(seen, QStringList({"カラーキャリブレーター - cVTX 1", "グリッドの配置",
+                                 "컬러 캘리브레이터 - cVTX 1", "그리드 배치", "色彩校准器 - cVTX 1",
+                                 "放置网格", "Color Calibrator - cVTX 1", "Position Grid"}));
 }
 
 TEST_F(PluginCommandTest, AsksBeforeItStopsWhatRuns)
@@ -155,18 +180,19 @@ TEST_F(PluginCommandTest, ACameraThatCannotBeOpenedIsToldWithItsOwnReason)
 {
     startWith(camera("cVTX 1"));
     m_control->refuses = true;
-    m_camera->error = "Another program uses the camera.";
+    m_camera->error = "Another program uses <Gain> of the camera.";
     QStringList texts;
     trigger([&](QDialog& window) {
         auto* box = qobject_cast<QMessageBox*>(&window);
         ASSERT_TRUE(box);
         texts << box->windowTitle() + ": " + box->text();
+        EXPECT_EQ(box->textFormat(), Qt::PlainText) << "nothing in angle brackets gets lost";
         EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
         EXPECT_EQ(box->iconPixmap().size(), QSize(32, 32));
         EXPECT_FALSE(m_camera->error.isEmpty()) << "cleared after the box";
         box->button(QMessageBox::Ok)->click();
     });
-    EXPECT_EQ(texts, QStringList("Color Calibrator: Another program uses the camera."));
+    EXPECT_EQ(texts, QStringList("Color Calibrator: Another program uses <Gain> of the camera."));
     EXPECT_TRUE(m_camera->error.isEmpty());
     m_control->refuses = false;
     EXPECT_EQ(titlesOfWizards().size(), 1) << "the next start works";
@@ -179,7 +205,8 @@ TEST_F(PluginCommandTest, WithoutAControlServiceNoCameraCanBeOpened)
     trigger([&boxes](QDialog& window) {
         auto* box = qobject_cast<QMessageBox*>(&window);
         ASSERT_TRUE(box);
-        EXPECT_FALSE(box->text().isEmpty()) << "a camera without a reason still gets words";
+        EXPECT_TRUE(box->text().contains("start the Color Calibrator again"))
+            << "a camera without a reason still gets words that say what to do";
         ++boxes;
         window.accept();
     });

@@ -115,6 +115,25 @@ TEST_F(CalibrationResultTest, EndsASummaryWithTheFirstFailure)
     EXPECT_TRUE(log.entries().first().text.contains("calibrated.png"));
 }
 
+TEST_F(CalibrationResultTest, EachFileOfASummaryComesInItsTurn)
+{
+    const QStringList order{"calibrated.cst", "original.cst", "calibration_report.html",
+                            "calibrated.png", "original.png"};
+    for (int failing = 0; failing < order.size(); ++failing) {
+        ASSERT_TRUE(QDir(path(m_reportFolder)).removeRecursively());
+        ASSERT_TRUE(QDir().mkpath(path(m_reportFolder + '/' + order[failing])));
+        const LogRecorder log;
+        EXPECT_FALSE(saveSummary()) << order[failing].toStdString();
+        QStringList files = QDir(path(m_reportFolder)).entryList(QDir::Files | QDir::Hidden);
+        QStringList expected = order.mid(0, failing);
+        files.sort();
+        expected.sort();
+        EXPECT_EQ(files, expected) << order[failing].toStdString();
+        ASSERT_EQ(log.entries().size(), 1);
+        EXPECT_TRUE(log.entries().first().text.contains(order[failing]));
+    }
+}
+
 TEST_F(CalibrationResultTest, SavesWhileOthersHoldAllThreadsOfThePool)
 {
     QThreadPool& pool = *QThreadPool::globalInstance();

@@ -122,6 +122,18 @@ TEST_P(ReportInBrowser, DrawsThePixels)
             << patch.toObject()["Target"].toString().toStdString();
 }
 
+using ReportOnPaper = ReportInBrowser;
+
+TEST_P(ReportOnPaper, FillsTwoPages)
+{
+    const QString document = m_folder.filePath("printed.pdf");
+    runBrowser({"--print-to-pdf=" + document});
+    const QRegularExpression count("/Type /Pages\\s+/Count (\\d+)");
+    const QByteArray bytes = fileBytes(document);
+    EXPECT_EQ(count.match(QString::fromLatin1(bytes.constData(), bytes.size())).captured(1), "2");
+}
+
+INSTANTIATE_TEST_SUITE_P(AtWidth, ReportOnPaper, testing::Values(800));
 INSTANTIATE_TEST_SUITE_P(AtWidth, ReportInBrowser, testing::Values(800, 1280, 1920));
 
 } // namespace

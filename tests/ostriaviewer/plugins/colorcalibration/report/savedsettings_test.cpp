@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // Tests of what a whole calibration of an emulated camera leaves behind.
 #include "emulatedcalibration.h"
+#include "generationname.h"
+#include "logrecorder.h"
 #include "reportdata.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QJsonArray>
 
@@ -121,7 +124,82 @@ TEST_P(SavedSettings, ResultsTellOfACalibrationThatHelped)
 
 INSTANTIATE_TEST_SUITE_P(EachGeneration, SavedSettings,
                          testing::Values(Names::FirstGeneration, Names::SecondGeneration,
-                                         Names::SecondGenerationMaker));
+                                         Names::SecondGenerationMaker),
+                         generationName);
+
+class SettingsFile : public testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_TRUE(m_calibration.open()); }
+
+    bool load(QByteArray text)
+    {
+        QBuffer file(&text);
+        return file.open(QIODevice::ReadOnly) &&
+               m_calibration.model().LoadSettingsFromDevice(&file);
+    }
+
+    double number(const QString& name)
+    {
+        return m_calibration.camera()->parameterCollection()->floatParameter(name)->value();
+    }
+
+    void select(const QString& selector, const QString& position)
+    {
+        m_calibration.camera()->parameterCollection()->enumerationParameter(selector)->setValue(
+            position);
+    }
+
+    QStringList logTexts() const
+    {
+        QStringList texts;
+        for (const LogEntry& entry : m_log.entries())
+            texts << entry.text;
+        return texts;
+    }
+
+    LogRecorder m_log;
+    EmulatedCalibration m_calibration{Names::SecondGeneration};
+};
+
+TEST_F(SettingsFile, OfAnotherSystemIsRead)
+{
+    EXPECT_TRUE(load("\xef\xbb\xbfGamma\t0.5\r\n# comment\r\n"
+                     "BalanceRatioSelector\tBlue\r\nBalanceRatio\t1.5\r\n"
+                     "PixelFormat\tRGB8"));
+    EXPECT_EQ(logTexts(), QStringList());
+    EXPECT_EQ(number("Gamma"), 0.5);
+    select("BalanceRatioSelector", "Blue");
+    EXPECT_EQ(number("BalanceRatio"), 1.5);
+    EXPECT_EQ(
+        m_calibration.camera()->parameterCollection()->enumerationParameter("PixelFormat")->value(),
+        "RGB8");
+}
+
+TEST_F(SettingsFile, LeavesNothingBetweenTwoStatesWithoutAWord)
+{
+    select("BalanceRatioSelector", "Red");
+    const double red = number("BalanceRatio");
+    EXPECT_TRUE(load("Gamma\t99\n"
+                     "NoSuchFeature\t1\n"
+                     "BalanceRatioSelector\n"
+                     "BalanceRatio\t2\n"
+                     "BlackLevel\t1\n"));
+    EXPECT_EQ(logTexts(),
+              (QStringList{"A setting was not loaded: Line 1: Gamma: 99 is above the maximum 4.",
+                           "A setting was not loaded: Line 2: the camera has no feature "
+                           "\"NoSuchFeature\".",
+                           "A setting was not loaded: Line 3: \"BalanceRatioSelector\" has no tab "
+                           "and no value.",
+                           "A setting was not loaded: Line 4: BalanceRatio: skipped, as "
+                           "BalanceRatioSelector could not be set."}));
+    EXPECT_EQ(number("Gamma"), 1.0);
+    EXPECT_EQ(number("BlackLevel"), 1.0);
+    for (const char* channel : {"Red", "Green", "Blue"}) {
+        select("BalanceRatioSelector", channel);
+        EXPECT_EQ(number("BalanceRatio"), red) << channel;
+    }
+}
 
 TEST(SavedUserSet, IsListedStoredAndComesUpWithTheNextOpening)
 {

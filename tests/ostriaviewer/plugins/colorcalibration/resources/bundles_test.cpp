@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every picture stands under its path, in its size and in twice its size.
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QString>
 #include <gtest/gtest.h>
@@ -13,6 +14,17 @@ struct Picture
     int width;
     int height;
 };
+
+std::string nameOf(const testing::TestParamInfo<Picture>& info)
+{
+    QString name = QFileInfo(QString::fromLatin1(info.param.path)).fileName();
+    return name.replace(QLatin1Char('-'), QLatin1Char('_')).toStdString();
+}
+
+void PrintTo(const Picture& picture, std::ostream* out)
+{
+    *out << picture.path;
+}
 
 class BundledPicture : public testing::TestWithParam<Picture>
 {
@@ -75,11 +87,13 @@ INSTANTIATE_TEST_SUITE_P(Wizard, BundledPicture,
                                          Picture{":/ColCal/step1Toolbg", 260, 80},
                                          Picture{":/ColCal/targetpointer", 12, 56},
                                          Picture{":/ColCal/targetvalue", 128, 70},
-                                         Picture{":/ColCal/tavrin-logo", 283, 92}));
+                                         Picture{":/ColCal/tavrin-logo", 283, 92}),
+                         nameOf);
 
 INSTANTIATE_TEST_SUITE_P(Report, BundledPicture,
                          testing::Values(Picture{":/ColCal/resources/logo", 283, 92},
-                                         Picture{":/ColCal/resources/logo_s", 142, 46}));
+                                         Picture{":/ColCal/resources/logo_s", 142, 46}),
+                         nameOf);
 
 #define VIEWER ":/ostriaviewercomponents/Resources/"
 INSTANTIATE_TEST_SUITE_P(Viewer, BundledPicture,
@@ -92,7 +106,8 @@ INSTANTIATE_TEST_SUITE_P(Viewer, BundledPicture,
                                          Picture{VIEWER "ostriaviewer_48", 48, 48},
                                          Picture{VIEWER "ostriaviewer_64", 64, 64},
                                          Picture{VIEWER "ostriaviewer_128", 128, 128},
-                                         Picture{VIEWER "ostriaviewer_256", 256, 256}));
+                                         Picture{VIEWER "ostriaviewer_256", 256, 256}),
+                         nameOf);
 
 TEST(ReportStyle, StylesEachPartOfTheReport)
 {

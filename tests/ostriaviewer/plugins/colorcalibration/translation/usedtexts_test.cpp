@@ -1,50 +1,22 @@
 // SPDX-License-Identifier: Apache-2.0
-// The catalogues against the texts that the code shows.
-#include "catalogue.h"
-
-#include <QProcess>
-#include <QSet>
-#include <QTemporaryDir>
+// The plugin's catalogues against the texts that its code and pages show.
+#include "usedtexts.h"
 
 #include <gtest/gtest.h>
 
+using Translation::Text;
+
 namespace {
 
-using Text = QPair<QString, QString>; // context and source
-
-QSet<Text> textsOf(const QString& catalogue)
+QSet<Text> textsOfPlugin()
 {
-    QSet<Text> texts;
-    for (const Translation::Message& message : Translation::readCatalogue(catalogue))
-        texts.insert({message.context, message.source});
-    return texts;
+    return Translation::textsOfCode({QStringLiteral(OSTRIA_PLUGIN_SOURCES)});
 }
 
-/// What Qt's own tool finds in code and pages.
-QSet<Text> textsOfCode()
+QSet<Text> textsOfCatalogue()
 {
-    const QTemporaryDir folder;
-    const QString catalogue = folder.filePath(QStringLiteral("found.ts"));
-    QProcess lupdate;
-    lupdate.start(QStringLiteral(OSTRIA_LUPDATE),
-                  {QStringLiteral("-silent"), QStringLiteral(OSTRIA_PLUGIN_SOURCES),
-                   QStringLiteral("-ts"), catalogue});
-    EXPECT_TRUE(lupdate.waitForFinished());
-    EXPECT_EQ(lupdate.exitCode(), 0) << lupdate.readAllStandardError().toStdString();
-    return textsOf(catalogue);
-}
-
-std::string listed(const QSet<Text>& texts)
-{
-    std::string list;
-    for (const Text& text : texts)
-        list += text.first.toStdString() + ": " + text.second.toStdString() + "\n";
-    return list;
-}
-
-QString currentCatalogue()
-{
-    return QStringLiteral(OSTRIA_PLUGIN_SOURCES "/resources/translation/ColorCalibration_ja.ts");
+    return Translation::textsOf(
+        QStringLiteral(OSTRIA_PLUGIN_SOURCES "/resources/translation/ColorCalibration_ja.ts"));
 }
 
 } // namespace
@@ -58,12 +30,12 @@ TEST(UsedTexts, AreInTheCataloguesButForTheScripts)
         {QStringLiteral("functions"), QStringLiteral("Unable to set neutral settings.")},
         {QStringLiteral("functions"), QStringLiteral("Apply initial values failed.")},
         {QStringLiteral("functions"), QStringLiteral("Calibration process failed.")}};
-    const QSet<Text> missing = textsOfCode() - textsOf(currentCatalogue());
-    EXPECT_EQ(missing, english) << listed(missing);
+    const QSet<Text> missing = textsOfPlugin() - textsOfCatalogue();
+    EXPECT_EQ(missing, english) << Translation::listed(missing);
 }
 
 TEST(UsedTexts, AreAllThatTheCataloguesHave)
 {
-    const QSet<Text> unused = textsOf(currentCatalogue()) - textsOfCode();
-    EXPECT_TRUE(unused.isEmpty()) << listed(unused);
+    const QSet<Text> unused = textsOfCatalogue() - textsOfPlugin();
+    EXPECT_TRUE(unused.isEmpty()) << Translation::listed(unused);
 }

@@ -3,6 +3,7 @@
 #include "wizardrun.h"
 
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -46,6 +47,42 @@ TEST_P(CancelOnStep, LeavesTheCameraAsItWas)
         confirmIfAsked();
     });
     cancelBy("window closed", [this] { m_dialog->close(); });
+}
+
+class ImpatientUser : public WizardRun
+{
+protected:
+    /// As a double click: the second one arrives while the first waits for an image.
+    void clickTwice(const char* name)
+    {
+        QTimer::singleShot(0, m_dialog.get(), [this, name] { click(name); });
+        click(name);
+    }
+};
+
+TEST_F(ImpatientUser, GetsTheCameraBackAsItWas)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    const QStringList before = settings();
+    run([this] {
+        ASSERT_NO_FATAL_FAILURE(goTo(1));
+        clickTwice("nextButton");
+        EXPECT_EQ(m_data->activeStep(), 2);
+        click("cancelButton");
+        confirm();
+    });
+    EXPECT_EQ(settings(), before);
+    run([this] {
+        ASSERT_NO_FATAL_FAILURE(goTo(3));
+        clickTwice("backButton");
+        EXPECT_EQ(m_data->activeStep(), 2);
+        click("backButton");
+        EXPECT_EQ(m_data->activeStep(), 1);
+        click("nextButton");
+        click("cancelButton");
+        confirm();
+    });
+    EXPECT_EQ(settings(), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(WizardRun, CancelOnStep, testing::Values(1, 2, 3, 4));

@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // Who goes to the end of the wizard has a calibrated camera.
+#include "generationname.h"
 #include "wizardrun.h"
 
 #include <QTest>
 
 namespace {
-
-std::string nameOf(const testing::TestParamInfo<Cameras::Emulation::FeatureNames>& names)
-{
-    switch (names.param) {
-    case Cameras::Emulation::FeatureNames::FirstGeneration:
-        return "FirstGeneration";
-    case Cameras::Emulation::FeatureNames::SecondGeneration:
-        return "SecondGeneration";
-    case Cameras::Emulation::FeatureNames::SecondGenerationMaker:
-        return "SecondGenerationMaker";
-    }
-    return {};
-}
 
 class Finish : public WizardRun,
                public testing::WithParamInterface<Cameras::Emulation::FeatureNames>
@@ -98,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(WizardRun, Finish,
                          testing::Values(Cameras::Emulation::FeatureNames::FirstGeneration,
                                          Cameras::Emulation::FeatureNames::SecondGeneration,
                                          Cameras::Emulation::FeatureNames::SecondGenerationMaker),
-                         nameOf);
+                         generationName);
 
 class FinishTwice : public Finish
 {};
@@ -128,6 +116,6 @@ TEST_P(FinishTwice, CancellingTheSecondRunKeepsTheFirst)
 
 INSTANTIATE_TEST_SUITE_P(WizardRun, FinishTwice,
                          testing::Values(Cameras::Emulation::FeatureNames::SecondGeneration),
-                         nameOf);
+                         generationName);
 
 } // namespace

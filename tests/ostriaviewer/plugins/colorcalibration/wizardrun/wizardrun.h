@@ -33,6 +33,10 @@ protected:
     /// Puts the grid on the chart, adjusts the brightness, and goes on to a step. Ends with the
     /// step's first image.
     void goTo(int step);
+    /// From step 2 on: brings the brightness to its target.
+    void adjustBrightness();
+    /// To the step after the present one. Ends with its first image.
+    void next(int step);
 
     void click(const char* name);
     void press(Qt::Key key);
@@ -40,6 +44,8 @@ protected:
     void confirm();
     QQuickItem* item(const char* name);
     static bool waitFor(const std::function<bool()>& condition);
+    /// The message box that is open; null if there is none.
+    static QMessageBox* box();
 
     /// The camera's settings, without comments.
     QStringList settings();
@@ -54,9 +60,4 @@ protected:
     ColorCalibration::ColorCorrectionModel m_model;
     std::unique_ptr<ColorCalibration::QmlDataModelInterface> m_data;
     std::unique_ptr<ColorCalibration::ColorCorrectionToolDlg> m_dialog;
-
-private:
-    void adjustBrightness();
-    void next(int step);
-    static QMessageBox* box();
 };

@@ -16,6 +16,16 @@ struct Reading
     bool isBright;
 };
 
+std::string nameOf(const testing::TestParamInfo<Reading>& info)
+{
+    return QString("At%1").arg(info.param.hitRate).replace('.', '_').toStdString();
+}
+
+void PrintTo(const Reading& reading, std::ostream* out)
+{
+    *out << reading.hitRate << " percent";
+}
+
 class BrightnessPage : public WizardWindow
 {
 protected:
@@ -61,7 +71,8 @@ INSTANTIATE_TEST_SUITE_P(HitRate, Gauge,
                                          Reading{80, -40, "Too dark", false, false},
                                          Reading{79.5, -41, "Too dark", true, false},
                                          Reading{55, -90, "Too dark", true, false},
-                                         Reading{0, -90, "Too dark", true, false}));
+                                         Reading{0, -90, "Too dark", true, false}),
+                         nameOf);
 
 TEST_F(BrightnessPage, ShowsTheNeedleAtItsBrightEndBeforeAnyValue)
 {

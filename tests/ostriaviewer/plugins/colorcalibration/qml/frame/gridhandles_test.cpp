@@ -3,6 +3,7 @@
 // spans (100, 100) to (300, 250), so that its handles stand at 92 and 292, and at 92 and 242.
 #include "wizardwindow.h"
 
+#include <QAccessible>
 #include <QQmlProperty>
 #include <QTest>
 
@@ -15,6 +16,16 @@ struct Move
     QPoint to;
     QPoint expected;
 };
+
+std::string nameOf(const testing::TestParamInfo<Move>& info)
+{
+    return "To" + std::to_string(info.param.to.x()) + "And" + std::to_string(info.param.to.y());
+}
+
+void PrintTo(const Move& move, std::ostream* out)
+{
+    *out << move.corner << " to " << move.to.x() << ", " << move.to.y();
+}
 
 class GridHandles : public WizardWindow
 {
@@ -72,7 +83,8 @@ INSTANTIATE_TEST_SUITE_P(UpperLeft, GridHandleMoves,
                                          Move{"upperLeft", {100, 241}, {100, 241}},
                                          Move{"upperLeft", {100, 242}, {100, 100}},
                                          // x is taken before y would lead across the diagonal.
-                                         Move{"upperLeft", {250, 200}, {250, 100}}));
+                                         Move{"upperLeft", {250, 200}, {250, 100}}),
+                         nameOf);
 
 INSTANTIATE_TEST_SUITE_P(UpperRight, GridHandleMoves,
                          testing::Values(Move{"upperRight", {320, 90}, {320, 90}},
@@ -82,7 +94,8 @@ INSTANTIATE_TEST_SUITE_P(UpperRight, GridHandleMoves,
                                          Move{"upperRight", {100, 100}, {300, 100}},
                                          Move{"upperRight", {300, 241}, {300, 241}},
                                          Move{"upperRight", {300, 242}, {300, 100}},
-                                         Move{"upperRight", {150, 200}, {150, 100}}));
+                                         Move{"upperRight", {150, 200}, {150, 100}}),
+                         nameOf);
 
 INSTANTIATE_TEST_SUITE_P(LowerRight, GridHandleMoves,
                          testing::Values(Move{"lowerRight", {310, 260}, {310, 260}},
@@ -90,7 +103,8 @@ INSTANTIATE_TEST_SUITE_P(LowerRight, GridHandleMoves,
                                          Move{"lowerRight", {100, 250}, {300, 250}},
                                          Move{"lowerRight", {300, 101}, {300, 101}},
                                          Move{"lowerRight", {300, 100}, {300, 250}},
-                                         Move{"lowerRight", {150, 120}, {150, 250}}));
+                                         Move{"lowerRight", {150, 120}, {150, 250}}),
+                         nameOf);
 
 INSTANTIATE_TEST_SUITE_P(LowerLeft, GridHandleMoves,
                          testing::Values(Move{"lowerLeft", {90, 240}, {90, 240}},
@@ -98,7 +112,8 @@ INSTANTIATE_TEST_SUITE_P(LowerLeft, GridHandleMoves,
                                          Move{"lowerLeft", {292, 250}, {100, 250}},
                                          Move{"lowerLeft", {100, 101}, {100, 101}},
                                          Move{"lowerLeft", {100, 100}, {100, 250}},
-                                         Move{"lowerLeft", {250, 120}, {250, 250}}));
+                                         Move{"lowerLeft", {250, 120}, {250, 250}}),
+                         nameOf);
 
 TEST_F(GridHandles, StayBesideTheOppositeCornerOfAHollowGrid)
 {
@@ -196,6 +211,19 @@ TEST_F(GridHandles, AreNotResetOnTheSecondStep)
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(corner("upperLeft"), QPoint(100, 100));
     EXPECT_TRUE(takeCalls().isEmpty());
+}
+
+TEST_F(GridHandles, TellScreenReadersWhichCornerTheyMove)
+{
+    openGrid();
+    const auto nameOf = [this](const char* handle) {
+        const auto* reader = QAccessible::queryAccessibleInterface(item(handle));
+        return reader ? reader->text(QAccessible::Name) : QString();
+    };
+    EXPECT_EQ(nameOf("upperLeft"), "Upper left corner of the grid");
+    EXPECT_EQ(nameOf("upperRight"), "Upper right corner of the grid");
+    EXPECT_EQ(nameOf("lowerRight"), "Lower right corner of the grid");
+    EXPECT_EQ(nameOf("lowerLeft"), "Lower left corner of the grid");
 }
 
 } // namespace

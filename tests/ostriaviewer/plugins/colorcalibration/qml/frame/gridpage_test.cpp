@@ -179,6 +179,18 @@ TEST_F(GridPage, SaysThatTheFinderFoundNothing)
     EXPECT_TRUE(isEnabled("finderButton"));
 }
 
+TEST_F(GridPage, LeavesNoButtonOffWhereReturnOvertakesTheFinder)
+{
+    openAt(1);
+    click("finderButton");
+    press(Qt::Key_Return);
+    ASSERT_EQ(m_model.activeStep(), 2);
+    for (const char* button : {"backButton", "nextButton", "cancelButton"})
+        EXPECT_TRUE(isEnabled(button)) << button;
+    emit m_model.autoChartFindFinished(true);
+    EXPECT_TRUE(isEnabled("nextButton"));
+}
+
 TEST_F(GridPage, CanBeLeftByEscapeWhileTheFinderKeepsSilent)
 {
     openAt(1);

@@ -2,6 +2,8 @@
 // The wizard without a mouse: Tab comes to every control, Space uses it.
 #include "wizardwindow.h"
 
+#include <QAccessible>
+
 namespace {
 
 class Keyboard : public WizardWindow
@@ -122,6 +124,16 @@ TEST_F(Keyboard, ArrowsMoveTheSliders)
     ASSERT_TRUE(tabTo(item("gainSlider")));
     press(Qt::Key_Right);
     EXPECT_EQ(takeCalls(), QStringList{"gain=0.51"});
+}
+
+TEST_F(Keyboard, WhatHasTheFocusHasANameForScreenReaders)
+{
+    openAt(1);
+    for (const char* name : {"textInput", "openIcon"}) {
+        const auto* attached = QAccessible::queryAccessibleInterface(item(name));
+        ASSERT_TRUE(attached) << name;
+        EXPECT_EQ(attached->text(QAccessible::Name), "Load camera settings") << name;
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The frame's own texts and measures.
+#include "wizardtexts.h"
 #include "wizardwindow.h"
 
 #include <QMetaProperty>
@@ -28,16 +29,11 @@ TEST_F(Texts, AreSeventySeven)
     EXPECT_EQ(texts, 77);
 }
 
-TEST_F(Texts, KeepTheirQuotesAndTags)
+TEST_F(Texts, AreThoseThatTheTranslationsAreFoundBy)
 {
     open();
-    EXPECT_TRUE(text("tStep2Explanation").contains("the camera’s settings. Click <b>Next</b>"));
-    EXPECT_TRUE(text("tMsgErrSelectSaveOption").startsWith("You haven’t selected any"));
-    EXPECT_EQ(text("tMsgErrSaveToFilePath"), "Couldn't save settings to file path!<br>");
-    EXPECT_EQ(text("tSelectedCamera"), "Selected Camera: ");
-    EXPECT_EQ(text("tMsgErrSaveUserSet"), "Couldn't store settings in user set: ");
-    EXPECT_EQ(text("tAutoAdjustValuesImpossible"), "Autoadjust values <br> impossible!");
-    EXPECT_EQ(text("tTargetValue"), "1 - Target Value");
+    for (const auto& [name, expected] : wizardTexts)
+        EXPECT_EQ(text(name), QString::fromUtf8(expected)) << name;
 }
 
 TEST_F(Texts, MeasuresAndColorsAreThoseOfTheDesign)

@@ -3,6 +3,8 @@
 // message, and what is done about the camera.
 #include "wizardwindow.h"
 
+#include <QTest>
+
 namespace {
 
 using Icon = QMessageBox::Icon;
@@ -69,7 +71,7 @@ TEST_P(FailureOfABackup, StaysOnTheGrid)
                                "createSettingsBackup(true)"};
     EXPECT_EQ(takeCalls(), calls.mid(0, GetParam().after + 1) + QStringList{"startGrab()"});
     EXPECT_EQ(m_model.activeStep(), 1);
-    EXPECT_TRUE(boxes().isEmpty());
+    EXPECT_TRUE(onlyMessage().text.contains("couldn’t be backed up"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Wizard, FailureOfABackup,
@@ -276,6 +278,18 @@ TEST_F(Failures, OnTheWayBackToTheBrightnessWaitForNext)
     EXPECT_EQ(property("progress", "criticalText").toString(), "");
     answer(QMessageBox::Ok);
     EXPECT_EQ(takeCalls().last(), "cancel()");
+}
+
+TEST_F(Failures, OfTheWhiteBalanceEndTheWizardAlsoByEscape)
+{
+    openAt(1);
+    m_log.failing = {"executeWhitebalance()"};
+    click("nextButton");
+    ASSERT_EQ(onlyMessage().text, eitherOr);
+    takeCalls();
+    QTest::keyClick(boxes().first(), Qt::Key_Escape);
+    EXPECT_TRUE(waitFor([this] { return boxes().isEmpty(); }));
+    EXPECT_EQ(takeCalls(), QStringList{"cancel()"});
 }
 
 TEST_F(Failures, OfTheGainOnTheWayBackAreForgottenByACalibrationThatSucceeds)

@@ -4,8 +4,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QQmlContext>
-#include <QSettings>
 #include <QTest>
 
 namespace {
@@ -21,28 +19,10 @@ void hear(QtMsgType type, const QMessageLogContext& context, const QString& text
         ADD_FAILURE() << text.toStdString();
 }
 
-// What a repeater makes is a child of its item alone, not of an object.
-QObject* find(QObject* parent, const QString& name)
-{
-    if (parent->objectName() == name)
-        return parent;
-    QObjectList children = parent->children();
-    if (const auto* item = qobject_cast<QQuickItem*>(parent)) {
-        for (auto* child : item->childItems())
-            children << child;
-    }
-    for (auto* child : children) {
-        if (auto* found = find(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 WizardWindow::WizardWindow()
 {
-    QSettings().clear();
     consoleLog = &m_log;
     qInstallMessageHandler(hear);
 }
@@ -57,22 +37,7 @@ WizardWindow::~WizardWindow()
 
 void WizardWindow::open(const QSize& size)
 {
-    m_view = std::make_unique<QQuickView>();
-    auto* context = m_view->rootContext();
-    context->setContextProperty("qmlModelInterface", &m_model);
-    context->setContextProperty("gridOutline", &m_outline);
-    context->setContextProperty("camera", &m_camera);
-    context->setContextProperty("grid", &m_grid);
-    context->setContextProperty("exposureTime", &m_exposure);
-    context->setContextProperty("gainValue", &m_gain);
-    context->setContextProperty("transformer", &m_transformer);
-    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view->resize(size);
-    m_view->setSource(QUrl("qrc:/ColCal/main.qml"));
-    ASSERT_EQ(m_view->status(), QQuickView::Ready);
-    m_view->show();
-    m_view->requestActivate();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_view.get()));
+    ASSERT_NO_FATAL_FAILURE(show(size));
     ASSERT_TRUE(waitForPaint());
 }
 
@@ -129,11 +94,6 @@ QVariant WizardWindow::globalValue(const char* name)
 void WizardWindow::setGlobalValue(const char* name, const QVariant& value)
 {
     EXPECT_TRUE(m_view->rootObject()->setProperty(name, value)) << name;
-}
-
-QPoint WizardWindow::middleOf(QQuickItem* item)
-{
-    return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
 }
 
 void WizardWindow::click(const char* name)
@@ -220,9 +180,4 @@ QStringList WizardWindow::takeCalls()
 bool WizardWindow::waitForPaint()
 {
     return waitFor([this] { return property("canvasStep12", "imageWidth").toInt() != 0; });
-}
-
-bool WizardWindow::waitFor(const std::function<bool()>& condition)
-{
-    return QTest::qWaitFor(condition, 10000);
 }

@@ -2,17 +2,10 @@
 // The wizard's scene over stand-ins, driven as a user drives it.
 #pragma once
 
-#include "pointtransformer.h"
-#include "wizarddoubles.h"
+#include "wizardscene.h"
 
 #include <QMessageBox>
-#include <QQuickItem>
-#include <QQuickView>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
 #include <ostream>
 
 inline void PrintTo(const QString& text, std::ostream* out)
@@ -33,7 +26,7 @@ struct Message
     QMessageBox::Icon icon = QMessageBox::NoIcon;
 };
 
-class WizardWindow : public testing::Test
+class WizardWindow : public WizardScene
 {
 protected:
     /// No message of QML may go unseen: a test that meets one fails.
@@ -54,7 +47,6 @@ protected:
     QVariant globalValue(const char* name);
     void setGlobalValue(const char* name, const QVariant& value);
 
-    QPoint middleOf(QQuickItem* item);
     void click(const char* name);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     /// Presses Tab until the item has the focus; false if it never gets it.
@@ -70,15 +62,4 @@ protected:
     /// The calls since the last time this was asked.
     QStringList takeCalls();
     bool waitForPaint();
-    static bool waitFor(const std::function<bool()>& condition);
-
-    CallLog m_log;
-    ModelDouble m_model{m_log};
-    CameraDouble m_camera{m_log};
-    TrapezoidDouble m_outline{{100, 100}, {300, 250}};
-    GridDouble m_grid;
-    AdapterDouble m_exposure{m_log, "exposure"};
-    AdapterDouble m_gain{m_log, "gain"};
-    ColorCalibration::PointTransformer m_transformer;
-    std::unique_ptr<QQuickView> m_view;
 };

@@ -42,16 +42,16 @@ protected:
 TEST_F(CanvasStep4, FetchesTheImageFromBeforeAndThenStartsTheLiveOne)
 {
     openPage();
-    EXPECT_EQ(m_calls.made, (QStringList{"grabOriginalImage", "startGrab"}));
+    EXPECT_EQ(m_log.made, (QStringList{"activeStep=4", "grabOriginalImage()", "startGrab()"}));
 }
 
 TEST_F(CanvasStep4, TakesOneImageWhereTheLiveImageIsOff)
 {
     open(3);
     m_view->rootObject()->setProperty("autoRefreshChecked", false);
-    m_calls.made.clear();
+    m_log.made.clear();
     m_model.setActiveStep(4);
-    EXPECT_EQ(m_calls.made, (QStringList{"grabOriginalImage", "singleGrab"}));
+    EXPECT_EQ(m_log.made, (QStringList{"activeStep=4", "grabOriginalImage()", "singleGrab()"}));
 }
 
 TEST_F(CanvasStep4, BeginsWithTheDividerInTheMiddle)
@@ -242,9 +242,9 @@ TEST_F(CanvasStep4, LabelsTheUpperCornersOfTheImage)
 TEST_F(CanvasStep4, GivesTheCameraBackWhenTheDialogEnds)
 {
     openPage();
-    m_calls.made.clear();
+    m_log.made.clear();
     emit m_model.cleanupQML();
-    EXPECT_EQ(m_calls.made, (QStringList{"stopGrab"}));
+    EXPECT_EQ(m_log.made, (QStringList{"stopGrab()"}));
 }
 
 } // namespace

@@ -4,8 +4,8 @@
 
 namespace {
 
-const QStringList sequence{"applyInitialCameraImageAndPatchValues", "setNeutralSettings",
-                           "applyInitialColorPatchValues", "executeCalibrationAndApply"};
+const QStringList sequence{"applyInitialCameraImageAndPatchValues()", "setNeutralSettings()",
+                           "applyInitialColorPatchValues()", "executeCalibrationAndApply()"};
 
 class Exhibition : public ResultsPages, public testing::WithParamInterface<int>
 {
@@ -15,14 +15,14 @@ protected:
     void openPage()
     {
         open(GetParam());
-        m_calls.made.clear();
+        m_log.made.clear();
     }
 
     void openPageWithoutLiveImage()
     {
         open(GetParam());
         m_view->rootObject()->setProperty("autoRefreshChecked", false);
-        m_calls.made.clear();
+        m_log.made.clear();
     }
 
     bool isEnabled() { return item("nextButton")->isEnabled(); }
@@ -44,7 +44,7 @@ TEST_P(Exhibition, AdjustsTheBrightnessFirstWithThePageDisabled)
 {
     openPage();
     click(item("recalibrateButton"));
-    EXPECT_EQ(m_calls.made, (QStringList{"stopGrab", "autoAdjustGray80PercentPatch"}));
+    EXPECT_EQ(m_log.made, (QStringList{"stopGrab()", "autoAdjustGray80PercentPatch()"}));
     EXPECT_FALSE(isEnabled());
 }
 
@@ -53,16 +53,17 @@ TEST_P(Exhibition, BeginsWithSpaceOnce)
     openPage();
     item("recalibrateButton")->forceActiveFocus();
     press(Qt::Key_Space);
-    EXPECT_EQ(m_calls.made.count("autoAdjustGray80PercentPatch"), 1);
+    EXPECT_EQ(m_log.made.count("autoAdjustGray80PercentPatch()"), 1);
 }
 
 TEST_P(Exhibition, EnablesThePageWhereTheBrightnessCannotBeAdjusted)
 {
     openPage();
-    m_calls.failing = {"autoAdjustGray80PercentPatch"};
+    m_log.failing = {"autoAdjustGray80PercentPatch()"};
     click(item("recalibrateButton"));
     EXPECT_TRUE(isEnabled());
-    EXPECT_EQ(m_calls.made, (QStringList{"stopGrab", "autoAdjustGray80PercentPatch", "startGrab"}));
+    EXPECT_EQ(m_log.made,
+              (QStringList{"stopGrab()", "autoAdjustGray80PercentPatch()", "startGrab()"}));
     EXPECT_EQ(m_view->rootObject()->findChild<QObject*>("modelError")->property("text"),
               "Autoadjust values <br> impossible!");
     EXPECT_EQ(takeMessage(), "") << "the box was opened";
@@ -72,10 +73,10 @@ TEST_P(Exhibition, CalibratesWhenTheBrightnessIsFound)
 {
     openPage();
     disablePage();
-    m_calls.made.clear();
+    m_log.made.clear();
     emit m_model.autoAdjustGray80PercentPatchFinished();
-    EXPECT_EQ(m_calls.made.mid(0, 4), sequence);
-    EXPECT_EQ(m_calls.made.mid(4), (QStringList{"startGrab"}));
+    EXPECT_EQ(m_log.made.mid(0, 4), sequence);
+    EXPECT_EQ(m_log.made.mid(4), (QStringList{"startGrab()"}));
     EXPECT_TRUE(isEnabled());
     EXPECT_EQ(takeMessage(), "");
 }
@@ -84,19 +85,19 @@ TEST_P(Exhibition, TakesAnImageAfterwardsWhereTheLiveImageIsOff)
 {
     openPageWithoutLiveImage();
     disablePage();
-    EXPECT_FALSE(m_model.m_singleShot);
+    EXPECT_FALSE(m_model.m_singleShotEnabled);
     emit m_model.autoAdjustGray80PercentPatchFinished();
-    EXPECT_EQ(m_calls.made, sequence + QStringList{"singleGrab"});
-    EXPECT_TRUE(m_model.m_singleShot);
+    EXPECT_EQ(m_log.made, sequence + QStringList{"singleGrab()"});
+    EXPECT_TRUE(m_model.m_singleShotEnabled);
     EXPECT_TRUE(isEnabled());
 }
 
 TEST_P(Exhibition, GoesOnWithoutTheImageFromBefore)
 {
     openPageWithoutLiveImage();
-    m_calls.failing = {"applyInitialCameraImageAndPatchValues"};
+    m_log.failing = {"applyInitialCameraImageAndPatchValues()"};
     emit m_model.autoAdjustGray80PercentPatchFinished();
-    EXPECT_EQ(m_calls.made, sequence + QStringList{"singleGrab"});
+    EXPECT_EQ(m_log.made, sequence + QStringList{"singleGrab()"});
     EXPECT_EQ(takeMessage(), "");
 }
 
@@ -108,10 +109,10 @@ TEST_P(Exhibition, RestoresTheCameraAfterAnyOtherFailure)
     for (const auto& failure : failures) {
         openPageWithoutLiveImage();
         disablePage();
-        m_calls.failing = {sequence[failure.first]};
+        m_log.failing = {sequence[failure.first]};
         emit m_model.autoAdjustGray80PercentPatchFinished();
-        EXPECT_EQ(m_calls.made, sequence.mid(0, failure.first + 1) +
-                                    QStringList({"restoreSettingsBackup", "singleGrab"}));
+        EXPECT_EQ(m_log.made, sequence.mid(0, failure.first + 1) +
+                                  QStringList({"restoreSettingsBackup(false)", "singleGrab()"}));
         EXPECT_TRUE(isEnabled()) << failure.second.toStdString();
         EXPECT_EQ(takeMessage(), failure.second);
     }
@@ -121,9 +122,9 @@ TEST_P(Exhibition, TellsTheFirstOfTwoFailures)
 {
     for (int second = 1; second < 4; ++second) {
         openPageWithoutLiveImage();
-        m_calls.failing = {sequence[0], sequence[second]};
+        m_log.failing = {sequence[0], sequence[second]};
         emit m_model.autoAdjustGray80PercentPatchFinished();
-        EXPECT_EQ(m_calls.made.count("restoreSettingsBackup"), 1);
+        EXPECT_EQ(m_log.made.count("restoreSettingsBackup(false)"), 1);
         EXPECT_EQ(takeMessage(), "Unable to apply initial camera image and patch values.");
     }
 }
@@ -132,15 +133,47 @@ TEST_P(Exhibition, StartsTheLiveImageAgainAfterAFailure)
 {
     openPage();
     disablePage();
-    m_calls.made.clear();
-    m_calls.failing = {"setNeutralSettings"};
+    m_log.made.clear();
+    m_log.failing = {"setNeutralSettings()"};
     emit m_model.autoAdjustGray80PercentPatchFinished();
-    EXPECT_EQ(m_calls.made,
-              sequence.mid(0, 2) + QStringList({"restoreSettingsBackup", "startGrab"}));
+    EXPECT_EQ(m_log.made,
+              sequence.mid(0, 2) + QStringList({"restoreSettingsBackup(false)", "startGrab()"}));
     EXPECT_TRUE(isEnabled());
     takeMessage();
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, Exhibition, testing::Values(3, 4));
+
+class LeavingTheResults : public ResultsPages
+{
+protected:
+    LeavingTheResults() { m_model.m_exhibition = true; }
+};
+
+TEST_F(LeavingTheResults, LeavesTheNextPageDisabledUntilTheBrightnessIsFound)
+{
+    open(3);
+    click(item("recalibrateButton"));
+    press(Qt::Key_Return);
+    ASSERT_EQ(m_model.activeStep(), 4);
+    EXPECT_FALSE(item("nextButton")->isEnabled());
+    emit m_model.autoAdjustGray80PercentPatchFinished();
+    EXPECT_TRUE(item("nextButton")->isEnabled());
+}
+
+TEST_F(LeavingTheResults, DoesNothingOnTheWayToAnotherStep)
+{
+    open(3);
+    QStringList made{"nothing yet"};
+    m_log.during["executeWhitebalance()"] = [&] {
+        m_log.made.clear();
+        emit m_model.autoAdjustGray80PercentPatchFinished();
+        made = m_log.made;
+    };
+    item("backButton")->forceActiveFocus();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(made.isEmpty()) << made.join(' ').toStdString();
+    EXPECT_EQ(m_model.activeStep(), 2);
+}
 
 } // namespace

@@ -2,54 +2,21 @@
 // Opens the scene and drives it as a user does.
 #include "resultspages.h"
 
-#include <QQmlContext>
 #include <QQmlEngine>
-#include <QSettings>
 #include <QTest>
-
-namespace {
-
-/// Also finds what a repeater has made, which is no child of the object it is shown in.
-QQuickItem* shownItem(QQuickItem* parent, const QString& name)
-{
-    for (auto* child : parent->childItems()) {
-        if (child->objectName() == name)
-            return child;
-        if (auto* found = shownItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
-} // namespace
 
 ResultsPages::ResultsPages()
 {
-    QSettings().clear();
     qmlRegisterType<FileDialogDouble>("tavrin.filedialog", 1, 0, "QMLFileDialog");
+    m_camera.setOriginalSize({1600, 1200});
 }
 
 void ResultsPages::open(int step, const QSize& size)
 {
-    m_view = std::make_unique<QQuickView>();
-    m_view->engine()->addImageProvider("cameraImageOriginal", new OriginalImageDouble);
-    auto* context = m_view->rootContext();
-    context->setContextProperty("qmlModelInterface", &m_model);
-    context->setContextProperty("camera", &m_camera);
-    context->setContextProperty("grid", &m_grid);
-    context->setContextProperty("gridOutline", &m_outline);
-    context->setContextProperty("exposureTime", &m_unused);
-    context->setContextProperty("gainValue", &m_unused);
-    context->setContextProperty("transformer", &m_transformer);
-    m_view->setResizeMode(QQuickView::SizeRootObjectToView);
-    m_view->resize(size);
-    m_view->setSource(QUrl("qrc:/ColCal/main.qml"));
-    ASSERT_EQ(m_view->status(), QQuickView::Ready);
-    m_view->show();
-    m_view->requestActivate();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_view.get()));
-    m_calls.made.clear();
-    auto* circle = shownItem(m_view->rootObject(), QString("step%1").arg(step));
+    ASSERT_NO_FATAL_FAILURE(show(size));
+    m_log.made.clear();
+    auto* circle =
+        qobject_cast<QQuickItem*>(find(m_view->rootObject(), QString("step%1").arg(step)));
     ASSERT_NE(circle, nullptr);
     item("progress")->setProperty("active", QVariant::fromValue(circle));
     m_model.setActiveStep(step);
@@ -87,11 +54,6 @@ QPoint ResultsPages::inWindow(QQuickItem* object, const QPointF& point)
     return object->mapToScene(point).toPoint();
 }
 
-QPoint ResultsPages::middleOf(QQuickItem* object)
-{
-    return inWindow(object, {object->width() / 2, object->height() / 2});
-}
-
 void ResultsPages::click(QQuickItem* object)
 {
     QTest::mouseClick(m_view.get(), Qt::LeftButton, {}, middleOf(object));
@@ -123,9 +85,4 @@ QImage ResultsPages::picture()
 {
     QCoreApplication::processEvents();
     return m_view->grabWindow();
-}
-
-bool ResultsPages::waitFor(const std::function<bool()>& condition)
-{
-    return QTest::qWaitFor(condition, 10000);
 }

@@ -2,18 +2,13 @@
 // The wizard's scene over stand-ins, opened at one of the pages of results.
 #pragma once
 
-#include "pointtransformer.h"
-#include "resultsdoubles.h"
+#include "filedialogdouble.h"
+#include "originalimagedouble.h"
+#include "wizardscene.h"
 
-#include <QQuickItem>
-#include <QQuickView>
+#include <QImage>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
-
-class ResultsPages : public testing::Test
+class ResultsPages : public WizardScene
 {
 protected:
     ResultsPages();
@@ -29,7 +24,6 @@ protected:
 
     QVariant call(QQuickItem* object, const char* function, const QVariant& argument = {});
 
-    QPoint middleOf(QQuickItem* object);
     QPoint inWindow(QQuickItem* object, const QPointF& point);
     void click(QQuickItem* object);
     void press(Qt::Key key);
@@ -39,14 +33,4 @@ protected:
     QString takeMessage(const char* box = "modelError");
 
     QImage picture();
-    static bool waitFor(const std::function<bool()>& condition);
-
-    Calls m_calls;
-    ModelDouble m_model{m_calls};
-    CameraDouble m_camera{m_calls};
-    GridDouble m_grid;
-    PatchDouble m_outline{QPoint(10, 10), 100};
-    QObject m_unused;
-    ColorCalibration::PointTransformer m_transformer;
-    std::unique_ptr<QQuickView> m_view;
 };

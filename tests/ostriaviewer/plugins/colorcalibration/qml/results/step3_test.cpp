@@ -289,8 +289,8 @@ TEST_F(Step3, FillsTheTablesAnewAfterACalibration)
 
 TEST_F(Step3, PaintsTargetAndOriginalColorsOverTheLiveImage)
 {
-    PatchDouble first({100, 100}, 60);
-    PatchDouble second({200, 100}, 60);
+    TrapezoidDouble first({100, 100}, {160, 160});
+    TrapezoidDouble second({200, 100}, {260, 160});
     m_grid.m_list = {QVariant::fromValue<QObject*>(&first), QVariant::fromValue<QObject*>(&second)};
     m_grid.m_target = {Qt::red, Qt::yellow};
     m_grid.m_original = {Qt::blue, Qt::cyan};
@@ -317,7 +317,7 @@ TEST_F(Step3, PaintsTargetAndOriginalColorsOverTheLiveImage)
 
 TEST_F(Step3, LeavesTheImageWhereAColorIsNotKnown)
 {
-    PatchDouble first({100, 100}, 60);
+    TrapezoidDouble first({100, 100}, {160, 160});
     m_grid.m_list = {QVariant::fromValue<QObject*>(&first)};
     m_grid.m_target = {Qt::red};
     open(3);
@@ -369,25 +369,25 @@ TEST_F(Step3, HidesAndEmptiesTheCaptionOffTheGrid)
 TEST_F(Step3, StartsTheLiveImage)
 {
     open(3);
-    EXPECT_EQ(m_calls.made, (QStringList{"startGrab"}));
+    EXPECT_EQ(m_log.made, (QStringList{"activeStep=3", "startGrab()"}));
 }
 
 TEST_F(Step3, TakesOneImageWhereTheLiveImageIsOff)
 {
     open(4);
     m_view->rootObject()->setProperty("autoRefreshChecked", false);
-    m_calls.made.clear();
+    m_log.made.clear();
     m_model.setActiveStep(3);
-    EXPECT_EQ(m_calls.made, (QStringList{"singleGrab"}));
+    EXPECT_EQ(m_log.made, (QStringList{"activeStep=3", "singleGrab()"}));
 }
 
 TEST_F(Step3, GivesTheCameraBackWhenTheDialogEnds)
 {
     open(3);
     m_view->rootObject()->setProperty("autoRefreshChecked", false);
-    m_calls.made.clear();
+    m_log.made.clear();
     emit m_model.cleanupQML();
-    EXPECT_EQ(m_calls.made, (QStringList{"stopGrab"}));
+    EXPECT_EQ(m_log.made, (QStringList{"stopGrab()"}));
     EXPECT_TRUE(m_view->rootObject()->property("autoRefreshChecked").toBool());
 }
 

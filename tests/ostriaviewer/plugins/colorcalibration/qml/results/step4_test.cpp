@@ -10,7 +10,7 @@ namespace {
 const char* const selectOption =
     "You haven’t selected any of the save options. To save settings or results, select one of "
     "the available options.<br>";
-const char* const saveCalls[] = {"saveSettingsToFilePath", "saveSummaryToFilePath"};
+const char* const saveCalls[] = {"saveSettingsToFilePath()", "saveSummaryToFilePath()"};
 
 class Step4 : public ResultsPages
 {
@@ -24,7 +24,7 @@ protected:
     void openPage()
     {
         open(4);
-        m_calls.made.clear();
+        m_log.made.clear();
     }
 
     void save() { call(page("toolBoxLoader"), "saveAllSettings"); }
@@ -79,7 +79,7 @@ TEST_F(Step4, AsksForAChoiceWhereNothingIsChosen)
     openPage();
     save();
     EXPECT_EQ(takeMessage(), selectOption);
-    EXPECT_TRUE(m_calls.made.isEmpty());
+    EXPECT_TRUE(m_log.made.isEmpty());
 }
 
 TEST_F(Step4, SavesBothFilesWhicheverIsChosen)
@@ -88,7 +88,7 @@ TEST_F(Step4, SavesBothFilesWhicheverIsChosen)
         openPage();
         m_model.setProperty(property, "/a");
         save();
-        EXPECT_EQ(m_calls.made, (QStringList{saveCalls[0], saveCalls[1]}));
+        EXPECT_EQ(m_log.made, (QStringList{saveCalls[0], saveCalls[1]}));
         EXPECT_EQ(takeMessage(), "");
         m_model.setProperty(property, "");
     }
@@ -98,14 +98,14 @@ TEST_F(Step4, TellsWhichFileCouldNotBeSaved)
 {
     openPage();
     m_model.setProperty("calibrationFileToSave", "/a");
-    m_calls.failing = {"saveSettingsToFilePath"};
+    m_log.failing = {"saveSettingsToFilePath()"};
     save();
-    EXPECT_EQ(m_calls.made, (QStringList{saveCalls[0], saveCalls[1]}));
+    EXPECT_EQ(m_log.made, (QStringList{saveCalls[0], saveCalls[1]}));
     EXPECT_EQ(takeMessage(), "Couldn't save settings to file path!<br>");
-    m_calls.failing = {"saveSummaryToFilePath"};
+    m_log.failing = {"saveSummaryToFilePath()"};
     save();
     EXPECT_EQ(takeMessage(), "Couldn't save summary!<br>");
-    m_calls.failing = {"saveSettingsToFilePath", "saveSummaryToFilePath"};
+    m_log.failing = {"saveSettingsToFilePath()", "saveSummaryToFilePath()"};
     save();
     EXPECT_EQ(takeMessage(), "Couldn't save summary!<br>");
 }
@@ -116,8 +116,8 @@ TEST_F(Step4, StoresAUserSetWithTheLiveImageStopped)
     chooseUserSet(1);
     QTest::ignoreMessage(QtDebugMsg, "Store Settings in user set: UserSet1");
     save();
-    EXPECT_EQ(m_calls.made, (QStringList{saveCalls[0], saveCalls[1], "stopGrab",
-                                         "storeSettingsInUserSet(UserSet1,false)", "startGrab"}));
+    EXPECT_EQ(m_log.made, (QStringList{saveCalls[0], saveCalls[1], "stopGrab()",
+                                       "storeSettingsInUserSet(UserSet1,false)", "startGrab()"}));
     EXPECT_EQ(takeMessage(), "");
 }
 
@@ -128,9 +128,9 @@ TEST_F(Step4, StoresAUserSetAsDefault)
     chooseUserSet(2);
     click(item("saveSettingsAsDefault"));
     ASSERT_TRUE(item("saveSettingsAsDefault")->property("checked").toBool());
-    m_calls.made.clear();
+    m_log.made.clear();
     save();
-    EXPECT_EQ(m_calls.made,
+    EXPECT_EQ(m_log.made,
               (QStringList{saveCalls[0], saveCalls[1], "storeSettingsInUserSet(UserSet2,true)"}));
 }
 
@@ -138,9 +138,9 @@ TEST_F(Step4, StartsTheLiveImageAgainAfterAUserSetThatCouldNotBeStored)
 {
     openPage();
     chooseUserSet(1);
-    m_calls.failing = {"storeSettingsInUserSet", "saveSummaryToFilePath"};
+    m_log.failing = {"storeSettingsInUserSet", "saveSummaryToFilePath()"};
     save();
-    EXPECT_EQ(m_calls.made.last(), "startGrab");
+    EXPECT_EQ(m_log.made.last(), "startGrab()");
     EXPECT_EQ(takeMessage(), "Couldn't store settings in user set: UserSet1");
 }
 
@@ -151,7 +151,7 @@ TEST_F(Step4, CanSaveAgain)
     click(item("saveButton"));
     item("saveButton")->forceActiveFocus();
     press(Qt::Key_Space);
-    EXPECT_EQ(m_calls.made, (QStringList{saveCalls[0], saveCalls[1], saveCalls[0], saveCalls[1]}));
+    EXPECT_EQ(m_log.made, (QStringList{saveCalls[0], saveCalls[1], saveCalls[0], saveCalls[1]}));
     EXPECT_EQ(m_model.activeStep(), 4);
 }
 
@@ -168,7 +168,7 @@ TEST_F(Step4, TakesATypedPathOverWhenSaving)
     click(item("saveButton"));
     EXPECT_EQ(m_model.m_summaryFile, "/cd");
     EXPECT_EQ(takeMessage(), "");
-    EXPECT_EQ(m_calls.made, (QStringList{saveCalls[0], saveCalls[1], saveCalls[0], saveCalls[1]}));
+    EXPECT_EQ(m_log.made, (QStringList{saveCalls[0], saveCalls[1], saveCalls[0], saveCalls[1]}));
 }
 
 TEST_F(Step4, TakesThePathOfAChosenFolder)

@@ -127,6 +127,34 @@ TEST_F(ColorCorrectionToolDlgTest, AClosedWindowCountsAsCancel)
     EXPECT_EQ(m_model.takeCalls(), givenBack) << "an earlier Finish counts no more";
 }
 
+TEST_F(ColorCorrectionToolDlgTest, SettingsThatCannotBeGivenBackAreToldWhenTheWindowHasGone)
+{
+    m_model.refused = {"RestoreSettingsBackup"};
+    QStringList told;
+    QTimer waiter;
+    QObject::connect(&waiter, &QTimer::timeout, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        EXPECT_FALSE(m_dialog->isVisible());
+        EXPECT_EQ(m_model.calls().constLast(), "Close");
+        EXPECT_EQ(box->windowTitle(), "Color Calibrator");
+        EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
+        told << box->text();
+        box->button(QMessageBox::Ok)->click();
+    });
+    waiter.start(0);
+    const QString text = "The camera's original settings couldn’t be restored. Load them from a "
+                         "user set or a settings file.";
+    run([this] { m_data->cancel(); });
+    EXPECT_EQ(told, QStringList{text});
+    run([this] { m_dialog->close(); });
+    EXPECT_EQ(told, QStringList({text, text})) << "neither Finish nor Cancel";
+    m_model.refused.clear();
+    run([this] { m_data->cancel(); });
+    EXPECT_EQ(told.size(), 2) << "an earlier failure counts no more";
+}
+
 TEST_F(ColorCorrectionToolDlgTest, TheEndOfTheApplicationCountsAsCancel)
 {
     QTimer::singleShot(0, [this] { run([] { QCoreApplication::quit(); }); });

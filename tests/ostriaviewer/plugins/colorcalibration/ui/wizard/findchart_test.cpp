@@ -9,6 +9,7 @@
 #include <QCursor>
 #include <QSemaphore>
 #include <QSignalSpy>
+#include <QTest>
 #include <QThreadPool>
 
 #include <gtest/gtest.h>
@@ -84,6 +85,15 @@ TEST_F(FindChartTest, WithoutAnImageNothingIsSaidButTheCursorIsGivenBack)
     EXPECT_FALSE(QApplication::overrideCursor());
 }
 
+TEST_F(FindChartTest, TheSearchInTheBackgroundSaysNothingWithoutAnImageEither)
+{
+    m_model.refused = {"GrabImage"};
+    m_data->findChartAsync();
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::overrideCursor(); }, 60000));
+    EXPECT_EQ(m_model.calls(), QStringList("GrabImage false"));
+    EXPECT_EQ(m_found.count(), 0);
+}
+
 TEST_F(FindChartTest, TheSearchInTheBackgroundDoesNotKeepTheGuiThread)
 {
     QSemaphore release;
@@ -116,6 +126,23 @@ TEST_F(FindChartTest, AResultForASceneThatHasGoneIsDropped)
     };
     m_data->findChartAsync();
     m_data->resetScene();
+    const TrapezoidPoints before = m_model.outline;
+    release.release();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_found.count(), 0);
+    EXPECT_EQ(m_model.outline, before);
+    EXPECT_FALSE(QApplication::overrideCursor());
+}
+
+TEST_F(FindChartTest, AResultForAStepThatHasGoneIsDropped)
+{
+    QSemaphore release;
+    m_model.onGrab = [&release] {
+        release.acquire();
+    };
+    m_data->findChartAsync();
+    m_data->setActiveStep(2);
     const TrapezoidPoints before = m_model.outline;
     release.release();
     QThreadPool::globalInstance()->waitForDone();

@@ -2,6 +2,7 @@
 // Tests of what the scene of the wizard asks of the model.
 #include "qmldatamodelinterface.h"
 
+#include "logrecorder.h"
 #include "recordingmodel.h"
 
 #include <QApplication>
@@ -77,6 +78,19 @@ TEST_F(QmlDataModelCallsTest, BackupsAreThoseForGivingTheCameraBackUnlessSaidOth
                            "CreateSettingsBackup true", "RestoreSettingsBackup true"}));
 }
 
+TEST_F(QmlDataModelCallsTest, ABackupThatFailsIsTold)
+{
+    m_model.refused = {"CreateSettingsBackup", "RestoreSettingsBackup"};
+    EXPECT_FALSE(call("createSettingsBackup"));
+    ASSERT_EQ(m_logged.count(), 1);
+    EXPECT_TRUE(logTexts().last().startsWith("3 ")) << "an error";
+    EXPECT_FALSE(call("restoreSettingsBackup"));
+    ASSERT_EQ(m_logged.count(), 2);
+    EXPECT_TRUE(logTexts().last().startsWith("3 ")) << "an error";
+    EXPECT_FALSE(m_data.restoreSettingsBackup(true));
+    EXPECT_EQ(m_logged.count(), 2) << "the page has a message of its own";
+}
+
 TEST_F(QmlDataModelCallsTest, CancelRestoresAndClosesWhateverTheRestoreAnswers)
 {
     const QSignalSpy canceled(&m_data, &QmlDataModelInterface::signalCancel);
@@ -89,6 +103,25 @@ TEST_F(QmlDataModelCallsTest, CancelRestoresAndClosesWhateverTheRestoreAnswers)
     EXPECT_EQ(canceled.count(), 2);
     ASSERT_EQ(m_logged.count(), 1) << "the user must know";
     EXPECT_TRUE(logTexts().first().startsWith("3 ")) << "an error";
+}
+
+TEST_F(QmlDataModelCallsTest, ABackupThatIsStillOwedIsTold)
+{
+    m_model.isBackupOwed = true;
+    EXPECT_TRUE(call("restoreSettingsBackup"));
+    EXPECT_EQ(m_logged.count(), 1);
+    EXPECT_TRUE(m_data.restoreSettingsBackup(true));
+    EXPECT_EQ(m_logged.count(), 1);
+    EXPECT_TRUE(m_data.takeRestoreFailure().isEmpty()) << "it may still come back";
+    for (const char* end : {"cancel", "finish"}) {
+        const int before = m_logged.count();
+        callVoid(end);
+        EXPECT_EQ(m_logged.count(), before + 1) << end;
+        EXPECT_FALSE(m_data.takeRestoreFailure().isEmpty()) << end;
+    }
+    m_model.isBackupOwed = false;
+    callVoid("finish");
+    EXPECT_TRUE(m_data.takeRestoreFailure().isEmpty());
 }
 
 TEST_F(QmlDataModelCallsTest, FinishKeepsTheSettings)
@@ -129,6 +162,37 @@ TEST_F(QmlDataModelCallsTest, AFileThatCannotBeReadDoesNotTouchTheCamera)
         EXPECT_FALSE(m_data.loadSettings("/dev/zero")) << "a file without end";
     }
     EXPECT_TRUE(m_model.calls().isEmpty());
+}
+
+TEST_F(QmlDataModelCallsTest, TheReasonWhyAFileWasRefusedIsLogged)
+{
+    const LogRecorder log;
+    const auto reason = [&log] {
+        const auto entries = log.entries();
+        return entries.isEmpty() ? QString() : entries.last().text;
+    };
+    const QTemporaryDir folder;
+    const QString absent = folder.filePath("absent.cst");
+    EXPECT_FALSE(m_data.loadSettings(absent));
+    EXPECT_EQ(reason(),
+              "QmlDataModelInterface::loadSettings:" + absent + ": No such file or directory");
+    QFile text(folder.filePath("text.cst"));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write("no settings\n");
+    text.close();
+    EXPECT_FALSE(m_data.loadSettings(text.fileName()));
+    EXPECT_EQ(reason(), "QmlDataModelInterface::loadSettings:This is no settings file: no line has "
+                        "a feature's name, a tab and a value.");
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write("Gain\t3\n");
+    ASSERT_TRUE(text.resize(100'000'000));
+    text.close();
+    EXPECT_FALSE(m_data.loadSettings(text.fileName()));
+    EXPECT_EQ(reason(), "QmlDataModelInterface::loadSettings:The file is too large for a settings "
+                        "file.");
+    EXPECT_EQ(log.entries().size(), 3);
+    for (const LogEntry& entry : log.entries())
+        EXPECT_EQ(entry.level, Core::Logging::Warning);
 }
 
 TEST_F(QmlDataModelCallsTest, NothingChosenToSaveIsSuccessWithoutAWord)

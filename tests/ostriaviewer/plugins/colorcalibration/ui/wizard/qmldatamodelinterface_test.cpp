@@ -191,6 +191,7 @@ TEST_F(QmlDataModelInterfaceTest, ResetBringsBackTheBeginning)
     m_data->setSummaryFileToSave("/c");
     m_data->grabOriginalImage();
     emit m_model.GainValueChanged(5.0);
+    emit m_model.Gray80PercentHitRateChanged(100.0);
     const QPointer<QObject> oldRoot = root();
     const QSignalSpy step(m_data.get(), &QmlDataModelInterface::activeStepChanged);
     const QSignalSpy grid(m_data.get(), &QmlDataModelInterface::showGridChanged);
@@ -205,6 +206,7 @@ TEST_F(QmlDataModelInterfaceTest, ResetBringsBackTheBeginning)
     EXPECT_TRUE(m_data->calibrationFileToSave().isEmpty());
     EXPECT_TRUE(m_data->summaryFileToSave().isEmpty());
     EXPECT_EQ(m_data->originalImageUrl(), "image://cameraImageOriginal/0_0");
+    EXPECT_EQ(m_data->gray80PercentHitRate(), 1000.0) << "the next camera has none yet";
     ASSERT_TRUE(root());
     EXPECT_NE(root(), oldRoot.data());
     EXPECT_EQ(root()->property("gain").toDouble(), -1.0);

@@ -2,6 +2,10 @@
 // What the stand-ins do besides noting their calls.
 #include "wizarddoubles.h"
 
+#include <QImage>
+#include <QVideoFrame>
+#include <QVideoSurfaceFormat>
+
 namespace {
 
 QString flag(bool value)
@@ -31,7 +35,10 @@ bool ModelDouble::createSettingsBackup(bool intialImage)
 
 bool ModelDouble::restoreSettingsBackup(bool intialImage)
 {
-    return m_log.note("restoreSettingsBackup(" + flag(intialImage) + ")");
+    const bool restored = m_log.note("restoreSettingsBackup(" + flag(intialImage) + ")");
+    if (!intialImage)
+        m_backupOwed = !restored;
+    return restored;
 }
 
 bool ModelDouble::loadSettings(const QString& path)
@@ -61,7 +68,10 @@ bool ModelDouble::applyInitialColorPatchValues()
 
 bool ModelDouble::executeCalibrationAndApply()
 {
-    return m_log.note("executeCalibrationAndApply()");
+    if (!m_log.note("executeCalibrationAndApply()"))
+        return false;
+    emit calibrationFinished();
+    return true;
 }
 
 bool ModelDouble::autoAdjustGray80PercentPatch()
@@ -69,10 +79,35 @@ bool ModelDouble::autoAdjustGray80PercentPatch()
     return m_log.note("autoAdjustGray80PercentPatch()");
 }
 
+bool ModelDouble::storeSettingsInUserSet(const QString& value, bool setAsDefault)
+{
+    return m_log.note(QString("storeSettingsInUserSet(%1,%2)").arg(value, flag(setAsDefault)));
+}
+
+void ModelDouble::grabOriginalImage()
+{
+    m_log.note("grabOriginalImage()");
+    m_fetched = 1 - m_fetched;
+    m_originalImageUrl = QString("image://cameraImageOriginal/0_%1").arg(m_fetched);
+    emit originalImageUrlChanged();
+}
+
 void CameraDouble::setOriginalSize(const QSize& size)
 {
     m_originalSize = size;
     emit originalSizeChanged();
+}
+
+void CameraDouble::show(const QColor& color)
+{
+    if (!m_surface)
+        return;
+    QImage image(m_size, QImage::Format_ARGB32);
+    image.fill(color);
+    if (!m_surface->isActive())
+        m_surface->start(QVideoSurfaceFormat(m_size, QVideoFrame::Format_ARGB32));
+    m_surface->present(QVideoFrame(image));
+    emit imageChanged();
 }
 
 TrapezoidDouble::TrapezoidDouble(const QPoint& upperLeft, const QPoint& lowerRight)
@@ -83,6 +118,12 @@ TrapezoidDouble::TrapezoidDouble(const QPoint& upperLeft, const QPoint& lowerRig
     , m_center((upperLeft + lowerRight) / 2)
     , m_bottomCenter((upperLeft.x() + lowerRight.x()) / 2, lowerRight.y())
 {}
+
+QColor GridDouble::colorAtPoint(int x, int y)
+{
+    m_points << QPoint(x, y);
+    return m_colorAtPoint;
+}
 
 void AdapterDouble::setValue(double value)
 {

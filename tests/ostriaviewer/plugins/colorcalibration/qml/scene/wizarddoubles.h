@@ -5,6 +5,7 @@
 
 #include <QAbstractVideoSurface>
 #include <QColor>
+#include <QHash>
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
@@ -12,18 +13,26 @@
 #include <QSize>
 #include <QStringList>
 #include <QVariantList>
+#include <QVector>
+
+#include <functional>
 
 /// Calls in the order in which they came, and those that are to answer false.
 struct CallLog
 {
     QStringList made;
-    /// "name(arguments)", or with "#2" behind it to let only the second such call fail.
+    /// "name(arguments)", with "#2" behind it to let only the second such call fail, or the name
+    /// alone for any arguments.
     QSet<QString> failing;
+    /// What happens in the middle of the next such call, as in the event loop of one that waits.
+    QHash<QString, std::function<void()>> during;
 
     bool note(const QString& call)
     {
         made << call;
-        return !failing.contains(call) &&
+        if (const auto happens = during.take(call))
+            happens();
+        return !failing.contains(call) && !failing.contains(call.section('(', 0, 0)) &&
                !failing.contains(QString("%1#%2").arg(call).arg(made.count(call)));
     }
 };
@@ -56,6 +65,7 @@ public:
 
     Q_INVOKABLE bool createSettingsBackup(bool intialImage = false);
     Q_INVOKABLE bool restoreSettingsBackup(bool intialImage = false);
+    Q_INVOKABLE bool isBackupOwed() const { return m_backupOwed; }
     Q_INVOKABLE bool loadSettings(const QString& path);
     Q_INVOKABLE bool setNeutralSettings() { return m_log.note("setNeutralSettings()"); }
     Q_INVOKABLE bool executeWhitebalance() { return m_log.note("executeWhitebalance()"); }
@@ -70,12 +80,15 @@ public:
     Q_INVOKABLE void updateTrapezoidList() { m_log.note("updateTrapezoidList()"); }
     Q_INVOKABLE void getGridPosition() { m_log.note("getGridPosition()"); }
     Q_INVOKABLE void findChartAsync() { m_log.note("findChartAsync()"); }
-    Q_INVOKABLE void grabOriginalImage() { m_log.note("grabOriginalImage()"); }
-    Q_INVOKABLE QString getAvailableUserSets() { return R"({"UserSets":[]})"; }
+    Q_INVOKABLE void grabOriginalImage();
+    Q_INVOKABLE QString getAvailableUserSets() { return m_userSets; }
+    Q_INVOKABLE bool saveSettingsToFilePath() { return m_log.note("saveSettingsToFilePath()"); }
+    Q_INVOKABLE bool saveSummaryToFilePath() { return m_log.note("saveSummaryToFilePath()"); }
+    Q_INVOKABLE bool storeSettingsInUserSet(const QString& value, bool setAsDefault = false);
     Q_INVOKABLE void cancel() { m_log.note("cancel()"); }
     Q_INVOKABLE void finish() { m_log.note("finish()"); }
 
-    QString m_originalImageUrl;
+    QString m_originalImageUrl = "image://cameraImageOriginal/0_0";
     double m_hitRate = 1000.0;
     QString m_previousFile;
     QString m_settingsFile;
@@ -86,6 +99,7 @@ public:
     QString m_results = "{}";
     bool m_exhibition = false;
     QString m_location = "file:///tmp";
+    QString m_userSets = R"({"UserSets":[]})";
 
 signals:
     void activeStepChanged();
@@ -108,6 +122,8 @@ signals:
 private:
     CallLog& m_log;
     int m_activeStep = 1;
+    int m_fetched = 0;
+    bool m_backupOwed = false;
 };
 
 class CameraDouble : public QObject
@@ -128,6 +144,9 @@ public:
     void setVideoSurface(QAbstractVideoSurface* surface) { m_surface = surface; }
     QSize originalSize() const { return m_originalSize; }
     void setOriginalSize(const QSize& size);
+
+    /// Shows one color all over the live image.
+    void show(const QColor& color);
 
     Q_INVOKABLE void startGrab() { m_log.note("startGrab()"); }
     Q_INVOKABLE void stopGrab() { m_log.note("stopGrab()"); }
@@ -189,12 +208,17 @@ class GridDouble : public QObject
 
 public:
     Q_INVOKABLE int count() const { return m_list.size(); }
-    Q_INVOKABLE QColor targetColorAt(int) const { return Qt::gray; }
-    Q_INVOKABLE QColor originalColorAt(int) const { return Qt::gray; }
-    Q_INVOKABLE QColor colorAtPoint(int, int) const { return QColor(0, 0, 0, 0); }
-    Q_INVOKABLE QString textOfColor(const QColor&) const { return {}; }
+    Q_INVOKABLE QColor targetColorAt(int index) const { return m_target.value(index); }
+    Q_INVOKABLE QColor originalColorAt(int index) const { return m_original.value(index); }
+    Q_INVOKABLE QColor colorAtPoint(int x, int y);
+    Q_INVOKABLE QString textOfColor(const QColor& color) const { return "of " + color.name(); }
 
     QVariantList m_list;
+    QVector<QColor> m_target;
+    QVector<QColor> m_original;
+    /// What is answered for each point, and the points that were asked for.
+    QColor m_colorAtPoint = QColor("transparent");
+    QVector<QPoint> m_points;
     int m_selectedPatch = -1;
     QString m_lastError;
 

@@ -10,4 +10,11 @@ namespace Translation {
 /// Tags, place holders and line breaks of a text, sorted.
 QStringList markup(const QString& text);
 
+/// How a text ends that is to be pressed with a key: nothing, "&" for a mnemonic, "..." for a
+/// window that follows, or both.
+QString commandEnding(const QString& text);
+
+/// Whether a text, without markup at its end, ends as sentences do.
+bool isSentence(const QString& text);
+
 } // namespace Translation

@@ -3,7 +3,10 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVector>
+
+#include <ostream>
 
 namespace Translation {
 
@@ -11,9 +14,13 @@ struct Message
 {
     QString context;
     QString source;
-    QString translation;
-    bool finished = true;
+    QStringList translations; ///< one, or as many as the language has forms for numbers
+    bool isPlural = false;
+    bool isFinished = true;
 };
+
+/// "Context: source", for a test's own words.
+std::ostream& operator<<(std::ostream& out, const Message& message);
 
 /// All messages of a .ts file, in its order. Fails the running test on a broken file.
 QVector<Message> readCatalogue(const QString& path);

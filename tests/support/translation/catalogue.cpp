@@ -10,16 +10,27 @@
 namespace Translation {
 namespace {
 
+QStringList readTranslations(QXmlStreamReader& xml, bool isPlural)
+{
+    if (!isPlural)
+        return {xml.readElementText()};
+    QStringList forms;
+    while (xml.readNextStartElement())
+        forms.append(xml.readElementText());
+    return forms;
+}
+
 Message readMessage(QXmlStreamReader& xml, const QString& context)
 {
     Message message;
     message.context = context;
+    message.isPlural = xml.attributes().hasAttribute(QStringLiteral("numerus"));
     while (xml.readNextStartElement()) {
         if (xml.name() == QLatin1String("source")) {
             message.source = xml.readElementText();
         } else if (xml.name() == QLatin1String("translation")) {
-            message.finished = !xml.attributes().hasAttribute(QStringLiteral("type"));
-            message.translation = xml.readElementText();
+            message.isFinished = !xml.attributes().hasAttribute(QStringLiteral("type"));
+            message.translations = readTranslations(xml, message.isPlural);
         } else {
             xml.skipCurrentElement();
         }
@@ -41,6 +52,11 @@ void readContext(QXmlStreamReader& xml, QVector<Message>& messages)
 }
 
 } // namespace
+
+std::ostream& operator<<(std::ostream& out, const Message& message)
+{
+    return out << message.context.toStdString() << ": \"" << message.source.toStdString() << '"';
+}
 
 QVector<Message> readCatalogue(const QString& path)
 {

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: Apache-2.0
+// Which cameras there are is remembered, and chosen in a dialog.
+#include "camerasettings.h"
+#include "camerasettingsdialog.h"
+#include "viewertest.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace Viewer {
+namespace {
+
+class CameraSettingsTest : public testing::Test
+{
+protected:
+    CameraSettingsTest() { QSettings().clear(); }
+
+    static CameraSettings someSettings()
+    {
+        CameraSettings settings;
+        settings.backends = Backends::GenICam;
+        settings.transport.packetSize = 1500;
+        settings.transport.isSearching = false;
+        settings.transport.interfaces = QStringList{"eth1"};
+        settings.transport.addresses = QStringList{"192.0.2.1", "192.0.2.2"};
+        return settings;
+    }
+};
+
+TEST_F(CameraSettingsTest, BeginWithAllCamerasThatCanBeFound)
+{
+    const CameraSettings settings = readCameraSettings(ViewerSettings());
+    EXPECT_EQ(settings.backends, Backends::All);
+    EXPECT_EQ(settings.transport, Cameras::GenICam::TransportSettings());
+    EXPECT_TRUE(settings.transport.isSearching);
+}
+
+TEST_F(CameraSettingsTest, AreRemembered)
+{
+    ViewerSettings kept;
+    writeCameraSettings(kept, someSettings());
+    const CameraSettings read = readCameraSettings(ViewerSettings());
+    EXPECT_EQ(read.backends, Backends::GenICam);
+    EXPECT_EQ(read.transport, someSettings().transport);
+}
+
+TEST_F(CameraSettingsTest, LeaveOutWhatMeansNothing)
+{
+    ViewerSettings kept;
+    kept.setValue("Cameras/Backends", "others");
+    kept.setValue("Cameras/PacketSize", 20000);
+    kept.setValue("Cameras/Addresses",
+                  QStringList{"192.0.2.1", "nowhere", "1.2.3", "192.0.2.1", "300.1.1.1"});
+    const CameraSettings read = readCameraSettings(kept);
+    EXPECT_EQ(read.backends, Backends::All);
+    EXPECT_EQ(read.transport.packetSize, 0);
+    EXPECT_EQ(read.transport.addresses, QStringList("192.0.2.1"));
+}
+
+TEST_F(CameraSettingsTest, AddressesAreThoseOfOneDevice)
+{
+    EXPECT_EQ(cameraAddress(" 192.168.001.20 "), "192.168.1.20");
+    for (const char* none : {"", "1.2.3", "1.2.3.4.5", "1.2.3.256", "::1", "camera", "0.0.0.0",
+                             "255.255.255.255", "224.0.0.1", "1.2.3.-4"})
+        EXPECT_EQ(cameraAddress(none), "") << none;
+}
+
+class CameraSettingsDialogTest : public CameraSettingsTest
+{
+protected:
+    template <typename Child>
+    Child* child(const char* name)
+    {
+        auto* found = m_dialog->findChild<Child*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+
+    void open(const CameraSettings& settings)
+    {
+        m_dialog =
+            std::make_unique<CameraSettingsDialog>(settings, QStringList{"lo", "eth0", "eth1"});
+        m_dialog->show();
+        m_dialog->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_dialog.get(), patienceMs));
+    }
+
+    std::unique_ptr<CameraSettingsDialog> m_dialog;
+};
+
+TEST_F(CameraSettingsDialogTest, GivesBackWhatItWasGiven)
+{
+    for (const CameraSettings& settings : {CameraSettings(), someSettings()}) {
+        open(settings);
+        EXPECT_EQ(m_dialog->settings().backends, settings.backends);
+        EXPECT_EQ(m_dialog->settings().transport, settings.transport);
+    }
+}
+
+TEST_F(CameraSettingsDialogTest, KeepsAnInterfaceThatIsNotThereNow)
+{
+    CameraSettings settings;
+    settings.transport.interfaces = QStringList{"usb0"};
+    open(settings);
+    EXPECT_EQ(m_dialog->settings().transport.interfaces, QStringList("usb0"));
+    child<QListWidget>("interfaces")->item(1)->setCheckState(Qt::Checked);
+    EXPECT_EQ(m_dialog->settings().transport.interfaces, (QStringList{"eth0", "usb0"}));
+}
+
+TEST_F(CameraSettingsDialogTest, TakesAddressesThatAreTyped)
+{
+    open({});
+    auto* address = child<QLineEdit>("address");
+    EXPECT_FALSE(child<QPushButton>("addAddress")->isEnabled());
+    for (const char* typed : {"192.0.2.7", "192.0.2.7", "192.0.2.8"}) {
+        QTest::keyClicks(address, typed);
+        QTest::keyClick(address, Qt::Key_Return);
+    }
+    EXPECT_TRUE(m_dialog->isVisible());
+    EXPECT_EQ(m_dialog->settings().transport.addresses, (QStringList{"192.0.2.7", "192.0.2.8"}));
+    child<QListWidget>("addresses")->setCurrentRow(0);
+    QTest::mouseClick(child<QPushButton>("removeAddress"), Qt::LeftButton);
+    EXPECT_EQ(m_dialog->settings().transport.addresses, QStringList("192.0.2.8"));
+}
+
+TEST_F(CameraSettingsDialogTest, SaysWhatIsNoAddress)
+{
+    open({});
+    auto* address = child<QLineEdit>("address");
+    QTest::keyClicks(address, "1.2.3");
+    QTest::keyClick(address, Qt::Key_Return);
+    EXPECT_TRUE(child<QLabel>("addressProblem")->isVisible());
+    EXPECT_EQ(child<QLabel>("addressProblem")->text(),
+              "\"1.2.3\" is no address of a camera. It consists of four numbers, such as "
+              "192.168.1.20.");
+    EXPECT_TRUE(m_dialog->settings().transport.addresses.isEmpty());
+    QTest::keyClicks(address, ".4");
+    EXPECT_FALSE(child<QLabel>("addressProblem")->isVisible());
+    QTest::keyClick(address, Qt::Key_Return);
+    EXPECT_EQ(m_dialog->settings().transport.addresses, QStringList("1.2.3.4"));
+}
+
+TEST_F(CameraSettingsDialogTest, TakesAnAddressThatWasTypedButNotAdded)
+{
+    open({});
+    QTest::keyClicks(child<QLineEdit>("address"), "192.0.2.7");
+    m_dialog->accept();
+    EXPECT_FALSE(m_dialog->isVisible());
+    EXPECT_EQ(m_dialog->settings().transport.addresses, QStringList("192.0.2.7"));
+}
+
+TEST_F(CameraSettingsDialogTest, StaysOpenOverWhatIsNoAddress)
+{
+    open({});
+    auto* address = child<QLineEdit>("address");
+    QTest::keyClicks(address, "1.2.3");
+    m_dialog->accept();
+    EXPECT_TRUE(m_dialog->isVisible());
+    EXPECT_TRUE(child<QLabel>("addressProblem")->isVisible());
+    address->clear();
+    m_dialog->accept();
+    EXPECT_FALSE(m_dialog->isVisible());
+    EXPECT_TRUE(m_dialog->settings().transport.addresses.isEmpty());
+}
+
+TEST_F(CameraSettingsDialogTest, KnowsPacketSizesAndTheirAbsence)
+{
+    open({});
+    auto* size = child<QSpinBox>("packetSize");
+    EXPECT_EQ(size->text(), "as large as possible");
+    size->setValue(9000);
+    EXPECT_EQ(m_dialog->settings().transport.packetSize, 9000);
+    size->setValue(size->minimum());
+    EXPECT_EQ(m_dialog->settings().transport.packetSize, 0);
+}
+
+TEST_F(CameraSettingsDialogTest, AsksAboutNoNetworkWhereOnlyEmulatedCamerasAreWanted)
+{
+    open({});
+    auto* backends = child<QComboBox>("backends");
+    EXPECT_TRUE(child<QGroupBox>("search")->isEnabled());
+    backends->setCurrentIndex(backends->findData("emulation"));
+    EXPECT_FALSE(child<QGroupBox>("search")->isEnabled());
+    EXPECT_FALSE(child<QSpinBox>("packetSize")->isEnabled());
+}
+
+using CameraSettingsInTheViewer = ViewerTest;
+
+TEST_F(CameraSettingsInTheViewer, CountAtOnceAndAreKept)
+{
+    startViewer();
+    ASSERT_EQ(m_viewer->pool().cameras().size(), 2);
+    child<QAction>("editCameraSettings")->trigger();
+    auto* backends = child<QComboBox>("backends");
+    backends->setCurrentIndex(backends->findData("genicam"));
+    child<QGroupBox>("search")->setChecked(false);
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    EXPECT_TRUE(waitUntil([this] { return m_viewer->pool().cameras().isEmpty(); }));
+    EXPECT_EQ(child<QTreeWidget>("cameras")->topLevelItemCount(), 0);
+    EXPECT_EQ(readCameraSettings(ViewerSettings()).backends, Backends::GenICam);
+    EXPECT_FALSE(readCameraSettings(ViewerSettings()).transport.isSearching);
+}
+
+TEST_F(CameraSettingsInTheViewer, DoNotKeepWhatOneStartWasAskedFor)
+{
+    startViewer();
+    child<QAction>("editCameraSettings")->trigger();
+    EXPECT_EQ(child<QComboBox>("backends")->currentData(), "all");
+    child<QSpinBox>("packetSize")->setValue(1500);
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    ASSERT_TRUE(waitUntil([] { return !QApplication::activeModalWidget(); }));
+    EXPECT_EQ(readCameraSettings(ViewerSettings()).backends, Backends::All);
+    EXPECT_EQ(readCameraSettings(ViewerSettings()).transport.packetSize, 1500);
+    EXPECT_EQ(m_viewer->pool().cameras().size(), 2);
+}
+
+} // namespace
+} // namespace Viewer

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: Apache-2.0
+// A camera that vanishes does not hold up the windows.
+#include "featuremodel.h"
+#include "networkviewertest.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace Viewer {
+namespace {
+
+/// How long the event loop was held up at most.
+class EventLoopMeter
+{
+public:
+    EventLoopMeter()
+    {
+        m_sinceTick.start();
+        QObject::connect(&m_timer, &QTimer::timeout,
+                         [this] { m_longest = std::max(m_longest, m_sinceTick.restart()); });
+        m_timer.start(1);
+    }
+
+    qint64 longestMs() const { return std::max(m_longest, m_sinceTick.elapsed()); }
+
+private:
+    QTimer m_timer;
+    QElapsedTimer m_sinceTick;
+    qint64 m_longest = 0;
+};
+
+/// The library waits 2.5 s for each answer, and for the end of its own questions.
+constexpr qint64 heldUpMs = 1500;
+
+class CameraLossTest : public NetworkViewerTest
+{
+protected:
+    void startWithFeatures()
+    {
+        startViewer();
+        ASSERT_TRUE(isFound());
+        openNetworkCamera();
+        m_tree = child<QTreeView>("features");
+        ASSERT_TRUE(waitUntil([this] { return m_tree->isVisible(); }));
+        m_tree->expandAll();
+    }
+
+    bool isLossTold()
+    {
+        return waitUntil([this] { return hasMessage("The connection to"); });
+    }
+
+    QTreeView* m_tree = nullptr;
+};
+
+TEST_F(CameraLossTest, WhileItRunsIsToldAndTheCameraCanBeOpenedAgain)
+{
+    startWithFeatures();
+    window().commands().startAction()->trigger();
+    ASSERT_TRUE(waitForPicture());
+    const EventLoopMeter meter;
+    m_rig.vanish();
+    EXPECT_TRUE(isLossTold());
+    EXPECT_TRUE(waitUntil([this] { return !m_tree->isVisible(); }));
+    RecordProperty("longestMs", static_cast<int>(meter.longestMs()));
+    EXPECT_LT(meter.longestMs(), heldUpMs);
+    EXPECT_TRUE(view().picture().isNull());
+    EXPECT_EQ(networkItem()->text(1), "closed");
+
+    m_rig.comeBack();
+    window().commands().startAction()->trigger();
+    EXPECT_TRUE(waitForPicture());
+}
+
+TEST_F(CameraLossTest, DoesNotHoldUpWhoeverWritesAFeature)
+{
+    startWithFeatures();
+    const auto gain =
+        m_viewer->pool().cameras().constLast()->parameterCollection()->floatParameter("Gain");
+    m_rig.vanish();
+    const EventLoopMeter meter;
+    auto* model = m_tree->model();
+    const QModelIndexList found = model->match(model->index(0, 0), FeatureModel::NameRole, "Gain",
+                                               1, Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_FALSE(found.isEmpty());
+    EXPECT_FALSE(
+        model->setData(found.constFirst().siblingAtColumn(FeatureModel::Value), "3", Qt::EditRole));
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Gain: "); }));
+    EXPECT_TRUE(isLossTold());
+    EXPECT_FALSE(gain->isAvailable());
+    RecordProperty("longestMs", static_cast<int>(meter.longestMs()));
+    EXPECT_LT(meter.longestMs(), heldUpMs);
+}
+
+} // namespace
+} // namespace Viewer

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: Apache-2.0
+// What every catalogue must fulfil.
+#include "cataloguechecks.h"
+
+#include "markup.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+namespace Translation {
+
+void expectAllTranslated(const QVector<Message>& messages)
+{
+    for (const Message& message : messages) {
+        EXPECT_TRUE(message.isFinished) << "unfinished: " << message;
+        EXPECT_FALSE(message.translations.isEmpty()) << message;
+        for (const QString& translation : message.translations)
+            EXPECT_FALSE(translation.trimmed().isEmpty()) << "not translated: " << message;
+    }
+}
+
+void expectNoneTwice(const QVector<Message>& messages)
+{
+    QSet<QString> seen;
+    for (const Message& message : messages) {
+        const QString key = message.context + QLatin1Char('\0') + message.source;
+        EXPECT_FALSE(seen.contains(key)) << message;
+        seen.insert(key);
+    }
+}
+
+void expectMarkupKept(const QVector<Message>& messages)
+{
+    for (const Message& message : messages)
+        for (const QString& translation : message.translations) {
+            EXPECT_EQ(markup(translation), markup(message.source)) << message;
+            EXPECT_EQ(commandEnding(translation), commandEnding(message.source)) << message;
+        }
+}
+
+void expectMnemonicsInBrackets(const QVector<Message>& messages)
+{
+    static const QRegularExpression atEnd(QStringLiteral("^[^&]+\\(&[A-Z]\\)(\\.\\.\\.|[:：])?$"));
+    for (const Message& message : messages) {
+        if (!commandEnding(message.source).contains(QLatin1Char('&')))
+            continue;
+        for (const QString& translation : message.translations)
+            EXPECT_TRUE(translation.contains(atEnd)) << message;
+    }
+}
+
+void expectFullStopsKept(const QVector<Message>& messages)
+{
+    for (const Message& message : messages)
+        for (const QString& translation : message.translations)
+            EXPECT_EQ(isSentence(translation), isSentence(message.source)) << message;
+}
+
+void expectCompiled(const QVector<Message>& messages, const QString& compiled)
+{
+    QTranslator translator;
+    ASSERT_TRUE(translator.load(compiled)) << compiled.toStdString();
+    for (const Message& message : messages) {
+        const QString last = translator.translate(message.context.toUtf8().constData(),
+                                                  message.source.toUtf8().constData(), nullptr,
+                                                  message.isPlural ? 2 : -1);
+        EXPECT_EQ(last, message.translations.constLast()) << message;
+    }
+}
+
+} // namespace Translation

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+// Tests of the sequence with a camera that does what the test wants.
+#include "calibrationsequence.h"
+#include "command.h"
+#include "fakecameraservices.h"
+#include "measuredcamera.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace ColorCalibrate;
+
+namespace {
+
+/// A camera that looks at the chart, whatever its settings are.
+class CalibrationSequenceTest : public testing::Test
+{
+protected:
+    CalibrationSequenceTest()
+    {
+        m_camera->open = false;
+        m_camera->features().remove(QStringLiteral("Width")); // no grid to be kept in settings
+        showChart(*m_camera, castColors());
+        m_model.SetCameraStatusService(&m_status);
+        m_model.SetCameraControlService(&m_control);
+        m_options.grid = ColorCalibration::TrapezoidPoints({12, 8}, {108, 8}, {12, 72}, {108, 72});
+    }
+
+    /// \return  what it failed with
+    std::string run()
+    {
+        CalibrationSequence sequence(
+            m_model, [this](const QString& step) { m_steps.append(step); }, [] { return false; });
+        try {
+            sequence.run(m_camera, m_options);
+        } catch (const CommandError& error) {
+            return error.what();
+        }
+        return {};
+    }
+
+    FakeStatusService m_status;
+    FakeControlService m_control;
+    QSharedPointer<FakeCamera> m_camera = newCamera();
+    ColorCalibration::ColorCorrectionModel m_model;
+    SequenceOptions m_options;
+    QStringList m_steps;
+};
+
+TEST_F(CalibrationSequenceTest, AnImageThatFailsIsToldWithTheCamerasReason)
+{
+    m_camera->features().beforeCall = [](const QString& call) {
+        if (call == QLatin1String("grab"))
+            throw std::runtime_error("the trigger line is dead");
+    };
+    EXPECT_EQ(run(),
+              "the camera delivered no image at the step \"Taking the first image\"; check its "
+              "cable, trigger and exposure time, and try again (the trigger line is dead)");
+    EXPECT_FALSE(m_camera->open);
+}
+
+TEST_F(CalibrationSequenceTest, BrightnessHasTwoMinutes)
+{
+    EXPECT_EQ(SequenceOptions().longestBrightnessRun, std::chrono::seconds(120));
+}
+
+TEST_F(CalibrationSequenceTest, ABrightnessRunThatComesToNoEndIsEnded)
+{
+    // The gray patch stays far too dark, and no limit is ever reached.
+    for (const char* limit : {"AutoExposureTimeUpperLimit", "AutoGainUpperLimit"})
+        m_camera->features().change(QLatin1String(limit),
+                                    [](FakeFeature& feature) { feature.value = 1e300; });
+    m_camera->features().change(QStringLiteral("ExposureTime"),
+                                [](FakeFeature& feature) { feature.maximum = 1e300; });
+    m_options.longestBrightnessRun = std::chrono::milliseconds(50);
+    EXPECT_EQ(run(), "the automatic brightness could not be started, or came to no end; does the "
+                     "camera's image follow its exposure time and gain?");
+    EXPECT_EQ(m_steps.last().toStdString(), "Adjusting brightness");
+    EXPECT_EQ(m_control.handles, 0);
+    EXPECT_FALSE(m_camera->open);
+    const QStringList writes = m_camera->features().writes();
+    EXPECT_TRUE(writes.last().startsWith(QLatin1String("load @CameraDevice")))
+        << "nothing is written behind what was restored: " << writes.last().toStdString();
+}
+
+} // namespace

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: Apache-2.0
+// The tool on a network camera with which something is wrong.
+#include "calibrationsequence.h"
+#include "cameras.h"
+#include "genicamcamera.h"
+#include "networkcameras.h"
+
+#include <QProcess>
+#include <QSet>
+
+#include <chrono>
+#include <csignal>
+
+using namespace ColorCalibrate;
+
+namespace {
+
+constexpr std::chrono::seconds patience(60);
+
+} // namespace
+
+TEST_F(NetworkCameras, AreMissedWhereverTheyVanish)
+{
+    CameraSelection selection;
+    selection.hasEmulated = false;
+    selection.address = m_address;
+    selection.packetSize = 9000;
+    ToolCameras cameras({}, selection);
+    const auto camera = cameras.all().first();
+    const SequenceOptions options;
+    constexpr int enough = 30;
+    QString lastStep;
+    for (int last = 0; last < enough && lastStep != QLatin1String("Collecting the results");
+         ++last) {
+        ASSERT_TRUE(camera->open()) << last << ": " << camera->lastErrorText().toStdString();
+        camera->parameterCollection()
+            ->floatParameter(QStringLiteral("ExposureTime"))
+            ->setValue(20000.0);
+        ColorCalibration::ColorCorrectionModel model;
+        model.SetCameraStatusService(cameras.statusService());
+        model.SetCameraControlService(cameras.controlService());
+        QSet<QString> steps;
+        CalibrationSequence sequence(
+            model,
+            [&](const QString& name) {
+                lastStep = name;
+                steps.insert(name);
+                if (steps.size() > last)
+                    vanish();
+            },
+            [] { return false; });
+        try {
+            sequence.run(camera, options);
+            ADD_FAILURE() << lastStep.toStdString();
+        } catch (const CommandError& error) {
+            // Whether an opened camera answers is only known by the first access after that.
+            if (last > 0) {
+                EXPECT_STREQ(error.what(), "the camera has been disconnected")
+                    << lastStep.toStdString();
+            }
+        }
+        EXPECT_FALSE(camera->isOpen()) << lastStep.toStdString();
+        camera->close();
+        vanish();
+        serveModel(servedModel());
+    }
+    EXPECT_EQ(lastStep.toStdString(), "Collecting the results");
+}
+
+TEST_F(NetworkCameras, AreCalibratedOrGivenBackWhereHalfOfThePacketsAreLost)
+{
+    setExposure(20000.0);
+    const QString before = settings();
+    m_server->losePackets(0.5);
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    if (outcome.code == 0)
+        return;
+    expectFailure(outcome, 1, {QStringLiteral("; the camera's settings are as they were")});
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+// In the middle of it: neutral settings and a mono image.
+TEST_F(NetworkCameras, AreGivenBackWhereImagesStopComingThrough)
+{
+    setExposure(20000.0);
+    const QString before = settings();
+    const auto format =
+        m_served->parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"));
+    QObject::connect(m_served.data(), &EmulatedCamera::cameraImageGrabbed, [&] {
+        if (format->value().startsWith(QLatin1String("Mono")))
+            m_server->losePackets(1.0);
+    });
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    expectFailure(outcome, 1,
+                  {QStringLiteral("the camera delivered no image at the step \""),
+                   QStringLiteral("; the camera's settings are as they were")});
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+TEST_F(NetworkCameras, AreGivenBackWhereNoImageComesThrough)
+{
+    const QString before = settings();
+    m_server->losePackets(1.0);
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err,
+              "colorcalibrate: the camera delivered no image at the step \"Taking the first "
+              "image\"; check its cable, trigger and exposure time, and try again; the camera's "
+              "settings are as they were\n");
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+TEST_F(NetworkCameras, AreRefusedWhileAnotherProgramControlsThem)
+{
+    Cameras::GenICam::TransportSettings transport;
+    transport.packetSize = 9000;
+    const auto other =
+        Cameras::GenICam::GenicamCamera::create(Cameras::GenICam::cameraAt(m_address), transport);
+    ASSERT_TRUE(other->open());
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err,
+              "colorcalibrate: the camera \"127.0.0.1\" could not be opened: The camera is being "
+              "used by another application.\n");
+    EXPECT_TRUE(other->isOpen());
+    other->close();
+    EXPECT_EQ(runTool(atAddress("list")).code, 0);
+}
+
+TEST_F(NetworkCameras, SayWhichFeatureTheCalibratorMisses)
+{
+    struct Missing
+    {
+        const char* feature;
+        const char* words;
+    };
+    for (const Missing& missing : {Missing{"DeviceColorPipelineVersion", "cannot be calibrated"},
+                                   Missing{"BalanceRatio", "BalanceRatio"}}) {
+        serveModel(servedModel(), {QLatin1String(missing.feature)});
+        const QString before = settings();
+        const Outcome outcome = runTool(atAddress("calibrate"));
+        expectFailure(outcome, 1, {QLatin1String(missing.words)});
+        EXPECT_EQ(settings().toStdString(), before.toStdString()) << missing.feature;
+    }
+}
+
+TEST_F(NetworkCameras, AreCalibratedWithoutAMatrixAndTheUserIsTold)
+{
+    serveModel(servedModel(), {QStringLiteral("ColorTransformationValue")});
+    setExposure(20000.0);
+    const Outcome outcome = runTool(
+        atAddress("calibrate") + QStringList{QStringLiteral("--exposure"), QStringLiteral("keep")});
+    EXPECT_EQ(outcome.err,
+              "The camera has no color matrix, so the computed one is not in the camera, and its "
+              "colors stay less exact than they could be.\n");
+    EXPECT_EQ(outcome.code, 0);
+}
+
+TEST_F(NetworkCameras, HaveTheirSettingsBackWhenTheProgramIsInterrupted)
+{
+    setExposure(20000.0);
+    const QString before = settings();
+    const WorkingInterrupt interrupt;
+    QProcess program;
+    program.start(QStringLiteral(COLORCALIBRATE_PROGRAM), atAddress("calibrate"));
+    ASSERT_TRUE(program.waitForStarted());
+    // In the middle of it: neutral settings and a mono image.
+    const auto format =
+        m_served->parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"));
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (!format->value().startsWith(QLatin1String("Mono")) &&
+           program.state() == QProcess::Running && std::chrono::steady_clock::now() < end)
+        program.waitForFinished(5);
+    ASSERT_NE(settings().toStdString(), before.toStdString());
+    ASSERT_EQ(::kill(static_cast<pid_t>(program.processId()), SIGINT), 0);
+    ASSERT_TRUE(program.waitForFinished(60000));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.readAllStandardError().toStdString(),
+              "colorcalibrate: cancelled; the camera's settings are as they were\n");
+    EXPECT_EQ(program.readAllStandardOutput().toStdString(), "");
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
