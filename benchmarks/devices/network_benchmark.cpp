@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <atomic>
 #include <condition_variable>
@@ -104,11 +105,16 @@ class Counter
 {
 public:
     explicit Counter(const HostCameraPtr& camera)
-        : m_connection(QObject::connect(camera.data(), &HostCamera::cameraImageGrabbed, [this] {
-            const std::lock_guard lock(m_mutex);
-            ++m_count;
-            m_changed.notify_all();
-        }))
+        : m_connection(
+              QObject::connect(camera.data(), &HostCamera::cameraImageGrabbed,
+                               [this](const auto& /*camera*/, const Ostria::CGrabResultPtr& frame) {
+                                   const std::lock_guard lock(m_mutex);
+                                   if (m_count == 0)
+                                       m_firstNumber = frame->frameNumber();
+                                   m_lastNumber = frame->frameNumber();
+                                   ++m_count;
+                                   m_changed.notify_all();
+                               }))
     {}
     ~Counter() { QObject::disconnect(m_connection); }
     Counter(const Counter&) = delete;
@@ -124,9 +130,20 @@ public:
         return came;
     }
 
+    /// Frames that the camera took and that did not come.
+    double lost()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_count == 0 ? 0.0
+                            : static_cast<double>(m_lastNumber - m_firstNumber + 1) -
+                                  static_cast<double>(m_count);
+    }
+
 private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
+    std::uint64_t m_firstNumber = 0;
+    std::uint64_t m_lastNumber = 0;
     std::size_t m_count = 0;
     std::size_t m_seen = 0;
     QMetaObject::Connection m_connection;
@@ -146,15 +163,16 @@ void framesOverLoopback(benchmark::State& state)
     served->open();
     const Emulation::GigeServer server(std::make_shared<Prerendered>(served), "127.0.0.1");
     const HostCameraPtr camera = networkCamera();
+    Counter counter(camera);
     if (!camera->open() || !camera->startGrabbing()) {
         state.SkipWithError(camera->lastErrorText().toUtf8().constData());
         return;
     }
-    Counter counter(camera);
     for (auto _ : state)
         if (!counter.waitForNext())
             state.SkipWithError("no image came");
     const auto statistics = camera.staticCast<GenICam::GenicamCamera>()->statistics();
+    state.counters["lost"] = counter.lost();
     state.counters["damaged"] = static_cast<double>(statistics.damaged);
     state.counters["overrun"] = static_cast<double>(statistics.overrun);
     state.counters["fps"] =
@@ -186,5 +204,31 @@ BENCHMARK_CAPTURE(openToFirstFrame, inProcess, false)->Unit(benchmark::kMillisec
 BENCHMARK_CAPTURE(openToFirstFrame, overLoopback, true)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
+
+/// Memory in use that a cycle leaves behind, on average.
+void openAndClose(benchmark::State& state)
+{
+    const QTemporaryDir folder;
+    const auto emulated = makeCamera(folder, true);
+    emulated->open();
+    const Emulation::GigeServer server(Emulation::serveEmulation(emulated), "127.0.0.1");
+    const HostCameraPtr camera = networkCamera();
+    const auto cycle = [&camera] {
+        Counter counter(camera);
+        const bool isDone = camera->open() && camera->grabSingle() && counter.waitForNext();
+        camera->close();
+        return isDone;
+    };
+    constexpr int cyclesBefore = 5;
+    for (int i = 0; i < cyclesBefore; ++i)
+        cycle();
+    const auto before = static_cast<double>(mallinfo2().uordblks);
+    for (auto _ : state)
+        if (!cycle())
+            state.SkipWithError(camera->lastErrorText().toUtf8().constData());
+    state.counters["bytesKept"] = (static_cast<double>(mallinfo2().uordblks) - before) /
+                                  static_cast<double>(state.iterations());
+}
+BENCHMARK(openAndClose)->Unit(benchmark::kMillisecond)->Iterations(100)->UseRealTime();
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "emulatedcalibration.h"
 #include "reporthtml.h"
 #include "summaryfiles.h"
+#include "testsettings.h"
 
 #include <benchmark/benchmark.h>
 
@@ -61,6 +62,7 @@ Calibrated& calibrated()
 {
     static int argumentCount = 0;
     static const QCoreApplication application(argumentCount, nullptr);
+    static const TestSettings settings;
     static Calibrated instance;
     return instance;
 }

@@ -37,6 +37,7 @@ int startViewer(int argc, char** argv)
     QString error;
     const auto cameras = Viewer::emulatedCameras({}, error);
     Viewer::ViewerArguments arguments;
+    arguments.backends = Viewer::Backends::Emulation;
     arguments.camera = cameras.constFirst()->displayName();
     Viewer::ViewerApplication viewer(arguments, cameras);
     QObject::connect(&viewer.window().liveView(), &Viewer::LiveView::painted, &viewer, endNow,
