@@ -35,6 +35,13 @@ constexpr double usableDeltaE = 8.0;
 /// By how much a calibration may leave a camera worse that was calibrated before: noise alone.
 constexpr double usableLoss = 1.0;
 
+/// Why the automatic brightness has ended, without the entry that only says that it has.
+QString reasonsOf(QStringList failures)
+{
+    failures.removeAll(QStringLiteral("Autoadjust failed."));
+    return failures.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 CalibrationSequence::CalibrationSequence(ColorCorrectionModel& model,
@@ -245,7 +252,7 @@ void CalibrationSequence::adjustBrightness(const SequenceOptions& options)
     QString failure;
     for (int run = 0; run < mostBrightnessRuns; ++run) {
         runBrightness(options);
-        failure = m_log.lastFailure();
+        failure = reasonsOf(m_log.failures());
         // The worker ends by its limits too, and its last write comes after its last image.
         imageStep(
             "Checking brightness",

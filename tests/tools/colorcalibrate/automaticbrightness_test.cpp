@@ -3,6 +3,7 @@
 #include "emulatedhost.h"
 
 #include "logging.h"
+#include "logrecorder.h"
 
 #include <QEventLoop>
 
@@ -13,6 +14,8 @@
 #include <iomanip>
 #include <iostream>
 
+using Cameras::Emulation::Scene;
+using Cameras::Emulation::SceneSettings;
 using Core::Logging::ELogLevel;
 
 namespace {
@@ -51,6 +54,9 @@ struct Start
 const Start starts[] = {{20.0, 1},    {200.0, 1},    {2000.0, 1},   {10000.0, 1},  {40000.0, 1},
                         {80000.0, 1}, {140000.0, 1}, {400000.0, 2}, {1000000.0, 2}};
 
+/// More images than any run takes that comes to an end.
+constexpr int endless = 60;
+
 class AutomaticBrightness : public testing::TestWithParam<int>
 {
 protected:
@@ -66,15 +72,28 @@ protected:
         m_host.model().GrabImage(first, false);
     }
 
+    /// Returns when it has said that it has finished.
     void run()
     {
+        using Model = ColorCalibration::ColorCorrectionModel;
         QEventLoop loop;
-        QObject::connect(
-            &m_host.model(),
-            &ColorCalibration::ColorCorrectionModel::AutoAdjustGray80PercentPatchFinished, &loop,
-            &QEventLoop::quit, Qt::QueuedConnection);
+        bool hasFinished = false;
+        int images = 0;
+        const auto onFinished = [&] {
+            hasFinished = true;
+            loop.quit();
+        };
+        const auto onImage = [&] {
+            if (++images > endless)
+                loop.quit();
+        };
+        QObject::connect(&m_host.model(), &Model::AutoAdjustGray80PercentPatchFinished, &loop,
+                         onFinished, Qt::QueuedConnection);
+        QObject::connect(&m_host.model(), &Model::Gray80PercentHitRateChanged, &loop, onImage,
+                         Qt::QueuedConnection);
         ASSERT_TRUE(m_host.model().AutoAdjustGray80PercentPatch());
         loop.exec();
+        EXPECT_TRUE(hasFinished);
     }
 
     /// The gray patch of a new image on 0 to 255.
@@ -115,6 +134,118 @@ TEST_P(AutomaticBrightness, EndsAtItsGoalFromEveryStartExposure)
     }
 }
 
+/// Cameras whose automatic exposure ends at 100 ms, which is enough for a fifth of the usual light.
+class BrightnessInDimLight : public AutomaticBrightness
+{
+protected:
+    BrightnessInDimLight()
+    {
+        EXPECT_TRUE(m_host.model().CreateSettingsBackup(false));
+        m_before = m_host.settings();
+        EXPECT_TRUE(m_host.model().SetNeutralSettings());
+        m_host.camera()
+            .parameterCollection()
+            ->floatParameter(
+                QStringLiteral("AutoExposureTimeAbsUpperLimit|AutoExposureTimeUpperLimit"))
+            ->setValue(100000.0);
+        m_host.setExposure(20000.0);
+    }
+
+    void dim(double light)
+    {
+        SceneSettings settings;
+        settings.lightLevel = light;
+        m_host.camera().setScene(Scene(settings));
+    }
+
+    ///
+    eturn what the log says of failures QStringList failuresOfRun()
+    {
+        const LogRecorder log;
+        run();
+        QStringList failures;
+        for (const LogEntry& entry : log.entries())
+            if (entry.level >= Core::Logging::Warning)
+                failures.append(entry.text);
+        return failures;
+    }
+
+    void expectRestored()
+    {
+        EXPECT_TRUE(m_host.model().RestoreSettingsBackup(false));
+        EXPECT_EQ(m_host.settings().toStdString(), m_before.toStdString());
+    }
+
+    QString m_before;
+};
+
+TEST_P(BrightnessInDimLight, IsBroughtToTheGoalByGainOrEndsWhereTheGainIsRefused)
+{
+    for (const double light : {0.15, 0.03}) {
+        dim(light);
+        const QStringList failures = failuresOfRun();
+        EXPECT_EQ(m_host.model().GetExposureTime(), 100000.0) << light;
+        if (m_host.isOldGeneration()) {
+            // What is written are hundredths of the raw steps, and the camera has 240 of these.
+            ASSERT_EQ(failures.size(), 3) << light;
+            EXPECT_TRUE(failures.at(0).endsWith(QLatin1String("is above the maximum 240.")))
+                << failures.at(0).toStdString();
+            EXPECT_EQ(failures.at(1), QStringLiteral("Autoadjust failed."));
+            EXPECT_TRUE(failures.at(2).startsWith(QLatin1String(
+                "CameraAutoBrightnessHelper::doWork:The camera does not take the gain ")))
+                << failures.at(2).toStdString();
+            EXPECT_EQ(m_host.model().GetGain(), 0.0) << light;
+            // 20 ms give 150 in full light.
+            EXPECT_NEAR(level(), 150.0 * 5.0 * light, 10.0) << light;
+        } else {
+            EXPECT_EQ(failures, QStringList()) << light;
+            EXPECT_NEAR(level(), 150.0, 17.0) << light;
+        }
+    }
+    expectRestored();
+}
+
+TEST_P(BrightnessInDimLight, InTheDarkEndsAtTheLimits)
+{
+    dim(0.0);
+    const QStringList failures = failuresOfRun();
+    EXPECT_EQ(m_host.model().GetExposureTime(), 100000.0);
+    EXPECT_EQ(failures.isEmpty(), !m_host.isOldGeneration());
+    EXPECT_EQ(m_host.model().GetGain(), m_host.isOldGeneration() ? 0.0 : 24.0);
+    expectRestored();
+}
+
+TEST_P(BrightnessInDimLight, EndsWhereAParameterRefuses)
+{
+    const bool isOld = m_host.isOldGeneration();
+    const QString gain = isOld ? QStringLiteral("GainRaw") : QStringLiteral("Gain");
+    const QString exposure =
+        isOld ? QStringLiteral("ExposureTimeAbs") : QStringLiteral("ExposureTime");
+    struct Case
+    {
+        QString refused;
+        int writesBefore;
+        const char* what;
+    };
+    dim(0.15);
+    for (const Case& one :
+         {Case{exposure, 0, "exposure time"}, Case{gain, 0, "gain"}, Case{gain, 1, "gain"}}) {
+        SCOPED_TRACE(one.refused.toStdString());
+        m_host.setExposure(20000.0);
+        ASSERT_TRUE(m_host.model().SetGain(0.1));
+        m_host.camera().refuseWrites(one.refused, one.writesBefore);
+        const QStringList failures = failuresOfRun();
+        ASSERT_EQ(failures.size(), 3);
+        EXPECT_TRUE(failures.at(0).contains(one.refused)) << failures.at(0).toStdString();
+        EXPECT_TRUE(failures.at(2).contains(QLatin1String("The camera does not take the ") +
+                                            QLatin1String(one.what)))
+            << failures.at(2).toStdString();
+        m_host.camera().refuseWrites(one.refused, -1);
+    }
+    expectRestored();
+}
+
 INSTANTIATE_TEST_SUITE_P(Cameras, AutomaticBrightness, testing::Values(0, 1, 2));
+INSTANTIATE_TEST_SUITE_P(Cameras, BrightnessInDimLight, testing::Values(0, 1, 2));
 
 } // namespace

@@ -190,6 +190,90 @@ TEST_F(CameraAutoBrightnessHelperTest, AMissingLimitEndsTheRunWithTwoEntries)
     }
 }
 
+TEST_F(CameraAutoBrightnessHelperTest, ARefusedWriteEndsTheRunWithTwoEntries)
+{
+    struct Case
+    {
+        const char* refused;
+        std::function<void()> arrange;
+        QStringList calls;
+    };
+    const auto never = [](double) {
+        return false;
+    };
+    // The level is that of a black image: 1000 * (1 + 149 * 0.8) is beyond the limit of 100000, and
+    // ln(150) * 10 * 0.8 is beyond that of the gain.
+    const Case cases[] = {
+        {"gain 0", [&] { m_patch.takesGain = never; }, {"gain 0"}},
+        {"exposure time 100000",
+         [&] { m_patch.takesExposure = never; },
+         {"gain 0", "measure 1", "measure 1", "exposure 100000"}},
+        {"gain 24",
+         [&] {
+             m_patch.takesGain = [](double value) {
+                 return value < 24.0;
+             };
+         },
+         {"gain 0", "measure 1", "measure 1", "exposure 100000", "measure 1", "gain 24"}},
+    };
+    for (const Case& one : cases) {
+        const LogRecorder log;
+        m_patch.restartWith(0.0);
+        one.arrange();
+        EXPECT_EQ(run(newCamera()), 1);
+        EXPECT_EQ(m_patch.calls, one.calls) << one.refused << ": nothing is written behind it";
+        QStringList warnings;
+        for (const LogEntry& entry : log.entries())
+            if (entry.level == 2)
+                warnings << entry.text;
+        EXPECT_EQ(warnings,
+                  (QStringList{"Autoadjust failed.",
+                               QStringLiteral("CameraAutoBrightnessHelper::doWork:The camera does "
+                                              "not take the %1.")
+                                   .arg(QLatin1String(one.refused))}));
+    }
+}
+
+// The limits of raw steps are those of the camera; what is written are hundredths of them.
+TEST_F(CameraAutoBrightnessHelperTest, AGainBetweenTheLimitsThatIsRefusedEndsTheRun)
+{
+    const auto camera = oldCamera();
+    camera->parameters().addInteger("AutoGainRawUpperLimit", 240);
+    m_patch.exposure = 99000.0;
+    m_patch.fixedLevel = 75.0;
+    m_patch.takesGain = [](double value) {
+        return value <= 2.4;
+    };
+    EXPECT_EQ(run(camera), 1);
+    // 75 of 150: ln(2) * 10 * 0.8 * 10 is 55.4518.
+    EXPECT_EQ(m_patch.calls.last(), "gain 55.4518");
+    EXPECT_EQ(m_patch.calls.filter("gain 55").size(), 1);
+    EXPECT_EQ(logTexts().last(),
+              "CameraAutoBrightnessHelper::doWork:The camera does not take the gain 55.4518.");
+}
+
+TEST_F(CameraAutoBrightnessHelperTest, AGainThatIsTheLowestNeedNotBeWritten)
+{
+    m_patch.gain = 0.0;
+    m_patch.exposure = 500.0;
+    m_patch.takesGain = [](double) {
+        return false;
+    };
+    EXPECT_EQ(run(newCamera()), 1);
+    EXPECT_NEAR(m_patch.exposure * m_patch.levelPerMicrosecond, 150.0, 15.0);
+    EXPECT_TRUE(logTexts().filter("failed").isEmpty());
+}
+
+TEST_F(CameraAutoBrightnessHelperTest, AnExposureTimeThatIsNotToldEndsTheRun)
+{
+    m_patch.tellsExposure = false;
+    EXPECT_EQ(run(newCamera()), 1);
+    EXPECT_EQ(m_patch.calls, (QStringList{"gain 0", "measure 1", "measure 1"}));
+    EXPECT_EQ(logTexts(), (QStringList{"Autoadjust failed.",
+                                       "CameraAutoBrightnessHelper::doWork:The camera does not "
+                                       "tell its exposure time."}));
+}
+
 TEST_F(CameraAutoBrightnessHelperTest, AListWithoutAGrayPatchEndsTheRun)
 {
     for (const int count : {0, 19}) {

@@ -24,6 +24,15 @@ public:
     int passes = 0;
     std::function<void()> onMeasure;
 
+    /// Whether the camera takes what is written, and tells its exposure time.
+    std::function<bool(double)> takesGain = [](double) {
+        return true;
+    };
+    std::function<bool(double)> takesExposure = [](double) {
+        return true;
+    };
+    bool tellsExposure = true;
+
     /// Levels below 0 are simulated ones; any other is what is measured always.
     double fixedLevel = -1.0;
 
@@ -36,6 +45,9 @@ public:
         gain = 3.0;
         passes = 0;
         fixedLevel = level;
+        takesGain = takesExposure = [](double) {
+            return true;
+        };
         calls.clear();
     }
 
@@ -64,11 +76,15 @@ public:
     bool SetGain(double value) override
     {
         calls << QStringLiteral("gain %1").arg(value);
+        if (!takesGain(value))
+            return false;
         gain = value;
         return true;
     }
     bool GetExposureTimeRange(double& min, double& value, double& max) override
     {
+        if (!tellsExposure)
+            return false;
         min = 10.0;
         value = exposure;
         max = 1e6;
@@ -77,6 +93,8 @@ public:
     bool SetExposureTime(double value) override
     {
         calls << QStringLiteral("exposure %1").arg(value);
+        if (!takesExposure(value))
+            return false;
         exposure = value;
         return true;
     }

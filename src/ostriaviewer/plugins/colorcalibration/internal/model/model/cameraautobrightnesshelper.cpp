@@ -27,6 +27,13 @@ void logStep(const QString& text)
     Core::Logging::createLogEntry(Core::Logging::Debug, category, text);
 }
 
+/// Nothing moves any more where a write is refused, so that the run would never end.
+Core::Exception::BaseException refusal(const char* what, double value)
+{
+    return Core::Exception::BaseException(
+        QStringLiteral("The camera does not take the %1 %2.").arg(QLatin1String(what)).arg(value));
+}
+
 } // namespace
 
 CameraAutoBrightnessHelper::CameraAutoBrightnessHelper(
@@ -109,7 +116,9 @@ void CameraAutoBrightnessHelper::run()
     double gain = 0.0;
     double maximum = 0.0;
     calibration()->GetGainRange(minimum, gain, maximum);
-    calibration()->SetGain(minimum);
+    // A gain that cannot be written does no harm where it is the lowest.
+    if (!calibration()->SetGain(minimum) && gain > minimum)
+        throw refusal("gain", minimum);
     // The first image may still have been exposed with the gain of before.
     QVector<QColor> discarded;
     calibration()->GetColorPatchValues(discarded, true);
@@ -133,7 +142,9 @@ void CameraAutoBrightnessHelper::adjust()
     double exposureMinimum = 0.0;
     double exposure = 0.0;
     double exposureMaximum = 0.0;
-    calibration()->GetExposureTimeRange(exposureMinimum, exposure, exposureMaximum);
+    if (!calibration()->GetExposureTimeRange(exposureMinimum, exposure, exposureMaximum))
+        throw Core::Exception::BaseException(
+            QStringLiteral("The camera does not tell its exposure time."));
 
     m_errorPercent = (ratio - 1.0) * 100.0;
     if (m_gainStage)
@@ -167,7 +178,7 @@ void CameraAutoBrightnessHelper::adjustExposure(double ratio, double gainMinimum
                                                 double exposure)
 {
     if (gain > gainMinimum)
-        calibration()->SetGain(gainMinimum);
+        setGain(gainMinimum);
     const double step = (ratio - 1.0) * damping;
     double newExposure = step * exposure + exposure;
     logStep(QStringLiteral("Error: %1, OldValue: %2, NewValue: %3")
@@ -175,7 +186,8 @@ void CameraAutoBrightnessHelper::adjustExposure(double ratio, double gainMinimum
                 .arg(exposure)
                 .arg(newExposure));
     m_gainStage = m_exposureLimits.clamp(newExposure);
-    calibration()->SetExposureTime(newExposure);
+    if (!calibration()->SetExposureTime(newExposure))
+        throw refusal("exposure time", newExposure);
 }
 
 void CameraAutoBrightnessHelper::adjustGain(double ratio, double gain)
@@ -189,7 +201,13 @@ void CameraAutoBrightnessHelper::adjustGain(double ratio, double gain)
                 .arg(added));
     if (m_gainLimits.clamp(newGain))
         m_running = false;
-    calibration()->SetGain(newGain);
+    setGain(newGain);
+}
+
+void CameraAutoBrightnessHelper::setGain(double value)
+{
+    if (!calibration()->SetGain(value))
+        throw refusal("gain", value);
 }
 
 } // namespace ColorCalibration

@@ -34,7 +34,8 @@ public:
     void stop();
 
 signals:
-    /// The run has ended: the goal is reached, the limits are, somebody stopped it, or it failed.
+    /// The run has ended: the goal is reached, the limits are, somebody stopped it, or it failed,
+    /// also because the camera took no exposure time or gain any more.
     void AutoBrightnessFinished();
 
 public slots:
@@ -78,6 +79,7 @@ private:
     double measurePeak();
     void adjustExposure(double ratio, double gainMinimum, double gain, double exposure);
     void adjustGain(double ratio, double gain);
+    void setGain(double value);
 
     CalibrationInterface* m_calibration;
     QRecursiveMutex* m_lock;
