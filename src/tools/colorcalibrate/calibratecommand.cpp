@@ -22,6 +22,7 @@
 #include <QJsonObject>
 
 #include <exception>
+#include <functional>
 #include <ostream>
 
 using namespace ColorCalibration;
@@ -108,6 +109,18 @@ void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
                 .arg(camera->displayName()));
 }
 
+/// Whatever ends the work, the camera's settings are compared, and written back where they differ.
+void giveBackOnFailure(SettingsGuard& guard, const std::function<void()>& work)
+{
+    try {
+        work();
+    } catch (const CommandError& error) {
+        throw CommandError(QString::fromUtf8(error.what()) + guard.restore(), error.code());
+    } catch (const std::exception& error) {
+        throw CommandError(QString::fromUtf8(error.what()) + guard.restore());
+    }
+}
+
 Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera,
                  const SequenceOptions& options, SavingOptions saving, std::ostream& err)
 {
@@ -133,19 +146,26 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     const auto warn = [&err](const QString& warning) {
         err << warning.toStdString() << std::endl;
     };
-    CalibrationSequence sequence(
-        model, progress, [] { return Interruption::isRequested(); }, warn);
-    try {
+    const auto isCancelled = [] {
+        return Interruption::isRequested();
+    };
+    CalibrationSequence sequence(model, progress, isCancelled, warn);
+    SavingOutcome saved;
+    giveBackOnFailure(guard, [&] {
         report.result = sequence.run(camera, options);
-    } catch (const CommandError& error) {
-        throw CommandError(QString::fromUtf8(error.what()) + guard.restore(), error.code());
-    } catch (const std::exception& error) {
-        throw CommandError(QString::fromUtf8(error.what()) + guard.restore());
-    }
-    report.settings = model.LastCalibration();
-    report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
-    report.after = deltasToTargets(toPatchColors(report.result.currentColors, true));
-    saveOutcome(model, saving, progress);
+        report.settings = model.LastCalibration();
+        report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
+        report.after = deltasToTargets(toPatchColors(report.result.currentColors, true));
+        saved = saveOutcome(model, saving, progress, isCancelled);
+        if (saved.isCancelled) {
+            sequence.giveBack();
+            throw CommandError(QStringLiteral("cancelled"));
+        }
+    });
+    if (!saved.failures.isEmpty())
+        throw CommandError(
+            QStringLiteral("the camera is calibrated and stays so, but this could not be saved: %1")
+                .arg(saved.failures.join(QStringLiteral("; "))));
     model.Close();
     return report;
 }

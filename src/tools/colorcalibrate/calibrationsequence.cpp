@@ -68,15 +68,20 @@ SequenceResult CalibrationSequence::run(const CameraPtr& camera, const SequenceO
         open(camera);
         return calibrateOpened(options);
     } catch (...) {
-        m_model.StopGrabbing();
-        m_model.RestoreSettingsBackup(false);
-        // Closing keeps the grid for the next time, and this one may be to blame.
-        if (m_gridBefore)
-            m_model.SetGridPosition(*m_gridBefore);
-        m_model.Close();
-        m_camera.reset();
+        giveBack();
         throw;
     }
+}
+
+void CalibrationSequence::giveBack()
+{
+    m_model.StopGrabbing();
+    m_model.RestoreSettingsBackup(false);
+    // Closing keeps the grid for the next time, and this one may be to blame.
+    if (m_gridBefore)
+        m_model.SetGridPosition(*m_gridBefore);
+    m_model.Close();
+    m_camera.reset();
 }
 
 SequenceResult CalibrationSequence::calibrateOpened(const SequenceOptions& options)

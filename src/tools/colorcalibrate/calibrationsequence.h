@@ -56,6 +56,10 @@ public:
     SequenceResult run(const Core::CameraPoolComponents::CameraPtr& camera,
                        const SequenceOptions& options);
 
+    /// Undoes the last run, if the camera is still open: settings and grid are as they were before
+    /// it, and the camera is given back.
+    void giveBack();
+
 private:
     SequenceResult calibrateOpened(const SequenceOptions& options);
     void open(const Core::CameraPoolComponents::CameraPtr& camera);

@@ -98,29 +98,35 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
                   .arg(options.userSet, names.join(QStringLiteral(", "))));
 }
 
-void saveOutcome(ColorCalibration::ColorCorrectionModel& model, const SavingOptions& options,
-                 const std::function<void(const QString& step)>& progress)
+SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
+                          const SavingOptions& options,
+                          const std::function<void(const QString& step)>& progress,
+                          const std::function<bool()>& isCancelled)
 {
-    QStringList failures;
-    if (!options.settingsFolder.isEmpty()) {
-        progress(QStringLiteral("Saving the settings"));
-        attempt(failures, QStringLiteral("settings in %1").arg(options.settingsFolder),
-                [&] { return model.SaveSettingsToFile(options.settingsFolder); });
-    }
-    if (!options.summaryFolder.isEmpty()) {
-        progress(QStringLiteral("Saving the summary"));
-        attempt(failures, QStringLiteral("summary in %1").arg(options.summaryFolder),
-                [&] { return model.SaveSummaryToFile(options.summaryFolder); });
-    }
-    if (!options.userSet.isEmpty()) {
-        progress(QStringLiteral("Storing the user set"));
-        attempt(failures, QStringLiteral("user set %1").arg(options.userSet),
-                [&] { return model.StoreSettingsInUserSet(options.userSet, options.asDefault); });
-    }
-    if (!failures.isEmpty())
-        throw CommandError(
-            QStringLiteral("the camera is calibrated and stays so, but this could not be saved: %1")
-                .arg(failures.join(QStringLiteral("; "))));
+    SavingOutcome outcome;
+    const auto save = [&](const QString& step, const QString& what,
+                          const std::function<bool()>& call) {
+        outcome.isCancelled = outcome.isCancelled || isCancelled();
+        if (outcome.isCancelled)
+            return;
+        progress(step);
+        attempt(outcome.failures, what, call);
+    };
+    if (!options.settingsFolder.isEmpty())
+        save(QStringLiteral("Saving the settings"),
+             QStringLiteral("settings in %1").arg(options.settingsFolder),
+             [&] { return model.SaveSettingsToFile(options.settingsFolder); });
+    if (!options.summaryFolder.isEmpty())
+        save(QStringLiteral("Saving the summary"),
+             QStringLiteral("summary in %1").arg(options.summaryFolder),
+             [&] { return model.SaveSummaryToFile(options.summaryFolder); });
+    if (!options.userSet.isEmpty())
+        save(QStringLiteral("Storing the user set"),
+             QStringLiteral("user set %1").arg(options.userSet),
+             [&] { return model.StoreSettingsInUserSet(options.userSet, options.asDefault); });
+    else
+        outcome.isCancelled = outcome.isCancelled || isCancelled();
+    return outcome;
 }
 
 } // namespace ColorCalibrate

@@ -7,6 +7,7 @@
 #include "hostcamera.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -31,11 +32,20 @@ SavingOptions readSavingOptions(const CommandLine& line);
 /// \throws CommandError  there is none; the message names those that there are
 void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options);
 
-/// Saves in the wizard's order: settings, summary, user set.
-/// \param model     open and calibrated
-/// \param progress  is told each step as it begins
-/// \throws CommandError  after all was tried; the message names all that could not be saved
-void saveOutcome(ColorCalibration::ColorCorrectionModel& model, const SavingOptions& options,
-                 const std::function<void(const QString& step)>& progress);
+struct SavingOutcome
+{
+    bool isCancelled = false; ///< before the user set: the camera keeps nothing
+    QStringList failures;     ///< what could not be saved, with the reasons
+};
+
+/// Saves in the wizard's order: settings, summary, user set; one that fails keeps none of the
+/// others from being tried. Nothing is saved any more once it was cancelled; a user set that is
+/// being stored is the end, and can be cancelled no more. \param model        open and calibrated
+/// \param progress     is told each step as it begins
+/// \param isCancelled  is asked between the steps
+SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
+                          const SavingOptions& options,
+                          const std::function<void(const QString& step)>& progress,
+                          const std::function<bool()>& isCancelled);
 
 } // namespace ColorCalibrate

@@ -2,6 +2,7 @@
 // The program under a terminal, with Ctrl-C pressed in the middle of a calibration.
 #include "commandtest.h"
 
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -76,7 +77,10 @@ TEST_P(InterruptedProgram, EndsWithOneAndTheSettingsAsTheyWere)
     program.setStandardErrorFile(terminal.name());
     program.start(QStringLiteral(COLORCALIBRATE_PROGRAM),
                   {QStringLiteral("calibrate"), QStringLiteral("--camera"),
-                   QStringLiteral("emA1920-60ucEMU"), QStringLiteral("--json")});
+                   QStringLiteral("emA1920-60ucEMU"), QStringLiteral("--json"),
+                   QStringLiteral("--save-summary"), path(QStringLiteral("summary")),
+                   QStringLiteral("--user-set"), QStringLiteral("UserSet1"),
+                   QStringLiteral("--default")});
     ASSERT_TRUE(program.waitForStarted());
     const QByteArray step = QByteArray(GetParam()) + '\n';
     QElapsedTimer clock;
@@ -92,7 +96,12 @@ TEST_P(InterruptedProgram, EndsWithOneAndTheSettingsAsTheyWere)
     EXPECT_EQ(program.readAllStandardOutput().toStdString(), "") << "no results";
     EXPECT_EQ(terminal.text().split('\n').value(terminal.text().count('\n') - 1).toStdString(),
               "colorcalibrate: cancelled; the camera's settings are as they were");
+    // An emulated camera keeps its user sets in a file from the first that is stored.
+    EXPECT_FALSE(QDirIterator(path(QStringLiteral("XDG_DATA_HOME")), {QStringLiteral("*.json")},
+                              QDir::Files, QDirIterator::Subdirectories)
+                     .hasNext());
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, InterruptedProgram,
-                         testing::Values("Finding the chart", "Adjusting brightness"));
+                         testing::Values("Finding the chart", "Adjusting brightness",
+                                         "Saving the summary"));

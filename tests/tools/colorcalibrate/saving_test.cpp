@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // What "calibrate" saves, and what it says of what it cannot save.
+#include "saving.h"
+
+#include "calibrationsequence.h"
 #include "cameras.h"
 #include "command.h"
 #include "commandtest.h"
+#include "emulatedhost.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -199,4 +203,54 @@ TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
     EXPECT_THAT(outcome.err, HasSubstr("the camera is calibrated and stays so"));
     EXPECT_THAT(outcome.err, HasSubstr("xxx (Cannot write the file"));
     EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
+}
+
+TEST_F(Saving, EndsBeforeItsNextStepWhenItIsCancelled)
+{
+    EmulatedHost host(reduced(supportedModels().at(1)));
+    ASSERT_TRUE(host.camera().open());
+    host.setExposure(20000.0);
+    const QString before = host.settings();
+    CalibrationSequence sequence(
+        host.model(), [](const QString&) {}, [] { return false; });
+    SequenceOptions sequenceOptions;
+    sequenceOptions.grid = host.chartGrid();
+    sequenceOptions.adjustExposure = false;
+    sequence.run(host.pointer(), sequenceOptions);
+    ASSERT_NE(host.settings().toStdString(), before.toStdString());
+
+    SavingOptions options;
+    options.settingsFolder = path(QStringLiteral("settings"));
+    options.summaryFolder = path(QStringLiteral("summary"));
+    options.userSet = QStringLiteral("UserSet1");
+    options.asDefault = true;
+    const QStringList all{QStringLiteral("Saving the settings"),
+                          QStringLiteral("Saving the summary"),
+                          QStringLiteral("Storing the user set")};
+    const auto startSet =
+        host.camera().parameterCollection()->enumerationParameter(QStringLiteral("UserSetDefault"));
+    for (int last = 0; last <= all.size(); ++last) {
+        QStringList steps;
+        const SavingOutcome outcome = saveOutcome(
+            host.model(), options, [&](const QString& step) { steps.append(step); },
+            [&] { return steps.size() >= last; });
+        EXPECT_EQ(steps, all.mid(0, last));
+        EXPECT_EQ(outcome.failures, QStringList());
+        // Nothing takes a stored user set back.
+        EXPECT_EQ(outcome.isCancelled, last < all.size()) << last;
+        EXPECT_EQ(startSet->value(),
+                  last < all.size() ? QStringLiteral("Default") : options.userSet);
+    }
+    // Without a user set the last file can be regretted.
+    options.userSet.clear();
+    int steps = 0;
+    EXPECT_TRUE(
+        saveOutcome(
+            host.model(), options, [&](const QString&) { ++steps; }, [&] { return steps == 2; })
+            .isCancelled);
+
+    startSet->setValue(QStringLiteral("Default"));
+    sequence.giveBack();
+    EXPECT_EQ(host.settings().toStdString(), before.toStdString());
+    EXPECT_FALSE(host.model().StopGrabbing()) << "the model has been closed";
 }
