@@ -217,16 +217,28 @@ void CalibrationSequence::makeNeutral(const SequenceOptions& options)
     balanceWhite(options.adjustExposure);
     m_model.ActivateMonoImage();
     m_model.DisableAutoFunctions();
+    readBrightness(options.adjustExposure);
+}
+
+// Writing back what was read shows whether it can be written at all.
+void CalibrationSequence::readBrightness(bool writesBack)
+{
     double lowest = 0.0;
     double value = 0.0;
     double highest = 0.0;
     step(
         "Reading exposure time and gain",
-        [&] { return m_model.GetExposureTimeRange(lowest, value, highest); },
+        [&] {
+            return m_model.GetExposureTimeRange(lowest, value, highest) &&
+                   (!writesBack || m_model.SetExposureTime(value));
+        },
         "no initial parameters (min, max, value) for exposure time available");
     step(
         "Reading exposure time and gain",
-        [&] { return m_model.GetGainRange(lowest, value, highest); },
+        [&] {
+            return m_model.GetGainRange(lowest, value, highest) &&
+                   (!writesBack || m_model.SetGain(value));
+        },
         "no initial parameters (min, max, value) for gain value available");
 }
 

@@ -35,7 +35,12 @@ struct SequenceResult
     QJsonObject results;           ///< as CalibrationResultsInterface has it
 };
 
-/// Calibrates one camera from opening to the measurement of the outcome.
+/// Calibrates one camera from opening to the measurement of the outcome, in the wizard's order.
+///
+/// One step differs. The wizard's sliders write exposure time and gain back where they begin; so
+/// does the sequence where it adjusts them. Where both are to be kept it does not: a camera whose
+/// exposure time is set from outside, as by a trigger's width, takes none, and a gain in raw steps
+/// would lose one more, as it is written from a hundredth of them.
 ///
 /// Whatever ends it early, the settings that the camera had after it was opened are written back
 /// and the camera is given back. Thread-bound: a thread with an event dispatcher.
@@ -65,6 +70,7 @@ private:
     void open(const Core::CameraPoolComponents::CameraPtr& camera);
     void placeGrid(const SequenceOptions& options);
     void makeNeutral(const SequenceOptions& options);
+    void readBrightness(bool writesBack);
     void balanceWhite(bool mayChangeExposure);
     void adjustBrightness(const SequenceOptions& options);
     void runBrightness(const SequenceOptions& options);

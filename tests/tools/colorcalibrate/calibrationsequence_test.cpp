@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <utility>
 
 using namespace ColorCalibrate;
 
@@ -58,6 +59,40 @@ TEST_F(CalibrationSequenceTest, AnImageThatFailsIsToldWithTheCamerasReason)
               "the camera delivered no image at the step \"Taking the first image\"; check its "
               "cable, trigger and exposure time, and try again (the trigger line is dead)");
     EXPECT_FALSE(m_camera->open);
+}
+
+TEST_F(CalibrationSequenceTest, ExposureTimeAndGainAreWrittenBackBeforeTheyAreAdjusted)
+{
+    run();
+    const QStringList writes = m_camera->features().writes();
+    const int automatic = writes.indexOf(QStringLiteral("GainAuto = Off"),
+                                         writes.indexOf(QStringLiteral("PixelFormat = Mono12")));
+    // Then the worker begins, at the lowest gain.
+    EXPECT_EQ(writes.mid(automatic + 1, 3),
+              QStringList({QStringLiteral("ExposureTime = 1000"), QStringLiteral("Gain = 3"),
+                           QStringLiteral("Gain = 0")}))
+        << writes.join(QLatin1String("; ")).toStdString();
+}
+
+TEST_F(CalibrationSequenceTest, WhatCannotBeWrittenBackEndsItWhereItIsToBeAdjusted)
+{
+    const std::pair<const char*, const char*> features[] = {
+        {"ExposureTime", "no initial parameters (min, max, value) for exposure time available"},
+        {"Gain", "no initial parameters (min, max, value) for gain value available"}};
+    for (const auto& [feature, words] : features) {
+        m_camera->features().change(QLatin1String(feature),
+                                    [](FakeFeature& one) { one.writable = false; });
+        m_options.adjustExposure = true;
+        EXPECT_EQ(run(), words);
+        m_options.adjustExposure = false;
+        m_steps.clear();
+        run();
+        EXPECT_TRUE(m_steps.contains(QStringLiteral("Calibrating")))
+            << feature << " is kept, so nobody needs to write it";
+        m_model.Close();
+        m_camera->features().change(QLatin1String(feature),
+                                    [](FakeFeature& one) { one.writable = true; });
+    }
 }
 
 TEST_F(CalibrationSequenceTest, BrightnessHasTwoMinutes)
