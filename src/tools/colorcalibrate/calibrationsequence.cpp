@@ -5,6 +5,7 @@
 #include "command.h"
 #include "exposuresearch.h"
 #include "grid.h"
+#include "icamerainfo.h"
 #include "patchcolorconversion.h"
 #include "patchcolors.h"
 #include "patchdeltas.h"
@@ -18,6 +19,7 @@
 
 using ColorCalibration::ColorCorrectionModel;
 using Core::CameraPoolComponents::CameraPtr;
+using Core::CameraPoolComponents::ICameraInfo;
 
 namespace ColorCalibrate {
 namespace {
@@ -151,9 +153,21 @@ void CalibrationSequence::stopIfCancelled() const
 
 void CalibrationSequence::open(const CameraPtr& camera)
 {
-    step(
-        "Opening the camera", [&] { return m_model.Open(camera); },
-        "the camera could not be opened with exclusive access; is another program using it?");
+    // One that was open before and has closed has been lost.
+    if (camera->isOpen())
+        m_camera = camera;
+    const auto info = camera.dynamicCast<ICameraInfo>();
+    if (info)
+        info->clearLastError();
+    stopIfCancelled();
+    m_progress(QStringLiteral("Opening the camera"));
+    if (!m_model.Open(camera)) {
+        stopIfCancelled();
+        // The camera speaks of the way to it, the model of what failed behind that.
+        const QString ownWords = info ? info->lastErrorText() : QString();
+        throw CommandError(QStringLiteral("the camera could not be opened for calibration: %1")
+                               .arg(ownWords.isEmpty() ? m_model.OpeningFailure() : ownWords));
+    }
     m_camera = camera;
     m_gridBefore = m_model.GetGridPosition();
     // Before anything is changed, the exposure time included.

@@ -374,7 +374,30 @@ TEST_F(FaultyCamera, IsRefusedWhileSomebodyElseHasIt)
 {
     const auto handle = m_camera->takeExclusiveAccess();
     ASSERT_TRUE(handle);
-    EXPECT_TRUE(runAndFail().contains(QLatin1String("another program")));
+    EXPECT_EQ(runAndFail().toStdString(),
+              "the camera could not be opened for calibration: The camera is being used by another "
+              "part of the program.");
+}
+
+TEST_F(FaultyCamera, IsOpenedByTheSequenceOrSaysWhyNot)
+{
+    m_camera->close();
+    m_camera->faults().setTakenByAnother(true);
+    EXPECT_EQ(runAndFail().toStdString(),
+              "the camera could not be opened for calibration: The camera is being used by another "
+              "application.");
+    m_camera->faults().setTakenByAnother(false);
+    m_camera->loseConnection();
+    EXPECT_EQ(runAndFail().toStdString(),
+              "the camera could not be opened for calibration: The camera does not answer.");
+    m_camera->reconnect();
+    // An error of before is not taken for that of now.
+    m_camera->setLastError(QStringLiteral("something else"));
+    m_camera->refuseWrites(QStringLiteral("TestPattern"));
+    EXPECT_EQ(runAndFail().toStdString(),
+              "the camera could not be opened for calibration: TestPattern: The camera refuses the "
+              "value.");
+    EXPECT_FALSE(m_camera->isOpen());
 }
 
 TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)

@@ -134,12 +134,7 @@ TEST_P(CalibrationFaults, ALostConnectionIsToldAtEveryStep)
 {
     for (const QString& step : allSteps()) {
         const QString message = run(step, [&] { m_host.camera().loseConnection(); });
-        if (step == QLatin1String("Opening the camera")) {
-            EXPECT_FALSE(message.isEmpty());
-        } else {
-            EXPECT_EQ(message.toStdString(), "the camera has been disconnected")
-                << step.toStdString();
-        }
+        EXPECT_EQ(message.toStdString(), "the camera has been disconnected") << step.toStdString();
         EXPECT_FALSE(m_host.camera().isOpen()) << step.toStdString();
         m_host.camera().reconnect();
         reopen();
@@ -181,6 +176,24 @@ TEST_P(CalibrationFaults, AConnectionLostInAnyPassOfTheBrightnessWorkerIsTold)
         m_host.camera().reconnect();
         reopen();
     }
+}
+
+TEST_P(CalibrationFaults, ATestImageThatStaysOnIsNamedAndTheCameraGivenBack)
+{
+    const QString feature = m_host.isOldGeneration() ? QStringLiteral("TestImageSelector")
+                                                     : QStringLiteral("TestPattern");
+    const auto image = m_host.camera().parameterCollection()->enumerationParameter(feature);
+    image->setValue(image->entries().last().name);
+    const QString before = m_host.settings();
+    m_host.camera().refuseWrites(feature);
+    const QString message = run({}, [] {});
+    EXPECT_TRUE(message.startsWith(
+        QLatin1String("the camera could not be opened for calibration: ") + feature))
+        << message.toStdString();
+    EXPECT_EQ(m_steps.last().toStdString(), "Opening the camera");
+    m_host.camera().refuseWrites(feature, -1);
+    EXPECT_EQ(m_host.settings().toStdString(), before.toStdString());
+    EXPECT_TRUE(m_host.camera().takeExclusiveAccess());
 }
 
 TEST_P(CalibrationFaults, ARefusedWriteLeavesTheSettingsOrSaysThatTheyAreNot)

@@ -120,6 +120,9 @@ TEST_F(ModelTest, ARefusedOpeningFailsQuietly)
     for (const bool hostHasIt : {false, true}) {
         m_status.cameraIsOpen = hostHasIt;
         EXPECT_FALSE(open());
+        EXPECT_EQ(m_model.OpeningFailure(),
+                  hostHasIt ? QStringLiteral("Get exclusive camera access failed")
+                            : QStringLiteral("Camera open with exclusive access failed"));
     }
     m_model.SetCameraControlService(nullptr);
     EXPECT_FALSE(open());
@@ -135,6 +138,8 @@ TEST_F(ModelTest, AnOpeningThatBreaksOffGivesTheCameraBack)
         EXPECT_FALSE(open());
         EXPECT_EQ(m_control.handles, 0);
         EXPECT_FALSE(m_camera->open) << "it was closed before";
+        EXPECT_EQ(m_model.OpeningFailure(),
+                  QLatin1String(feature) + QLatin1String(" refuses to be written"));
         m_camera->features().change(feature, [](FakeFeature& one) { one.refuses = false; });
     }
     m_camera->withParameters = false;
@@ -143,6 +148,7 @@ TEST_F(ModelTest, AnOpeningThatBreaksOffGivesTheCameraBack)
     EXPECT_TRUE(logTexts().isEmpty());
     m_camera->withParameters = true;
     EXPECT_TRUE(open()) << "a failure leaves nothing in the way";
+    EXPECT_EQ(m_model.OpeningFailure(), QString());
 }
 
 TEST_F(ModelTest, AnOpeningOfAnOpenCameraThatBreaksOffLeavesItOpen)

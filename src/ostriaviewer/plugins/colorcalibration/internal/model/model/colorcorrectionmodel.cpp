@@ -65,6 +65,11 @@ quint64 ColorCorrectionModel::TakenImages() const
     return m_impl->TakenImages();
 }
 
+QString ColorCorrectionModel::OpeningFailure() const
+{
+    return m_impl->OpeningFailure();
+}
+
 bool ColorCorrectionModel::Open(const Core::CameraPoolComponents::CameraPtr& camera)
 {
     return m_impl->Open(camera);

@@ -42,6 +42,10 @@ public:
     /// number stays; of a camera that is grabbing continuously the newest image counts each time.
     quint64 TakenImages() const;
 
+    /// Why the last Open failed, where the camera's own error text does not know it; empty if it
+    /// did not fail.
+    QString OpeningFailure() const;
+
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;
     bool GrabImage(QImage& image, bool triggered) override;

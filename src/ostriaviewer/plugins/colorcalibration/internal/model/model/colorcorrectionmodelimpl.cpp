@@ -7,6 +7,7 @@
 #include "camerajustify.h"
 #include "chartdiscriminator.h"
 #include "guarded.h"
+#include "reportfailure.h"
 #include "sfncgeneration.h"
 
 #include <QMutexLocker>
@@ -93,16 +94,24 @@ bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
     if (m_imageCamera || !camera)
         return false;
     bool wasGrabbing = false;
+    m_openingFailure.clear();
     try {
         wasGrabbing = camera->isGrabbing();
         openHandle(camera);
         return true;
     } catch (...) {
+        m_openingFailure = currentExceptionText();
         abandonOpening();
         if (wasGrabbing)
             resumeDelivery(*camera);
         return false;
     }
+}
+
+QString ColorCorrectionModelImpl::OpeningFailure() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_openingFailure;
 }
 
 void ColorCorrectionModelImpl::openHandle(const CameraPtr& camera)

@@ -57,6 +57,10 @@ public:
     /// number stays; of a camera that is grabbing continuously the newest image counts each time.
     quint64 TakenImages() const;
 
+    /// Why the last Open failed, where the camera's own error text does not know it; empty if it
+    /// did not fail.
+    QString OpeningFailure() const;
+
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;
     bool GrabImage(QImage& image, bool triggered) override;
@@ -154,6 +158,7 @@ private:
     bool m_connectionLost = false;
     /// Nothing has been restored since the last calibration.
     bool m_isCalibrationKept = false;
+    QString m_openingFailure;
     std::atomic_uint m_openings{0};
     std::shared_ptr<CameraJustify> m_justify;
     /// Guards the pointer m_justify alone, for those who must not wait for a grab.

@@ -33,6 +33,19 @@ void reportFailure(const QString& message, const QString& function, const QStrin
     Core::Logging::createLogEntry(Core::Logging::Warning, id, describeCurrentException(function));
 }
 
+QString currentExceptionText()
+{
+    try {
+        throw;
+    } catch (const Core::Exception::BaseException& exception) {
+        return exception.getMessage();
+    } catch (const std::exception& exception) {
+        return QString::fromUtf8(exception.what());
+    } catch (...) {
+        return QStringLiteral("Unspecified exception occurred.");
+    }
+}
+
 QString modelLogCategory()
 {
     return QStringLiteral("ostria.viewer.plugins.colorCalibration.colorCorrectionModel");

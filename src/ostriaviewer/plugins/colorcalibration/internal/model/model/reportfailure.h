@@ -13,6 +13,10 @@ namespace ColorCalibration {
 /// \param category  name of the log category
 void reportFailure(const QString& message, const QString& function, const QString& category);
 
+/// What the exception that is being handled says. To be called inside of a catch block.
+/// Thread-safe.
+QString currentExceptionText();
+
 /// The category of the model.
 QString modelLogCategory();
 
