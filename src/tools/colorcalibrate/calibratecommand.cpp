@@ -23,6 +23,7 @@
 
 #include <exception>
 #include <functional>
+#include <new>
 #include <ostream>
 
 using namespace ColorCalibration;
@@ -116,6 +117,8 @@ void giveBackOnFailure(SettingsGuard& guard, const std::function<void()>& work)
         work();
     } catch (const CommandError& error) {
         throw CommandError(QString::fromUtf8(error.what()) + guard.restore(), error.code());
+    } catch (const std::bad_alloc&) {
+        throw CommandError(QStringLiteral("there is not enough memory") + guard.restore());
     } catch (const std::exception& error) {
         throw CommandError(QString::fromUtf8(error.what()) + guard.restore());
     }
