@@ -91,11 +91,28 @@ SequenceOptions readOptions(const CommandLine& line)
     return options;
 }
 
+/// An address is enough: there is one camera then.
+QString cameraName(const CommandLine& line)
+{
+    const QString address = line.value(QStringLiteral("address"));
+    if (address.isEmpty())
+        return line.requiredValue(QStringLiteral("camera"));
+    if (line.isSet(QStringLiteral("camera")))
+        throw CommandError(
+            QStringLiteral("--address and --camera name a camera each; one of them is wanted"),
+            WrongUsage);
+    return address;
+}
+
 ToolCameras makeCameras(const CommandLine& line)
 {
     const CameraSelection selection = readCameraOptions(line);
     if (!line.isSet(QStringLiteral("scene")))
         return ToolCameras({}, selection);
+    if (!selection.hasEmulated)
+        throw CommandError(QStringLiteral("--scene is what emulated cameras see; this one has its "
+                                          "own before it"),
+                           WrongUsage);
     return ToolCameras(readScene(line.value(QStringLiteral("scene"))), selection);
 }
 
@@ -224,10 +241,7 @@ void calibrateCommand(const QStringList& arguments, const Streams& streams)
     addOptions(line);
     if (!line.parse(arguments, 0, streams.out))
         return;
-    // An address is enough: there is one camera then.
-    const QString name = line.isSet(QStringLiteral("address"))
-                             ? line.value(QStringLiteral("address"))
-                             : line.requiredValue(QStringLiteral("camera"));
+    const QString name = cameraName(line);
     const SequenceOptions options = readOptions(line);
     const SavingOptions saving = readSavingOptions(line);
     const ToolCameras cameras = makeCameras(line);

@@ -185,6 +185,18 @@ TEST_F(CalibrateCommand, RefusesCamerasItCannotCalibrateOrFind)
     expectFailure(calibrate(QStringLiteral("x"), {QStringLiteral("--grid"), QStringLiteral("1,2")}),
                   2, {QStringLiteral("four are expected")});
     expectFailure(calibrate(namesOf(true).first(),
+                            {QStringLiteral("--address"), QStringLiteral("127.0.0.1")}),
+                  2, {QStringLiteral("--address"), QStringLiteral("--camera")});
+    const QStringList scene{QStringLiteral("--scene"), QStringLiteral("/no/such/image.png")};
+    expectFailure(runTool(QStringList{QStringLiteral("calibrate"), QStringLiteral("--address"),
+                                      QStringLiteral("127.0.0.1")} +
+                          scene),
+                  2, {QStringLiteral("--scene"), QStringLiteral("emulated")});
+    expectFailure(
+        calibrate(QStringLiteral("x"),
+                  QStringList{QStringLiteral("--backend"), QStringLiteral("genicam")} + scene),
+        2, {QStringLiteral("--scene"), QStringLiteral("emulated")});
+    expectFailure(calibrate(namesOf(true).first(),
                             {QStringLiteral("--settings"), QStringLiteral("/no/such/file.cst")}),
                   1, {QStringLiteral("/no/such/file.cst")});
 }
