@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cmath>
 #include <iomanip>
 #include <iostream>
 
@@ -43,16 +42,9 @@ private:
     Core::Logging::LogSink m_previous;
 };
 
-struct Start
-{
-    double exposure; ///< microseconds
-    int runs;        ///< until the goal is reached
-};
-
-/// A first run from above 149 ms stops at the limit of automatic exposure, which its damping leaves
-/// it above; the next one starts from there.
-const Start starts[] = {{20.0, 1},    {200.0, 1},    {2000.0, 1},   {10000.0, 1},  {40000.0, 1},
-                        {80000.0, 1}, {140000.0, 1}, {400000.0, 2}, {1000000.0, 2}};
+/// Microseconds; from far too dark to far too bright.
+constexpr double starts[] = {20.0,    200.0,    2000.0,   10000.0,  40000.0,
+                             80000.0, 140000.0, 400000.0, 1000000.0};
 
 /// More images than any run takes that comes to an end.
 constexpr int endless = 60;
@@ -113,24 +105,18 @@ TEST_P(AutomaticBrightness, EndsAtItsGoalFromEveryStartExposure)
 {
     ASSERT_TRUE(m_host.model().SetNeutralSettings());
     std::cout << m_host.camera().modelName().toStdString() << "\n"
-              << "| start | passes | runs | end | level |\n|---|---|---|---|---|\n";
-    for (const Start& start : starts) {
-        m_host.setExposure(start.exposure);
+              << "| start | passes | end | level |\n|---|---|---|---|\n";
+    for (const double start : starts) {
+        m_host.setExposure(start);
         PassCounter passes;
-        int runs = 0;
-        double reached = 0.0;
-        do {
-            run();
-            reached = level();
-            ++runs;
-        } while (runs < start.runs && std::abs(reached / 150.0 - 1.0) > 0.11);
-        std::cout << "| " << start.exposure / 1000.0 << " ms | " << passes.count() << " | " << runs
-                  << " | " << std::setprecision(4) << m_host.model().GetExposureTime() / 1000.0
-                  << " ms | " << reached << " |\n";
+        run();
+        const double reached = level();
+        std::cout << "| " << start / 1000.0 << " ms | " << passes.count() << " | "
+                  << std::setprecision(4) << m_host.model().GetExposureTime() / 1000.0 << " ms | "
+                  << reached << " |\n";
         // The error of a pass, 10 percent of the level: 150 / 1.1 to 150 / 0.9.
-        EXPECT_GE(reached, 136.0) << start.exposure;
-        EXPECT_LE(reached, 167.0) << start.exposure;
-        EXPECT_EQ(runs, start.runs) << start.exposure;
+        EXPECT_GE(reached, 136.0) << start;
+        EXPECT_LE(reached, 167.0) << start;
     }
 }
 

@@ -49,7 +49,7 @@ void addExposure(FeatureTable& table, bool first)
         .inUnit(QStringLiteral("us"));
     addAutoLimits(
         table, first ? QStringLiteral("AutoExposureTimeAbs") : QStringLiteral("AutoExposureTime"),
-        false, {shortestExposure}, 100.0, {longestExposure}, 100000.0);
+        false, {shortestExposure}, 100.0, {longestExposure}, longestExposure);
 }
 
 void addGain(FeatureTable& table, bool first)
