@@ -13,21 +13,33 @@ using Cameras::Emulation::SceneSettings;
 
 namespace {
 
-/// One run of the sequence on the second camera, which has this exposure time before.
+/// A fifth of the usual light is enough for the gray patch's goal then.
+constexpr double shortenedLimit = 100000.0;
+
+/// One run of the sequence on a camera that has this exposure time before.
 class LitCamera
 {
 public:
-    LitCamera(double exposure, const SceneSettings& scene)
-        : m_host(supportedModels().at(1), optionsOf(scene))
+    LitCamera(int camera, double exposure, const SceneSettings& scene = SceneSettings())
+        : m_host(supportedModels().at(camera), optionsOf(scene))
     {
         EXPECT_TRUE(m_host.camera().open());
         m_host.setExposure(exposure);
-        m_before = m_host.settings();
+    }
+
+    void limitAutomaticExposure()
+    {
+        m_host.camera()
+            .parameterCollection()
+            ->floatParameter(
+                QStringLiteral("AutoExposureTimeAbsUpperLimit|AutoExposureTimeUpperLimit"))
+            ->setValue(shortenedLimit);
     }
 
     /// \return  the message of the error, empty if there was none
     std::string run(bool adjustExposure)
     {
+        const QString before = m_host.settings();
         CalibrationSequence sequence(
             m_host.model(), [](const QString&) {}, [] { return false; });
         SequenceOptions options;
@@ -35,7 +47,7 @@ public:
         try {
             sequence.run(m_host.pointer(), options);
         } catch (const CommandError& error) {
-            EXPECT_EQ(m_host.settings().toStdString(), m_before.toStdString());
+            EXPECT_EQ(m_host.settings().toStdString(), before.toStdString());
             return error.what();
         }
         return {};
@@ -43,6 +55,7 @@ public:
 
     double exposure() { return m_host.model().GetExposureTime(); }
     double gain() { return m_host.model().GetGain(); }
+    bool hasRawGain() const { return m_host.isOldGeneration(); }
 
 private:
     static Cameras::Emulation::EmulationOptions optionsOf(const SceneSettings& scene)
@@ -53,7 +66,6 @@ private:
     }
 
     EmulatedHost m_host;
-    QString m_before;
 };
 
 bool contains(const std::string& message, const char* words)
@@ -61,54 +73,107 @@ bool contains(const std::string& message, const char* words)
     return message.find(words) != std::string::npos;
 }
 
-TEST(CalibrationLight, AnyStartExposureComesToTheSameEnd)
+SceneSettings inLight(double level)
 {
-    for (const double start : {100.0, 60000.0, 160000.0, 250000.0, 600000.0}) {
-        LitCamera camera(start, SceneSettings());
+    SceneSettings scene;
+    scene.lightLevel = level;
+    return scene;
+}
+
+class CalibrationLight : public testing::TestWithParam<int>
+{};
+
+TEST_P(CalibrationLight, AnyStartExposureComesToTheSameEnd)
+{
+    for (const double start : {100.0, 160000.0, 600000.0}) {
+        LitCamera camera(GetParam(), start);
         EXPECT_EQ(camera.run(true), "") << start;
         // The gray patch stands at its goal at some 20 ms; automatic brightness stops 10 percent
         // beside it.
         EXPECT_NEAR(camera.exposure(), 20000.0, 3000.0) << start;
+        EXPECT_EQ(camera.gain(), 0.0) << start;
     }
 }
 
-TEST(CalibrationLight, KeptExposureAndGainStay)
+TEST_P(CalibrationLight, KeptExposureAndGainStay)
 {
-    LitCamera camera(17321.0, SceneSettings());
+    LitCamera camera(GetParam(), 17321.0);
     EXPECT_EQ(camera.run(false), "");
     EXPECT_EQ(camera.exposure(), 17321.0);
     EXPECT_EQ(camera.gain(), 0.0);
 }
 
-TEST(CalibrationLight, OverExposureIsCalledSo)
+TEST_P(CalibrationLight, OverExposureIsCalledSo)
 {
-    const std::string message = LitCamera(300000.0, SceneSettings()).run(false);
+    const std::string message = LitCamera(GetParam(), 300000.0).run(false);
     EXPECT_TRUE(contains(message, "over-exposed")) << message;
     EXPECT_TRUE(contains(message, "shorten the exposure time")) << message;
 }
 
-TEST(CalibrationLight, DarknessIsCalledSo)
+TEST_P(CalibrationLight, MoreLightThanTheShortestExposureTakesIsCalledSo)
 {
-    SceneSettings dark;
-    dark.lightLevel = 0.0;
+    // 20 us would do; automatic exposure begins at 100 us.
+    const std::string message = LitCamera(GetParam(), 20000.0, inLight(1000.0)).run(true);
+    EXPECT_TRUE(contains(message, "the gray patch stands at 170 percent of its target brightness"))
+        << message;
+    EXPECT_TRUE(contains(message, "the light neither too weak nor too strong")) << message;
+}
+
+TEST_P(CalibrationLight, DarknessIsCalledSo)
+{
     for (const bool adjustExposure : {false, true}) {
-        const std::string message = LitCamera(20000.0, dark).run(adjustExposure);
+        const std::string message =
+            LitCamera(GetParam(), 20000.0, inLight(0.0)).run(adjustExposure);
         EXPECT_TRUE(contains(message, "too dark")) << message;
         EXPECT_TRUE(contains(message, "give more light")) << message;
     }
 }
 
-TEST(CalibrationLight, AChartThatIsHalfInThePictureIsNotCalibratedOn)
+TEST_P(CalibrationLight, DimLightIsMadeUpForByExposureTime)
+{
+    LitCamera camera(GetParam(), 20000.0, inLight(0.15));
+    EXPECT_EQ(camera.run(true), "");
+    EXPECT_NEAR(camera.exposure(), 20000.0 / 0.15, 20000.0);
+    EXPECT_EQ(camera.gain(), 0.0);
+    LitCamera kept(GetParam(), 130000.0, inLight(0.15));
+    EXPECT_EQ(kept.run(false), "");
+    EXPECT_EQ(kept.exposure(), 130000.0);
+}
+
+TEST_P(CalibrationLight, BehindTheLimitOfExposureDimLightIsMadeUpForByGainOrTheGainIsBlamed)
+{
+    LitCamera camera(GetParam(), 20000.0, inLight(0.1));
+    camera.limitAutomaticExposure();
+    const std::string message = camera.run(true);
+    if (camera.hasRawGain()) {
+        EXPECT_TRUE(contains(message, "percent of its target brightness")) << message;
+        EXPECT_TRUE(contains(message, "(GainRaw: ")) << message;
+        EXPECT_TRUE(contains(message, " is above the maximum 240. The camera does not take the "
+                                      "gain "))
+            << message;
+        return;
+    }
+    EXPECT_EQ(message, "");
+    EXPECT_EQ(camera.exposure(), shortenedLimit);
+    // Half of the light that the goal needs is 6 dB; 10 percent beside it are 1 dB.
+    EXPECT_NEAR(camera.gain(), 6.0, 1.0);
+}
+
+TEST_P(CalibrationLight, AChartThatIsHalfInThePictureIsNotCalibratedOn)
 {
     SceneSettings half;
     half.chartCenterX = 0.98;
-    const std::string message = LitCamera(20000.0, half).run(false);
-    EXPECT_TRUE(contains(message, "the whole of it must be in the image") ||
-                contains(message, "is the grid on the chart"))
-        << message;
+    for (const bool adjustExposure : {false, true}) {
+        const std::string message = LitCamera(GetParam(), 20000.0, half).run(adjustExposure);
+        EXPECT_TRUE(contains(message, "the whole of it must be in the image") ||
+                    contains(message, "is the grid on the chart"))
+            << message;
+    }
 }
 
-TEST(CalibrationLight, IsJudgedByTheBrightestParts)
+INSTANTIATE_TEST_SUITE_P(Cameras, CalibrationLight, testing::Values(0, 1, 2));
+
+TEST(Light, IsJudgedByTheBrightestParts)
 {
     QImage image(10, 10, QImage::Format_RGB32);
     image.fill(qRgb(30, 40, 20));
