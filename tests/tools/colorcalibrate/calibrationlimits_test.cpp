@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What limits a calibration: noise, rounding, non-linearity, the lens, each switched off by itself.
+// What limits a calibration: noise, rounding, non-linearity, lens and light, each switched off by
+// itself.
 #include "computation.h"
 #include "emulatedhost.h"
 #include "patchcolorconversion.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <iomanip>
 #include <iostream>
 #include <utility>
@@ -24,9 +24,26 @@ namespace {
 /// What the camera shows afterwards, and what the engine has foretold for what it measured.
 struct Outcome
 {
+    Deltas before;
     Deltas shown;
     Deltas foretold;
 };
+
+/// A camera and what stands before it.
+struct Setup
+{
+    Cameras::Emulation::CameraModel model;
+    Cameras::Emulation::SceneSettings scene;
+};
+
+/// Mean Delta C of the neutral row.
+double grayDeltaC(const Deltas& deltas)
+{
+    double sum = 0.0;
+    for (std::size_t i = 18; i < PatchCount; ++i)
+        sum += deltas.deltaC[i];
+    return sum / 6.0;
+}
 
 /// The white patch far below saturation, the gray one near its goal.
 constexpr double exposure = 20000.0;
@@ -54,45 +71,77 @@ PatchColors asShown(PatchColors linear, bool isOldGeneration)
     return ColorCalibration::toPatchColors(shown, true);
 }
 
-Outcome calibrate(const Cameras::Emulation::CameraModel& cameraModel)
+Outcome calibrate(const Setup& setup)
 {
-    EmulatedHost host(cameraModel);
+    Cameras::Emulation::EmulationOptions options;
+    options.scene = Cameras::Emulation::Scene(setup.scene);
+    EmulatedHost host(setup.model, options);
     auto& model = host.model();
     EXPECT_TRUE(model.Open(host.pointer()));
     host.setExposure(exposure);
     model.SetGridPosition(host.chartGrid());
     QImage first;
     model.GrabImage(first, false);
+    EXPECT_TRUE(model.ApplyInitialCameraImageAndPatchValues());
+    QVector<QColor> initial;
+    model.GetInitialColorPatchValues(initial);
     EXPECT_TRUE(model.SetNeutralSettings());
     EXPECT_TRUE(model.ApplyInitialColorPatchValues());
     QVector<QColor> neutral;
     model.GetCurrentColorPatchValues(neutral);
     EXPECT_TRUE(model.ExecuteCalibrationAndApply());
     const Computation computation = compute(ColorCalibration::toPatchColors(neutral, false));
-    return {deltasToTargets(measure(model, true)),
+    return {deltasToTargets(ColorCalibration::toPatchColors(initial, true)),
+            deltasToTargets(measure(model, true)),
             deltasToTargets(asShown(computation.steps.back().colors, host.isOldGeneration()))};
 }
 
-/// Without anything that a linear mixing of channels does not explain.
-Cameras::Emulation::CameraModel ideal(Cameras::Emulation::CameraModel model)
+void switchOffNoise(Setup& setup)
 {
-    model.sensor.noiseEnabled = false;
-    model.sensor.roundingEnabled = false;
-    model.sensor.nonLinearityEnabled = false;
-    model.sensor.vignettingEnabled = false;
-    model.roundingEnabled = false;
-    return model;
+    setup.model.sensor.noiseEnabled = false;
+}
+
+void switchOffRounding(Setup& setup)
+{
+    setup.model.sensor.roundingEnabled = false;
+    setup.model.roundingEnabled = false;
+}
+
+void switchOffNonLinearity(Setup& setup)
+{
+    setup.model.sensor.nonLinearityEnabled = false;
+}
+
+void switchOffVignetting(Setup& setup)
+{
+    setup.model.sensor.vignettingEnabled = false;
+}
+
+void switchOffGradient(Setup& setup)
+{
+    setup.scene.lightGradient = 0.0;
+}
+
+/// Without anything that a linear mixing of channels does not explain.
+void switchOffAll(Setup& setup)
+{
+    switchOffNoise(setup);
+    switchOffRounding(setup);
+    switchOffNonLinearity(setup);
+    switchOffVignetting(setup);
+    switchOffGradient(setup);
 }
 
 class CalibrationLimits : public testing::TestWithParam<int>
 {
 protected:
-    Cameras::Emulation::CameraModel m_model = supportedModels().at(GetParam());
+    Setup m_setup{supportedModels().at(GetParam()), {}};
 };
 
 TEST_P(CalibrationLimits, AnIdealCameraShowsWhatTheEngineForetells)
 {
-    const Outcome outcome = calibrate(ideal(m_model));
+    switchOffAll(m_setup);
+    const Outcome outcome = calibrate(m_setup);
     EXPECT_NEAR(outcome.shown.meanDeltaE(), outcome.foretold.meanDeltaE(), 0.02);
     EXPECT_NEAR(outcome.shown.meanDeltaC(), outcome.foretold.meanDeltaC(), 0.02);
     for (std::size_t i = 0; i < PatchCount; ++i)
@@ -101,42 +150,31 @@ TEST_P(CalibrationLimits, AnIdealCameraShowsWhatTheEngineForetells)
 
 TEST_P(CalibrationLimits, ShowHowMuchEachOfThemCosts)
 {
-    using Cameras::Emulation::CameraModel;
-    const std::pair<const char*, std::function<void(CameraModel&)>> cases[] = {
+    const std::pair<const char*, void (*)(Setup&)> cases[] = {
         {"as it is",
-         [](CameraModel&) {
+         [](Setup&) {
          }},
-        {"without noise",
-         [](CameraModel& model) {
-             model.sensor.noiseEnabled = false;
-         }},
-        {"without rounding",
-         [](CameraModel& model) {
-             model.sensor.roundingEnabled = false;
-             model.roundingEnabled = false;
-         }},
-        {"without non-linearity",
-         [](CameraModel& model) {
-             model.sensor.nonLinearityEnabled = false;
-         }},
-        {"without vignetting",
-         [](CameraModel& model) {
-             model.sensor.vignettingEnabled = false;
-         }},
-        {"without any of them",
-         [](CameraModel& model) {
-             model = ideal(model);
-         }},
+        {"without noise", switchOffNoise},
+        {"without rounding", switchOffRounding},
+        {"without non-linearity", switchOffNonLinearity},
+        {"without vignetting", switchOffVignetting},
+        {"without the light's gradient", switchOffGradient},
+        {"without any of them", switchOffAll},
     };
-    std::cout << m_model.name.toStdString() << "\n| camera | Delta E | Delta C | foretold |\n"
-              << "|---|---|---|---|\n";
+    std::cout
+        << m_setup.model.name.toStdString()
+        << "\n| camera | before: Delta E | after: Delta E | Delta C | of the grays | foretold "
+           "Delta E |\n|---|---|---|---|---|---|\n";
     for (const auto& [name, change] : cases) {
-        CameraModel model = m_model;
-        change(model);
-        const Outcome outcome = calibrate(model);
+        Setup setup = m_setup;
+        change(setup);
+        const Outcome outcome = calibrate(setup);
         std::cout << "| " << name << " | " << std::fixed << std::setprecision(2)
-                  << outcome.shown.meanDeltaE() << " | " << outcome.shown.meanDeltaC() << " | "
+                  << outcome.before.meanDeltaE() << " | " << outcome.shown.meanDeltaE() << " | "
+                  << outcome.shown.meanDeltaC() << " | " << grayDeltaC(outcome.shown) << " | "
                   << outcome.foretold.meanDeltaE() << " |\n";
+        EXPECT_LE(grayDeltaC(outcome.shown), 1.5) << name;
+        EXPECT_GE(outcome.before.meanDeltaE(), 3.0 * outcome.shown.meanDeltaE()) << name;
         EXPECT_LE(outcome.shown.meanDeltaE(), 3.0) << name;
         // Each is a small disturbance of what the mixing of channels leaves.
         EXPECT_NEAR(outcome.shown.meanDeltaE(), outcome.foretold.meanDeltaE(), 0.5) << name;
