@@ -123,21 +123,28 @@ void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
         throw CommandError(
             QStringLiteral(
                 "the camera \"%1\" cannot be calibrated: its model has no color pipeline "
-                "of the kind that is needed")
+                "of the kind that is needed (DeviceColorPipelineVersion 1)")
                 .arg(camera->displayName()));
 }
 
 /// Whatever ends the work, the camera's settings are compared, and written back where they differ.
-void giveBackOnFailure(SettingsGuard& guard, const std::function<void()>& work)
+/// What the camera failed at is told with its name.
+void giveBackOnFailure(SettingsGuard& guard, const QString& cameraName,
+                       const std::function<void()>& work)
 {
+    const auto named = [&cameraName](const char* failure) {
+        return QStringLiteral("%1: %2").arg(cameraName, QString::fromUtf8(failure));
+    };
     try {
         work();
+    } catch (const Cancelled& error) {
+        throw CommandError(QString::fromUtf8(error.what()) + guard.restore());
     } catch (const CommandError& error) {
-        throw CommandError(QString::fromUtf8(error.what()) + guard.restore(), error.code());
+        throw CommandError(named(error.what()) + guard.restore(), error.code());
     } catch (const std::bad_alloc&) {
         throw CommandError(QStringLiteral("there is not enough memory") + guard.restore());
     } catch (const std::exception& error) {
-        throw CommandError(QString::fromUtf8(error.what()) + guard.restore());
+        throw CommandError(named(error.what()) + guard.restore());
     }
 }
 
@@ -171,7 +178,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     };
     CalibrationSequence sequence(model, progress, isCancelled, warn);
     SavingOutcome saved;
-    giveBackOnFailure(guard, [&] {
+    giveBackOnFailure(guard, report.camera, [&] {
         report.result = sequence.run(camera, options);
         report.settings = model.LastCalibration();
         report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
@@ -179,7 +186,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
         saved = saveOutcome(model, saving, progress, isCancelled);
         if (saved.isCancelled) {
             sequence.giveBack();
-            throw CommandError(QStringLiteral("cancelled"));
+            throw Cancelled();
         }
     });
     if (!saved.failures.isEmpty())

@@ -2,7 +2,6 @@
 // The wizard's order of calls, made without a window.
 #include "calibrationsequence.h"
 
-#include "command.h"
 #include "exposuresearch.h"
 #include "grid.h"
 #include "icamerainfo.h"
@@ -145,7 +144,7 @@ void CalibrationSequence::imageStep(const char* name, const std::function<bool()
 void CalibrationSequence::stopIfCancelled() const
 {
     if (m_isCancelled())
-        throw CommandError(QStringLiteral("cancelled"));
+        throw Cancelled();
     // The word of the loss may still be on its way.
     if (m_isLost || (m_camera && !m_camera->isOpen()))
         throw CommandError(QStringLiteral("the camera has been disconnected"));
@@ -178,6 +177,23 @@ void CalibrationSequence::open(const CameraPtr& camera)
             return m_model.CreateSettingsBackup(false);
         },
         "the camera's settings could not be read");
+    requireBrightness();
+}
+
+// Whoever has neither would be told of a bad image.
+void CalibrationSequence::requireBrightness()
+{
+    double lowest = 0.0;
+    double value = 0.0;
+    double highest = 0.0;
+    const char* const name = "Looking for exposure time and gain";
+    step(
+        name, [&] { return m_model.GetExposureTimeRange(lowest, value, highest); },
+        "it has no exposure time that can be read: ExposureTime, or ExposureTimeAbs in older "
+        "cameras");
+    step(
+        name, [&] { return m_model.GetGainRange(lowest, value, highest); },
+        "it has no gain that can be read: Gain or GainAbs, or GainRaw in older cameras");
 }
 
 void CalibrationSequence::placeGrid(const SequenceOptions& options)

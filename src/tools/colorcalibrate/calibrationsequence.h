@@ -3,6 +3,7 @@
 #pragma once
 
 #include "colorcorrectionmodel.h"
+#include "command.h"
 #include "failurelog.h"
 #include "icamera.h"
 
@@ -33,6 +34,15 @@ struct SequenceResult
     QVector<QColor> initialColors; ///< before, as the camera showed them
     QVector<QColor> currentColors; ///< after
     QJsonObject results;           ///< as CalibrationResultsInterface has it
+};
+
+/// Somebody wanted the work to end.
+class Cancelled : public CommandError
+{
+public:
+    Cancelled()
+        : CommandError(QStringLiteral("cancelled"))
+    {}
 };
 
 /// Calibrates one camera from opening to the measurement of the outcome, in the wizard's order.
@@ -68,6 +78,7 @@ public:
 private:
     SequenceResult calibrateOpened(const SequenceOptions& options);
     void open(const Core::CameraPoolComponents::CameraPtr& camera);
+    void requireBrightness();
     void placeGrid(const SequenceOptions& options);
     void makeNeutral(const SequenceOptions& options);
     void readBrightness(bool writesBack);
