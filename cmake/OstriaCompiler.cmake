@@ -12,7 +12,9 @@ set(OSTRIA_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize tak
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+    # What a precompiled header defines cannot be seen from outside; its content is compared instead.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros "${CCACHE_PROGRAM}")
 endif()
 
 add_library(ostria_compiler INTERFACE)

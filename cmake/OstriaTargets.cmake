@@ -65,11 +65,22 @@ if(OSTRIA_SANITIZE MATCHES "address")
     set(OSTRIA_DISPLAY_PRELOAD "OSTRIA_PRELOAD=${OSTRIA_ASAN_LIBRARY} ${OSTRIA_GRAPHICS_DRIVER}")
 endif()
 
+# The tests' own code is compiled for the shortest build, what they test as users run it. Plain
+# literals may stand for texts in it.
+if(MSVC)
+    set(OSTRIA_TEST_OPTIONS /UQT_NO_CAST_FROM_ASCII)
+elseif(OSTRIA_SANITIZE)
+    set(OSTRIA_TEST_OPTIONS -O0 -UQT_NO_CAST_FROM_ASCII)
+else()
+    set(OSTRIA_TEST_OPTIONS -O1 -UQT_NO_CAST_FROM_ASCII)
+endif()
+
 # A GoogleTest program; each of its tests becomes one ctest entry. The label "realtime" keeps its
 # tests out of runs under sanitizers, SERIAL lets each run alone, DISPLAY gives each a screen and
-# settings of its own, for programs that open windows, LOOPBACK a network of its own.
+# settings of its own, for programs that open windows, LOOPBACK a network of its own. WITHOUT_QT is for
+# what must not even see Qt's headers.
 function(ostria_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY;LOOPBACK" ""
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY;LOOPBACK;WITHOUT_QT" ""
         "SOURCES;DEPS;LABELS;ENVIRONMENT")
     _ostria_check_arguments(arg)
     set(starters "")
@@ -79,6 +90,10 @@ function(ostria_add_test name)
     add_executable(${name} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ostria_compiler ${arg_DEPS} GTest::gmock GTest::gtest_main)
+    target_compile_options(${name} PRIVATE ${OSTRIA_TEST_OPTIONS})
+    if(NOT arg_WITHOUT_QT)
+        target_precompile_headers(${name} REUSE_FROM test_prelude)
+    endif()
     set_target_properties(${name} PROPERTIES
         AUTOMOC "${arg_AUTOMOC}"
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
