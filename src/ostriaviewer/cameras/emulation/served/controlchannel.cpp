@@ -2,6 +2,7 @@
 // Answers the requests to a GigE Vision device.
 #include "controlchannel_p.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -47,13 +48,23 @@ Bytes ControlChannel::handle(const Bytes& datagram, const UdpAddress& client)
         sendAgain(request->payload, client);
         return {};
     }
-    if (m_lastClient == client && m_lastId == request->id && !m_lastAnswer.empty())
-        return m_lastAnswer;
+    if (const Answered* before = findAnswered(*request, client))
+        return before->answer;
     const Outcome outcome = perform(*request, client);
-    m_lastClient = client;
-    m_lastId = request->id;
-    m_lastAnswer = Gvcp::answer(*request, outcome.status, outcome.payload);
-    return request->wantsAnswer ? m_lastAnswer : Bytes();
+    const Bytes answer = Gvcp::answer(*request, outcome.status, outcome.payload);
+    m_answered[isController(client) ? 0 : 1] = {client, request->command, request->id, answer};
+    return request->wantsAnswer ? answer : Bytes();
+}
+
+const ControlChannel::Answered* ControlChannel::findAnswered(const Gvcp::Request& request,
+                                                             const UdpAddress& client) const
+{
+    const auto found =
+        std::find_if(m_answered.begin(), m_answered.end(), [&](const Answered& answered) {
+            return !answered.answer.empty() && answered.client == client &&
+                   answered.command == request.command && answered.id == request.id;
+        });
+    return found == m_answered.end() ? nullptr : found;
 }
 
 ControlChannel::Outcome ControlChannel::perform(const Gvcp::Request& request,
@@ -135,7 +146,7 @@ ControlChannel::Outcome ControlChannel::writeMemory(const Bytes& payload, const 
         return {Status::InvalidParameter, writeAnswer(0)};
     const std::uint32_t address = number32(payload, 0);
     if (address < IServedDevice::firstRegister)
-        return writeRegisters(payload, client);
+        return writeRegistersFrom(address, Bytes(payload.begin() + 4, payload.end()), client);
     if (!isController(client))
         return {Status::AccessDenied, writeAnswer(0)};
     try {
@@ -144,6 +155,20 @@ ControlChannel::Outcome ControlChannel::writeMemory(const Bytes& payload, const 
     } catch (const std::exception&) {
         return {Status::AccessDenied, writeAnswer(0)};
     }
+}
+
+/// Consecutive registers, of which the answer counts the bytes.
+ControlChannel::Outcome ControlChannel::writeRegistersFrom(std::uint32_t address,
+                                                           const Bytes& values,
+                                                           const UdpAddress& client)
+{
+    for (std::size_t offset = 0; offset < values.size(); offset += 4) {
+        const Status status = writeRegister(address + static_cast<std::uint32_t>(offset),
+                                            number32(values, offset), client);
+        if (status != Status::Success)
+            return {status, writeAnswer(offset)};
+    }
+    return {Status::Success, writeAnswer(values.size())};
 }
 
 Status ControlChannel::writeRegister(std::uint32_t address, std::uint32_t value,

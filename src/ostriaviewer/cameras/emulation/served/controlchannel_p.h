@@ -6,6 +6,7 @@
 #include "framesender_p.h"
 #include "udpsocket.h"
 
+#include <array>
 #include <chrono>
 #include <memory>
 
@@ -36,11 +37,23 @@ private:
         Gvcp::Bytes payload;
     };
 
+    /// A request that was performed already, so that a repeated one is not performed twice.
+    struct Answered
+    {
+        UdpAddress client;
+        std::uint16_t command = 0;
+        std::uint16_t id = 0;
+        Gvcp::Bytes answer;
+    };
+
+    const Answered* findAnswered(const Gvcp::Request& request, const UdpAddress& client) const;
     Outcome perform(const Gvcp::Request& request, const UdpAddress& client);
     Outcome readRegisters(const Gvcp::Bytes& payload) const;
     Outcome writeRegisters(const Gvcp::Bytes& payload, const UdpAddress& client);
     Outcome readMemory(const Gvcp::Bytes& payload) const;
     Outcome writeMemory(const Gvcp::Bytes& payload, const UdpAddress& client);
+    Outcome writeRegistersFrom(std::uint32_t address, const Gvcp::Bytes& values,
+                               const UdpAddress& client);
     Gvcp::Status writeRegister(std::uint32_t address, std::uint32_t value,
                                const UdpAddress& client);
     Gvcp::Status changeControl(std::uint32_t value, const UdpAddress& client);
@@ -57,9 +70,7 @@ private:
     const Gvcp::Bytes m_discoveryAnswer;
     UdpAddress m_controller; // port 0: nobody
     Clock::time_point m_lastHeard;
-    UdpAddress m_lastClient;    // whose request was answered last, so that a repeated one
-    std::uint16_t m_lastId = 0; // is not performed twice
-    Gvcp::Bytes m_lastAnswer;
+    std::array<Answered, 2> m_answered; // the controller's and somebody else's
 };
 
 } // namespace Cameras::Emulation

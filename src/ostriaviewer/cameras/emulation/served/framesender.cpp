@@ -3,7 +3,7 @@
 #include "framesender_p.h"
 
 #include <algorithm>
-#include <thread>
+#include <tuple>
 #include <utility>
 
 namespace Cameras::Emulation {
@@ -32,15 +32,26 @@ Bytes begin(std::uint16_t frameId, Content content, std::uint32_t index)
 
 } // namespace
 
+bool FrameSender::Target::operator==(const Target& other) const
+{
+    return std::tie(address, port, packetSize, packetDelay) ==
+           std::tie(other.address, other.port, other.packetSize, other.packetDelay);
+}
+
 FrameSender::FrameSender(std::shared_ptr<UdpSocket> socket)
     : m_socket(std::move(socket))
 {}
 
 void FrameSender::setTarget(const Target& target)
 {
+    Target wanted = target;
+    wanted.packetSize = std::max(target.packetSize, smallestPacket);
     const std::lock_guard lock(m_mutex);
-    m_target = target;
-    m_target.packetSize = std::max(target.packetSize, smallestPacket);
+    if (wanted == m_target)
+        return;
+    m_target = wanted;
+    ++m_targets;
+    m_isElsewhere.notify_all();
 }
 
 void FrameSender::losePackets(double share)
@@ -101,33 +112,43 @@ void FrameSender::transmit(const Bytes& packet)
     const double chance = std::uniform_real_distribution<double>(0.0, 1.0)(m_chance);
     if (chance >= m_loss)
         m_socket->send(packet, {m_target.address, m_target.port});
-    if (m_target.packetDelay.count() > 0)
-        std::this_thread::sleep_for(m_target.packetDelay);
+}
+
+/// Packets of the last frame.
+void FrameSender::transmitPackets(std::unique_lock<std::mutex>& lock, std::uint32_t first,
+                                  std::uint32_t end)
+{
+    const std::uint16_t frame = m_last.id;
+    const std::uint64_t target = m_targets;
+    const auto isElsewhere = [&] {
+        return m_targets != target || m_last.id != frame;
+    };
+    for (std::uint32_t index = first; index < end && !isElsewhere(); ++index) {
+        transmit(packet(m_last, index));
+        if (m_target.packetDelay.count() > 0)
+            m_isElsewhere.wait_for(lock, m_target.packetDelay, isElsewhere);
+    }
 }
 
 void FrameSender::send(const Ostria::CGrabResultPtr& frame)
 {
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     const std::uint16_t id = m_nextId++;
     if (m_nextId == 0)
         m_nextId = 1; // 0 is no frame's number
     if (!frame->GrabSucceeded() || m_target.port == 0)
         return;
     m_last = {id, frame->image()};
-    const std::uint32_t count = packetCount(m_last);
-    for (std::uint32_t index = 0; index < count; ++index)
-        transmit(packet(m_last, index));
+    transmitPackets(lock, 0, packetCount(m_last));
 }
 
 void FrameSender::sendAgain(std::uint16_t frameId, std::uint32_t firstPacket,
                             std::uint32_t lastPacket)
 {
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     if (frameId != m_last.id || !m_last.image.isValid() || m_target.port == 0)
         return;
-    const std::uint32_t end = std::min(lastPacket, packetCount(m_last) - 1);
-    for (std::uint32_t index = firstPacket; index <= end; ++index)
-        transmit(packet(m_last, index));
+    transmitPackets(lock, firstPacket, std::min(lastPacket, packetCount(m_last) - 1) + 1);
 }
 
 void FrameSender::sendTestPacket()

@@ -7,13 +7,16 @@
 #include "udpsocket.h"
 
 #include <chrono>
+#include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <random>
 
 namespace Cameras::Emulation {
 
-/// Sends frames in packets, and packets of the last frames again. Thread-safe.
+/// Sends frames in packets, and packets of the last frame again. Whoever changes the target does
+/// not wait for packets that keep their distance; what was under way to another target ends.
+/// Thread-safe.
 class FrameSender
 {
 public:
@@ -23,6 +26,8 @@ public:
         std::uint16_t port = 0; ///< 0: nothing is sent
         std::size_t packetSize = 0;
         std::chrono::nanoseconds packetDelay = {};
+
+        bool operator==(const Target& other) const;
     };
 
     explicit FrameSender(std::shared_ptr<UdpSocket> socket);
@@ -32,7 +37,7 @@ public:
     /// Sends a frame; a failed one becomes a number that is left out.
     void send(const Ostria::CGrabResultPtr& frame);
 
-    /// Sends packets of one of the last frames again, if it still is there.
+    /// Sends packets of the last frame again, if it still is this one.
     void sendAgain(std::uint16_t frameId, std::uint32_t firstPacket, std::uint32_t lastPacket);
 
     /// A packet by which a client finds out what size gets through.
@@ -53,10 +58,14 @@ private:
     Gvcp::Bytes packet(const SentFrame& frame, std::uint32_t index) const;
     Gvcp::Bytes leader(const SentFrame& frame) const;
     void transmit(const Gvcp::Bytes& packet);
+    void transmitPackets(std::unique_lock<std::mutex>& lock, std::uint32_t first,
+                         std::uint32_t end);
 
     const std::shared_ptr<UdpSocket> m_socket;
 
     std::mutex m_mutex; // guards all below
+    std::condition_variable m_isElsewhere;
+    std::uint64_t m_targets = 0; // how often there was another one
     Target m_target;
     SentFrame m_last;
     std::uint16_t m_nextId = 1;

@@ -63,6 +63,7 @@ protected:
         m_last = bytes;
         return channel.handle(bytes, from);
     }
+    const Bytes& lastRequest() const { return m_last; }
     Bytes repeat() { return channel.handle(m_last, client); }
 
     void takeControl() { request(0x82, {0, 0, 0x0a, 0x00, 0, 0, 0, 2}); }
@@ -128,6 +129,35 @@ TEST_F(ControlChannelTest, PerformsARepeatedRequestOnce)
     const Bytes first = request(0x86, {0, 1, 0, 0, 1, 2, 3, 4, 5, 6, 7, 8});
     EXPECT_EQ(repeat(), first);
     EXPECT_EQ(device->writes, 1);
+}
+
+TEST_F(ControlChannelTest, PerformsARepeatedRequestOnceWhoeverAsksInBetween)
+{
+    takeControl();
+    const Bytes first = request(0x86, {0, 1, 0, 0, 1, 2, 3, 4, 5, 6, 7, 8});
+    const Bytes asked = lastRequest();
+    request(0x02, {}, stranger);
+    EXPECT_EQ(channel.handle(asked, client), first);
+    EXPECT_EQ(device->writes, 1);
+}
+
+TEST_F(ControlChannelTest, WritesRegistersOfItsOwnOneAfterTheOther)
+{
+    takeControl();
+    // The stream's port and packet size: 0x0d00 and 0x0d04.
+    const Bytes answer = request(0x86, {0, 0, 0x0d, 0x00, 0, 0, 0x13, 0x88, 0, 0, 0x05, 0xdc});
+    EXPECT_EQ(status(answer), 0);
+    EXPECT_EQ(Gvcp::number16(answer, 10), 8) << "bytes";
+    const Bytes read = request(0x80, {0, 0, 0x0d, 0x00, 0, 0, 0x0d, 0x04});
+    EXPECT_EQ(Bytes(read.begin() + 8, read.end()), (Bytes{0, 0, 0x13, 0x88, 0, 0, 0x05, 0xdc}));
+}
+
+TEST_F(ControlChannelTest, TellsHowManyBytesWereWrittenBeforeARegisterThatIsNotThere)
+{
+    takeControl();
+    const Bytes answer = request(0x86, {0, 0, 0x0d, 0x08, 0, 0, 0, 1, 0, 0, 0, 1});
+    EXPECT_NE(status(answer), 0);
+    EXPECT_EQ(Gvcp::number16(answer, 10), 4);
 }
 
 TEST_F(ControlChannelTest, GivesControlToOneClientUntilThatGivesItBack)
