@@ -75,24 +75,41 @@ UserSets::UserSets(std::shared_ptr<const FeatureTable> table, const QString& fil
     read();
 }
 
-void UserSets::read()
+/// \return  whether there is no file, or one of user sets
+bool UserSets::read()
 {
     constexpr qint64 longest = 4 * 1024 * 1024;
     QFile file(m_file);
+    if (!file.exists())
+        return true;
     if (!file.open(QIODevice::ReadOnly) || file.size() > longest)
-        return;
+        return false;
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
     if (!document.isObject())
-        return;
+        return false;
     const QJsonObject root = document.object();
     m_sets = root.value(setsKey).toObject();
     const QString startUp = root.value(startUpKey).toString();
     const FeatureDefinition* choice = m_table->find(startUpKey);
     if (!choice)
-        return;
+        return true;
     for (const EntryDefinition& entry : choice->entries)
         if (entry.name == startUp)
             m_startUpSet = startUp;
+    return true;
+}
+
+/// What stands in the file may be all that somebody has, so it is moved, not written over.
+void UserSets::readToChange()
+{
+    if (read())
+        return;
+    const QString name = m_file + QStringLiteral(".damaged");
+    QString aside = name;
+    for (int number = 2; QFile::exists(aside); ++number)
+        aside = name + QString::number(number);
+    if (!QFile::rename(m_file, aside))
+        throw unwritable(m_file);
 }
 
 void UserSets::load(const QString& set, FeatureValues& values)
@@ -126,7 +143,7 @@ void UserSets::save(const QString& set, const FeatureValues& values)
     }
     // Another program may have saved other sets meanwhile.
     const auto lock = lockFile();
-    read();
+    readToChange();
     QJsonObject sets = m_sets;
     sets.insert(set, stored);
     write(sets, m_startUpSet);
@@ -135,7 +152,7 @@ void UserSets::save(const QString& set, const FeatureValues& values)
 void UserSets::setStartUpSet(const QString& set)
 {
     const auto lock = lockFile();
-    read();
+    readToChange();
     write(m_sets, set);
 }
 

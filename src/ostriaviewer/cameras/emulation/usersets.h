@@ -15,7 +15,8 @@ namespace Cameras::Emulation {
 /// Named sets of feature values, and which of them the camera comes up with. They are the file's:
 /// each change is written to it at once, and what other programs have saved in it is seen. A file
 /// that is missing, damaged or of another model harms nothing: what cannot be used in it is left at
-/// its factory value. Reentrant.
+/// its factory value, and a file that is none of user sets is set aside before one is written.
+/// Reentrant.
 class UserSets
 {
 public:
@@ -39,7 +40,8 @@ public:
 
 private:
     std::unique_ptr<QLockFile> lockFile() const;
-    void read();
+    bool read();
+    void readToChange();
     void write(const QJsonObject& sets, const QString& startUpSet);
 
     std::shared_ptr<const FeatureTable> m_table;

@@ -220,6 +220,18 @@ TEST_F(UserSetsTest, ProgramsThatSaveAtOnceLoseNothing)
     EXPECT_EQ(values.value(QStringLiteral("Gain")), 10.0);
 }
 
+TEST_F(UserSetsTest, ADamagedFileIsKeptAsideWhenASetIsSaved)
+{
+    for (const char* name : {".damaged", ".damaged2"}) {
+        writeFile(R"({"UserSets": {"UserSet2": {"Gain": [3)");
+        const auto camera = openCamera(smallModel());
+        save(*camera, "UserSet1");
+        QFile aside(file(smallModel()) + QLatin1String(name));
+        ASSERT_TRUE(aside.open(QIODevice::ReadOnly)) << name;
+        EXPECT_EQ(aside.readAll(), R"({"UserSets": {"UserSet2": {"Gain": [3)");
+    }
+}
+
 TEST_F(UserSetsTest, DamagedFilesHarmNothing)
 {
     for (const QByteArray& text :
