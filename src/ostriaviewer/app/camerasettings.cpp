@@ -2,8 +2,8 @@
 // Which cameras the viewer shows, and how it reaches them.
 #include "camerasettings.h"
 
-#include <QHostAddress>
-#include <QRegularExpression>
+#include "cameraaddress.h"
+
 #include <QStringList>
 
 namespace Viewer {
@@ -54,7 +54,7 @@ CameraSettings readCameraSettings(const ViewerSettings& settings)
     transport.isSearching = settings.value(searchKey, true).toBool();
     transport.interfaces = settings.value(interfacesKey).toStringList();
     for (const QString& text : settings.value(addressesKey).toStringList()) {
-        const QString address = cameraAddress(text);
+        const QString address = Cameras::GenICam::cameraAddress(text);
         if (!address.isEmpty() && !transport.addresses.contains(address))
             transport.addresses.append(address);
     }
@@ -68,24 +68,6 @@ void writeCameraSettings(ViewerSettings& settings, const CameraSettings& cameras
     settings.setValue(searchKey, cameras.transport.isSearching);
     settings.setValue(interfacesKey, cameras.transport.interfaces);
     settings.setValue(addressesKey, cameras.transport.addresses);
-}
-
-// Qt takes "1.2" and "010.0.0.1" as addresses as well, of which people mean something else.
-QString cameraAddress(const QString& text)
-{
-    static const QRegularExpression form(QStringLiteral("^\\d{1,3}(\\.\\d{1,3}){3}$"));
-    const QString trimmed = text.trimmed();
-    if (!form.match(trimmed).hasMatch())
-        return {};
-    quint32 number = 0;
-    for (const QString& part : trimmed.split(QLatin1Char('.'))) {
-        if (part.toUInt() > 255)
-            return {};
-        number = number << 8 | part.toUInt();
-    }
-    const QHostAddress address(number);
-    const bool isOne = number != 0 && !address.isBroadcast() && !address.isMulticast();
-    return isOne ? address.toString() : QString();
 }
 
 } // namespace Viewer

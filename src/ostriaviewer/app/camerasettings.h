@@ -34,8 +34,4 @@ struct CameraSettings
 CameraSettings readCameraSettings(const ViewerSettings& settings);
 void writeCameraSettings(ViewerSettings& settings, const CameraSettings& cameras);
 
-/// The address as it is shown, without leading zeros and blanks; empty if the text is no address of
-/// a single camera.
-QString cameraAddress(const QString& text);
-
 } // namespace Viewer

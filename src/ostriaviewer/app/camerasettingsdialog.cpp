@@ -2,6 +2,8 @@
 // Lets the user say which cameras there are and how they are reached.
 #include "camerasettingsdialog.h"
 
+#include "cameraaddress.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -192,7 +194,7 @@ void CameraSettingsDialog::accept()
 
 bool CameraSettingsDialog::addAddress()
 {
-    const QString address = cameraAddress(m_address->text());
+    const QString address = Cameras::GenICam::cameraAddress(m_address->text());
     if (address.isEmpty()) {
         m_problem->setText(
             tr("\"%1\" is no address of a camera. It consists of four numbers, such as "

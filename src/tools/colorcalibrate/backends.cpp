@@ -2,26 +2,21 @@
 // Which cameras a subcommand looks at, from its options.
 #include "backends.h"
 
+#include "cameraaddress.h"
 #include "command.h"
-
-#include <QRegularExpression>
 
 namespace ColorCalibrate {
 namespace {
 
-void requireAddress(const QString& address)
+QString readAddress(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\d{1,3})\\.(\\d{1,3})\\.(\\d{1,3})\\."
-                                                        "(\\d{1,3})$"));
-    const QRegularExpressionMatch match = form.match(address);
-    bool isAddress = match.hasMatch();
-    for (int part = 1; part <= 4; ++part)
-        isAddress = isAddress && match.captured(part).toInt() <= 255;
-    if (!isAddress)
-        throw CommandError(
-            QStringLiteral("--address is an IPv4 address such as 192.168.1.20, not \"%1\"")
-                .arg(address),
-            WrongUsage);
+    const QString address = Cameras::GenICam::cameraAddress(text);
+    if (address.isEmpty())
+        throw CommandError(QStringLiteral("--address is the IPv4 address of a camera, such as "
+                                          "192.168.1.20, not \"%1\"")
+                               .arg(text),
+                           WrongUsage);
+    return address;
 }
 
 int readPacketSize(const QString& text)
@@ -79,10 +74,9 @@ CameraSelection readCameraOptions(const CommandLine& line)
         line.value(QStringLiteral("interfaces")).split(QLatin1Char(','), Qt::SkipEmptyParts);
     if (line.isSet(QStringLiteral("packet-size")))
         selection.packetSize = readPacketSize(line.value(QStringLiteral("packet-size")));
-    selection.address = line.value(QStringLiteral("address"));
-    if (selection.address.isEmpty())
+    if (!line.isSet(QStringLiteral("address")))
         return selection;
-    requireAddress(selection.address);
+    selection.address = readAddress(line.value(QStringLiteral("address")));
     selection.hasEmulated = false;
     selection.isLooking = false;
     return selection;
