@@ -11,6 +11,18 @@ namespace Viewer {
 using Cameras::HostCamera;
 using Cameras::HostCameraPtr;
 
+namespace {
+
+/// The camera's own words for what has just failed; they are told once.
+QString takeErrorText(HostCamera& camera)
+{
+    const QString text = camera.lastErrorText();
+    camera.clearLastError();
+    return text;
+}
+
+} // namespace
+
 CameraCommands::CameraCommands(CameraList& cameras, DeviceSelectorService& selector,
                                QObject* parent)
     : QObject(parent)
@@ -57,8 +69,7 @@ bool CameraCommands::ensureOpen(const HostCameraPtr& camera)
     if (isOpen)
         return true;
     emit failed(
-        tr("%1 could not be opened. %2").arg(camera->displayName(), camera->lastErrorText()));
-    camera->clearLastError();
+        tr("%1 could not be opened. %2").arg(camera->displayName(), takeErrorText(*camera)));
     return false;
 }
 
@@ -79,9 +90,13 @@ void CameraCommands::start()
     const HostCameraPtr selected = camera();
     if (!selected || !ensureOpen(selected) || selected->startGrabbing())
         return;
-    emit failed(tr("%1 delivers no images, as another part of the program is using it. End that "
-                   "first.")
-                    .arg(selected->displayName()));
+    if (selected->isExclusive())
+        emit failed(tr("%1 delivers no images, as another part of the program is using it. End "
+                       "that first.")
+                        .arg(selected->displayName()));
+    else
+        emit failed(
+            tr("%1 delivers no images. %2").arg(selected->displayName(), takeErrorText(*selected)));
 }
 
 void CameraCommands::stop()
@@ -95,9 +110,13 @@ void CameraCommands::grabSingle()
     const HostCameraPtr selected = camera();
     if (!selected || !ensureOpen(selected) || selected->grabSingle())
         return;
-    emit failed(tr("%1 takes no picture, as another one is under way or another part of the "
-                   "program is using it. Try again later.")
-                    .arg(selected->displayName()));
+    if (selected->isExclusive())
+        emit failed(tr("%1 takes no picture, as another part of the program is using it. Try again "
+                       "later.")
+                        .arg(selected->displayName()));
+    else
+        emit failed(
+            tr("%1 takes no picture. %2").arg(selected->displayName(), takeErrorText(*selected)));
 }
 
 void CameraCommands::update()

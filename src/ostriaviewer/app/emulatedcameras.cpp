@@ -6,6 +6,8 @@
 
 #include <QImageReader>
 
+#include <exception>
+
 namespace Viewer {
 
 using namespace Cameras::Emulation;
@@ -22,8 +24,14 @@ Scene readScene(const QString& file, QString& error)
                     .arg(file, reader.errorString() + QLatin1Char('.'));
         return Scene();
     }
-    return Scene(Scene::fromSrgb8(image.width(), image.height(), image.constBits(),
-                                  static_cast<std::size_t>(image.bytesPerLine())));
+    try {
+        return Scene(Scene::fromSrgb8(image.width(), image.height(), image.constBits(),
+                                      static_cast<std::size_t>(image.bytesPerLine())));
+    } catch (const std::exception& problem) {
+        error = QStringLiteral("The scene %1 cannot be shown: %2. Choose another image.")
+                    .arg(file, QString::fromUtf8(problem.what()));
+        return Scene();
+    }
 }
 
 } // namespace

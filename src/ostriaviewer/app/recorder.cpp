@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace Viewer {
@@ -53,6 +54,7 @@ struct Recorder::Queue
     std::condition_variable changed;
     Recorder* owner = nullptr; // null when it has ended
     std::deque<Ostria::CGrabResultPtr> waiting;
+    std::optional<std::uint64_t> lastNumber;
     bool isEnding = false;
     RecordingResult result;
 
@@ -61,6 +63,13 @@ struct Recorder::Queue
         const std::lock_guard lock(mutex);
         if (isEnding || !frame)
             return;
+        // The camera was stopped and counts anew; its files would replace those that are there.
+        if (lastNumber && frame->frameNumber() <= *lastNumber) {
+            isEnding = true;
+            changed.notify_one();
+            return;
+        }
+        lastNumber = frame->frameNumber();
         if (!frame->GrabSucceeded())
             ++result.failed;
         else if (waiting.size() >= longestQueue)

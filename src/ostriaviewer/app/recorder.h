@@ -25,8 +25,8 @@ struct RecordingResult
 };
 
 /// Records one camera, once, as 8-bit PNG files "000001.png" and so on, named by the number that
-/// the camera gave the frame, so that gaps show. Images wait for the disk in memory, but not more
-/// than `longestQueue`. Thread-bound: GUI thread.
+/// the camera gave the frame, so that gaps show; it ends where the camera counts anew. Images wait
+/// for the disk in memory, but not more than `longestQueue`. Thread-bound: GUI thread.
 class Recorder final : public QObject
 {
     Q_OBJECT

@@ -14,22 +14,34 @@ extern "C" void keepRequest(int /*signal*/)
     isRequested = 1;
 }
 
+constexpr int requests[] = {
+    SIGINT,
+    SIGTERM,
+#ifdef SIGHUP
+    SIGHUP,
+#endif
+};
+
 } // namespace
 
 // A handler may do no more than set a flag, so the flag is looked at from time to time.
 TerminationWatch::TerminationWatch(QObject* parent)
     : QObject(parent)
-    , m_previousInterrupt(std::signal(SIGINT, keepRequest))
-    , m_previousTerminate(std::signal(SIGTERM, keepRequest))
 {
+    for (const int signal : requests) {
+        m_previous.emplace_back(signal, std::signal(signal, keepRequest));
+        // Whoever started the program may want it to go on, as "nohup" does.
+        if (m_previous.back().second == SIG_IGN)
+            std::signal(signal, SIG_IGN);
+    }
     connect(&m_timer, &QTimer::timeout, this, &TerminationWatch::look);
     m_timer.start(200);
 }
 
 TerminationWatch::~TerminationWatch()
 {
-    std::signal(SIGINT, m_previousInterrupt);
-    std::signal(SIGTERM, m_previousTerminate);
+    for (const auto& [signal, handler] : m_previous)
+        std::signal(signal, handler);
 }
 
 void TerminationWatch::look()

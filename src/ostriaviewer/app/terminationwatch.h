@@ -5,9 +5,13 @@
 #include <QObject>
 #include <QTimer>
 
+#include <utility>
+#include <vector>
+
 namespace Viewer {
 
-/// While it lives, an interruption from the terminal, a log-out or a shutdown is a request, no end.
+/// While it lives, an interruption from the terminal, a terminal that goes away, a log-out or a
+/// shutdown is a request, no end.
 /// One at a time. Thread-bound: GUI thread.
 class TerminationWatch final : public QObject
 {
@@ -25,8 +29,8 @@ private:
     void look();
 
     QTimer m_timer;
-    void (*m_previousInterrupt)(int);
-    void (*m_previousTerminate)(int);
+    using Handler = void (*)(int);
+    std::vector<std::pair<int, Handler>> m_previous; // of each signal
 };
 
 } // namespace Viewer

@@ -2,6 +2,8 @@
 // What the viewer remembers from one start to the next.
 #include "viewersettings.h"
 
+#include "logging.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -103,6 +105,16 @@ void ViewerSettings::setValue(const QString& name, const QVariant& value)
     QSettings settings;
     settings.setValue(keyOf(versionName), version);
     settings.setValue(keyOf(name), value);
+    settings.sync();
+    if (settings.status() == QSettings::NoError || m_isLossTold)
+        return;
+    m_isLossTold = true;
+    Core::Logging::createLogEntry(
+        Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Viewer")),
+        Texts::tr(
+            "The settings file %1 cannot be written; what you change is forgotten at the end. "
+            "Check the file's permissions and the room on its disk.")
+            .arg(settings.fileName()));
 }
 
 } // namespace Viewer

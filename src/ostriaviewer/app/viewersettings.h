@@ -27,6 +27,8 @@ public:
     bool isKept() const { return m_isKept; }
 
     QVariant value(const QString& name, const QVariant& defaultValue = {}) const;
+
+    /// A file that cannot be written is told in the log, once.
     void setValue(const QString& name, const QVariant& value);
 
 private:
@@ -38,6 +40,7 @@ private:
     Problem m_problem = Problem::None;
     QString m_problemFile;
     bool m_isKept = true;
+    bool m_isLossTold = false;
 };
 
 } // namespace Viewer

@@ -2,6 +2,8 @@
 // Settings survive, whoever wrote them.
 #include "viewersettings.h"
 
+#include "logging.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -91,6 +93,24 @@ TEST_F(ViewerSettingsTest, KeepsEachDamagedFile)
     }
     QFile::remove(m_file + ".unreadable");
     QFile::remove(m_file + ".unreadable2");
+}
+
+TEST_F(ViewerSettingsTest, SayOnceThatTheyCannotBeWritten)
+{
+    QStringList told;
+    const auto before = Core::Logging::installLogSink(
+        [&told](Core::Logging::ELogLevel, const QString&, const QString& text) { told += text; });
+    ViewerSettings settings;
+    const QString folder = QFileInfo(m_file).path();
+    QSettings().sync();
+    ASSERT_TRUE(QDir(folder).removeRecursively());
+    ASSERT_TRUE(QFile(folder).open(QIODevice::WriteOnly)) << "a file in place of the folder";
+    settings.setValue("Name", "value");
+    settings.setValue("Name", "other");
+    Core::Logging::installLogSink(before);
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told.first().contains(m_file)) << qPrintable(told.first());
+    QFile::remove(folder);
 }
 
 } // namespace
