@@ -154,6 +154,8 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     Report report;
     report.camera = camera->displayName();
     report.model = camera->modelName();
+    // Reading the settings moves selectors, which must come to their places again.
+    const Interruption interruption;
     SettingsGuard guard(camera);
     requireSupported(cameras, camera);
     resolveUserSet(camera, saving);
@@ -162,7 +164,6 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
                            *camera->parameterCollection());
     report.sfnc = camera->parameterCollection()->sfncVersion().toString();
 
-    const Interruption interruption;
     ColorCorrectionModel model;
     model.SetCameraStatusService(cameras.statusService());
     model.SetCameraControlService(cameras.controlService());

@@ -45,6 +45,14 @@ QList<HostCameraPtr> realCameras(const CameraSelection& selection)
     return cameras;
 }
 
+QString namesOf(const QList<HostCameraPtr>& cameras)
+{
+    QStringList names;
+    for (const HostCameraPtr& camera : cameras)
+        names.append(QStringLiteral("\"%1\"").arg(camera->displayName()));
+    return names.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 ToolCameras::ToolCameras(const std::optional<Scene>& scene, const CameraSelection& selection)
@@ -66,16 +74,22 @@ QString ToolCameras::backendOf(const HostCameraPtr& camera)
 
 HostCameraPtr ToolCameras::find(const QString& name) const
 {
-    QStringList names;
+    QList<HostCameraPtr> ofModel;
     for (const HostCameraPtr& camera : all()) {
-        if (camera->displayName() == name || camera->modelName() == name)
+        if (camera->displayName() == name)
             return camera;
-        names.append(QStringLiteral("\"%1\"").arg(camera->displayName()));
+        if (camera->modelName() == name)
+            ofModel.append(camera);
     }
+    if (ofModel.size() == 1)
+        return ofModel.first();
+    if (ofModel.size() > 1)
+        throw CommandError(QStringLiteral("there are several cameras \"%1\"; name one of %2")
+                               .arg(name, namesOf(ofModel)));
+    const QString names = namesOf(all());
     if (names.isEmpty())
         throw CommandError(QStringLiteral("there is no camera \"%1\"; none was found").arg(name));
-    throw CommandError(QStringLiteral("there is no camera \"%1\"; there are %2")
-                           .arg(name, names.join(QStringLiteral(", "))));
+    throw CommandError(QStringLiteral("there is no camera \"%1\"; there are %2").arg(name, names));
 }
 
 Plugin::CameraPool::ICameraStatusService* ToolCameras::statusService() const

@@ -2,6 +2,7 @@
 // What the log says of a failure.
 #include "failurelog.h"
 
+#include <QMutex>
 #include <QMutexLocker>
 #include <QRegularExpression>
 
@@ -17,15 +18,29 @@ QString withoutFunction(QString text)
 
 } // namespace
 
+struct FailureLog::Kept
+{
+    QMutex mutex;
+    QStringList failures;
+    Core::Logging::LogSink before;
+};
+
 FailureLog::FailureLog()
-    : m_previous(Core::Logging::installLogSink(
-          [this](Core::Logging::ELogLevel level, const QString& /*category*/, const QString& text) {
-              if (level < Core::Logging::Warning)
-                  return;
-              const QMutexLocker lock(&m_mutex);
-              m_failures.append(withoutFunction(text));
-          }))
-{}
+    : m_kept(std::make_shared<Kept>())
+{
+    const auto keep = [kept = m_kept](Core::Logging::ELogLevel level, const QString& category,
+                                      const QString& text) {
+        if (level < Core::Logging::Warning)
+            return;
+        const QMutexLocker lock(&kept->mutex);
+        kept->failures.append(withoutFunction(text));
+        if (kept->before && category == QLatin1String("Cameras"))
+            kept->before(level, category, text);
+    };
+    const QMutexLocker lock(&m_kept->mutex);
+    m_previous = Core::Logging::installLogSink(keep);
+    m_kept->before = m_previous;
+}
 
 FailureLog::~FailureLog()
 {
@@ -34,20 +49,20 @@ FailureLog::~FailureLog()
 
 void FailureLog::clear()
 {
-    const QMutexLocker lock(&m_mutex);
-    m_failures.clear();
+    const QMutexLocker lock(&m_kept->mutex);
+    m_kept->failures.clear();
 }
 
 QStringList FailureLog::failures() const
 {
-    const QMutexLocker lock(&m_mutex);
-    return m_failures;
+    const QMutexLocker lock(&m_kept->mutex);
+    return m_kept->failures;
 }
 
 QString FailureLog::lastFailure() const
 {
-    const QMutexLocker lock(&m_mutex);
-    return m_failures.value(m_failures.size() - 1);
+    const QMutexLocker lock(&m_kept->mutex);
+    return m_kept->failures.value(m_kept->failures.size() - 1);
 }
 
 } // namespace ColorCalibrate

@@ -4,14 +4,15 @@
 
 #include "logging.h"
 
-#include <QMutex>
 #include <QStringList>
+
+#include <memory>
 
 namespace ColorCalibrate {
 
-/// While it lives, log entries are not written to standard error, but those that tell of a failure
-/// are kept: the last one names the reason behind a step that has failed. One at a time.
-/// Thread-safe.
+/// While it lives, log entries that tell of a failure are kept: the last one names the reason
+/// behind a step that has failed. What cameras say of themselves goes on to the sink before it,
+/// since a step that succeeds tells nobody. They may be nested. Thread-safe.
 class FailureLog
 {
 public:
@@ -30,8 +31,9 @@ public:
     QString lastFailure() const;
 
 private:
-    mutable QMutex m_mutex;
-    QStringList m_failures;
+    struct Kept;
+
+    std::shared_ptr<Kept> m_kept; // a camera's thread may be writing an entry while this ends
     Core::Logging::LogSink m_previous;
 };
 

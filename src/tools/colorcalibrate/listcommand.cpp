@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <exception>
 #include <ostream>
 
 namespace ColorCalibrate {
@@ -25,19 +26,32 @@ struct ListedCamera
     QString problem; ///< why it could not be asked, empty if it could
 };
 
+/// Empty with the reason where the camera is open but does not answer.
+QString sfncVersion(Cameras::HostCamera& camera, QString& problem)
+{
+    try {
+        const auto parameters = camera.parameterCollection();
+        return parameters ? parameters->sfncVersion().toString() : QString();
+    } catch (const std::exception& error) {
+        problem = QString::fromUtf8(error.what());
+        return {};
+    }
+}
+
 /// What only an open camera tells is asked of it in passing.
 ListedCamera describe(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera)
 {
     const bool wasOpen = camera->isOpen();
     const bool isOpen = wasOpen || camera->open();
-    const auto parameters = isOpen ? camera->parameterCollection() : nullptr;
+    QString problem = isOpen ? QString() : camera->lastErrorText();
+    const QString version = isOpen ? sfncVersion(*camera, problem) : QString();
     const ListedCamera listed{
         camera->displayName(),
         camera->modelName(),
-        parameters ? parameters->sfncVersion().toString() : QString(),
+        version,
         ColorCalibration::isCameraSupported(camera, cameras.parameterService()),
         ToolCameras::backendOf(camera),
-        isOpen ? QString() : camera->lastErrorText()};
+        problem};
     if (!wasOpen)
         camera->close();
     return listed;
@@ -83,7 +97,7 @@ void listCommand(const QStringList& arguments, const Streams& streams)
     for (const Cameras::HostCameraPtr& camera : cameras.all()) {
         const ListedCamera listed = describe(cameras, camera);
         if (listed.sfnc.isEmpty() && !selection.address.isEmpty())
-            throw CommandError(camera->lastErrorText());
+            throw CommandError(listed.problem);
         array.append(toJson(listed));
         rows += toRow(listed);
         if (!listed.problem.isEmpty())

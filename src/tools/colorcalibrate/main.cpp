@@ -2,6 +2,8 @@
 // Entry of the command-line tool.
 #include "colorcalibrate.h"
 
+#include "logging.h"
+
 #include <QCoreApplication>
 #include <QtGlobal>
 
@@ -13,11 +15,19 @@ namespace {
 void dropMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/)
 {}
 
+/// No step fails by what a camera has to say of itself, such as a setting that stays changed.
+void tellWarning(Core::Logging::ELogLevel level, const QString& category, const QString& text)
+{
+    if (level >= Core::Logging::Warning && category == QLatin1String("Cameras"))
+        std::cerr << text.toStdString() << std::endl;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     qInstallMessageHandler(dropMessage);
+    Core::Logging::installLogSink(tellWarning);
     const QCoreApplication application(argc, argv);
     // The viewer's, as grid positions and user sets are shared with it.
     QCoreApplication::setOrganizationName(QStringLiteral("Ostria"));

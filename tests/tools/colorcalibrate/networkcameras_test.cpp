@@ -72,8 +72,21 @@ TEST_F(NetworkCameras, RefuseOptionsThatMeanNothing)
     expectFailure(list("--backend", "other"), 2, {QStringLiteral("--backend")});
     expectFailure(list("--address", "1.2.3"), 2, {QStringLiteral("--address")});
     expectFailure(list("--address", "1.2.3.400"), 2, {QStringLiteral("--address")});
+    expectFailure(list("--address", "255.255.255.255"), 2, {QStringLiteral("--address")});
     expectFailure(list("--packet-size", "5"), 2, {QStringLiteral("--packet-size")});
     expectFailure(list("--address", "127.0.0.9"), 1, {QStringLiteral("127.0.0.9")});
+}
+
+// Which of two would be changed must not be a matter of which answers first.
+TEST_F(NetworkCameras, AreNotChosenByAModelThatTwoHave)
+{
+    const QString before = settings();
+    expectFailure(
+        runTool({QStringLiteral("calibrate"), QStringLiteral("--backend"), QStringLiteral("all"),
+                 QStringLiteral("--interfaces"), QStringLiteral("lo"), QStringLiteral("--camera"),
+                 m_served->modelName()}),
+        1, {QStringLiteral("several cameras"), m_served->displayName()});
+    EXPECT_EQ(settings(), before);
 }
 
 TEST_F(NetworkCameras, AreServedUntilTheProgramIsInterrupted)
