@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+// Tests of how images are sent in packets.
+#include "framesender_p.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <future>
+
+using namespace Cameras::Emulation;
+using namespace std::chrono_literals;
+
+// Five packets of an hour's distance: the first goes, the others must not hold anybody up.
+TEST(FrameSender, EndsWhatIsUnderWayWhenItsTargetChanges)
+{
+    FrameSender sender(
+        std::make_shared<Cameras::UdpSocket>(Cameras::UdpAddress{0x7f000001, 0}, false));
+    sender.setTarget({0x7f000001, 9, 136, 1h});
+    auto sent = std::async(std::launch::async, [&sender] {
+        sender.send(std::make_shared<Ostria::CGrabResult>(
+            Ostria::COstriaImage(Ostria::PixelType::Mono8, 30, 10), 1));
+    });
+    EXPECT_EQ(sent.wait_for(100ms), std::future_status::timeout)
+        << "the packets keep their distance";
+    sender.setTarget({});
+    EXPECT_EQ(sent.wait_for(60s), std::future_status::ready);
+}
+
+TEST(FrameSender, GoesOnWhereItsTargetStaysTheSame)
+{
+    FrameSender sender(
+        std::make_shared<Cameras::UdpSocket>(Cameras::UdpAddress{0x7f000001, 0}, false));
+    const FrameSender::Target target{0x7f000001, 9, 136, 1h};
+    sender.setTarget(target);
+    auto sent = std::async(std::launch::async, [&sender] {
+        sender.send(std::make_shared<Ostria::CGrabResult>(
+            Ostria::COstriaImage(Ostria::PixelType::Mono8, 30, 10), 1));
+    });
+    sender.setTarget(target);
+    EXPECT_EQ(sent.wait_for(100ms), std::future_status::timeout);
+    sender.setTarget({});
+    sent.wait();
+}
