@@ -59,15 +59,15 @@ public:
     /// Writes a backup to the camera; nothing if there is none. True also without an open camera.
     virtual bool RestoreSettingsBackup(bool initialImage) = 0;
 
-    /// Whether the camera may hold other settings than the backup for giving it back, although no
-    /// calibration was written since. Answers for a lost camera, too, until it is closed.
-    virtual bool IsBackupOwed() const = 0;
-
     /// Chooses a monochrome pixel format if the camera has one.
     virtual void ActivateMonoImage() = 0;
 
     /// Signal: the open camera cannot be reached any more.
     virtual void cameraRemoved() = 0;
+
+    /// Whether the camera may hold other settings than the backup for giving it back, although no
+    /// calibration was written since. Answers for a lost camera, too, until it is closed.
+    virtual bool IsBackupOwed() const = 0;
 };
 
 } // namespace ColorCalibration
