@@ -162,6 +162,25 @@ TEST_F(ModelResultsTest, AnotherCameraGetsNoneOfTheFirstOnesResults)
     QImage image;
     EXPECT_FALSE(m_model.GetInitialCameraImage(image));
     EXPECT_FALSE(m_model.SaveSummaryToFile(m_folder.path()));
+    QVector<QColor> colors;
+    EXPECT_EQ(m_model.GetInitialColorPatchValues(colors), 0);
+    ASSERT_EQ(m_model.GetColorPatchValues(colors, true), 24);
+    const QJsonObject patches = m_model.GetCalibrationResultsJson()["Colors"].toObject();
+    ASSERT_EQ(patches.size(), 24);
+    EXPECT_EQ(patches["Patch15"].toObject()["Initial"], "N/A");
+}
+
+TEST_F(ModelResultsTest, AnotherCameraIsNotCalibratedFromTheFirstOnesColors)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    ASSERT_TRUE(m_model.Close());
+    use(newCamera());
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_FALSE(m_model.ExecuteCalibrationAndApply());
+    EXPECT_EQ(writes(), QStringList());
 }
 
 TEST_F(ModelResultsTest, IsNotArmedAfterTheCameraWasClosed)
