@@ -51,7 +51,8 @@ public:
     /// camera.
     virtual bool SetNeutralSettings() = 0;
 
-    /// Keeps the camera's settings in memory. True also without an open camera.
+    /// Keeps the camera's settings in memory. True also without an open camera. Made after a
+    /// calibration that was kept, the backup for giving the camera back replaces those before it.
     /// \param initialImage  which of the two backups: that for the image before calibration, or
     ///                      that for giving the camera back
     virtual bool CreateSettingsBackup(bool initialImage) = 0;
