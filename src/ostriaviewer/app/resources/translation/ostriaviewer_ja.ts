@@ -279,6 +279,25 @@
     </message>
 </context>
 <context>
+    <name>Core::CameraPoolComponents::CameraTexts</name>
+    <message>
+        <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
+        <translation>カメラを開けませんでした。ほかのプログラムでカメラを閉じ、ビューアーで開いてから、もう一度実行してください。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
+        <translation>カメラの元の設定を復元できませんでした。ユーザーセットまたは設定ファイルから読み込んでください。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>カメラの元の設定を復元できませんでした。カメラの接続を確認して、もう一度実行するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>カメラの設定をバックアップできませんでした。カメラの接続を確認して、もう一度実行するか、キャンセルしてください。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraCommands</name>
     <message>
         <source>%1 could not be opened. %2</source>

@@ -279,6 +279,25 @@
     </message>
 </context>
 <context>
+    <name>Core::CameraPoolComponents::CameraTexts</name>
+    <message>
+        <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
+        <translation>카메라를 열지 못했습니다. 다른 프로그램에서 카메라를 닫고 뷰어에서 연 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
+        <translation>카메라의 원래 설정을 복원하지 못했습니다. 사용자 세트 또는 설정 파일에서 불러오십시오.</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>카메라의 원래 설정을 복원하지 못했습니다. 카메라 연결을 확인하고 다시 시도하거나 취소하십시오.</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>카메라의 설정을 백업하지 못했습니다. 카메라 연결을 확인하고 다시 시도하거나 취소하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraCommands</name>
     <message>
         <source>%1 could not be opened. %2</source>

@@ -279,6 +279,25 @@
     </message>
 </context>
 <context>
+    <name>Core::CameraPoolComponents::CameraTexts</name>
+    <message>
+        <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
+        <translation>无法打开相机。请在其他程序中关闭相机，在查看器中打开相机，然后重试。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
+        <translation>无法恢复相机的原始设置。请从用户集或设置文件加载。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>无法恢复相机的原始设置。请检查相机的连接，然后重试或取消。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>无法备份相机的设置。请检查相机的连接，然后重试或取消。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraCommands</name>
     <message>
         <source>%1 could not be opened. %2</source>
