@@ -43,7 +43,7 @@
     <name>Cameras::GenICam::AcquisitionFeatures</name>
     <message>
         <source>The camera could not be asked for another image.</source>
-        <translation>카메라에 다른 이미지를 요청하지 못했습니다.</translation>
+        <translation>카메라에 다음 이미지를 요청하지 못했습니다.</translation>
     </message>
     <message>
         <source>The camera could not be stopped.</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>The acquisition mode could not be put back; set AcquisitionMode to &quot;%1&quot;.</source>
-        <translation>수집 모드를 되돌리지 못했습니다. AcquisitionMode를 &quot;%1&quot;(으)로 설정하십시오.</translation>
+        <translation>획득 모드를 되돌리지 못했습니다. AcquisitionMode를 &quot;%1&quot;(으)로 설정하십시오.</translation>
     </message>
 </context>
 <context>

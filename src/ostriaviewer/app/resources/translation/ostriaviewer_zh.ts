@@ -43,7 +43,7 @@
     <name>Cameras::GenICam::AcquisitionFeatures</name>
     <message>
         <source>The camera could not be asked for another image.</source>
-        <translation>无法向相机请求另一幅图像。</translation>
+        <translation>无法向相机请求下一帧图像。</translation>
     </message>
     <message>
         <source>The camera could not be stopped.</source>
