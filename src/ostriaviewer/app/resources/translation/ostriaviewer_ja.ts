@@ -6,11 +6,11 @@
     <name>Cameras::CameraControlService</name>
     <message>
         <source>The camera is not open.</source>
-        <translation>カメラが開かれていません。</translation>
+        <translation>カメラは開いていません。</translation>
     </message>
     <message>
         <source>The camera is open already.</source>
-        <translation>カメラはすでに開かれています。</translation>
+        <translation>カメラはすでに開いています。</translation>
     </message>
 </context>
 <context>
@@ -93,7 +93,7 @@
     <name>Cameras::GenICam::Feature</name>
     <message>
         <source>the camera answers %1, which is no entry</source>
-        <translation>カメラが返した値 %1 に該当する選択肢がありません</translation>
+        <translation>カメラが返した値%1に該当する選択肢がありません</translation>
     </message>
     <message>
         <source>%1 is not available with the camera&apos;s present settings</source>
@@ -133,19 +133,19 @@
     </message>
     <message>
         <source>%1 is below the minimum %2</source>
-        <translation>%1 は最小値 %2 を下回っています</translation>
+        <translation>%1は最小値%2を下回っています</translation>
     </message>
     <message>
         <source>%1 is above the maximum %2</source>
-        <translation>%1 は最大値 %2 を超えています</translation>
+        <translation>%1は最大値%2を超えています</translation>
     </message>
     <message>
         <source>%1 is not a multiple of %2 above %3</source>
-        <translation>%1 は %3 から%2刻みの値ではありません</translation>
+        <translation>%1は%3から%2刻みの値ではありません</translation>
     </message>
     <message>
         <source>the camera keeps %1 instead of %2</source>
-        <translation>カメラの値が %2 ではなく %1 になっています</translation>
+        <translation>カメラの値が%2ではなく%1になっています</translation>
     </message>
     <message>
         <source>the value is not a finite number</source>
@@ -709,7 +709,7 @@ Model %2, %3</source>
     </message>
     <message>
         <source>%1 x %2 at %3 %</source>
-        <translation>%1 × %2、%3 %</translation>
+        <translation>%1 × %2、%3%</translation>
     </message>
     <message>
         <source>%1 pictures/s</source>

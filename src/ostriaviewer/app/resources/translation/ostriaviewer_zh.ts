@@ -533,7 +533,7 @@ Model %2, %3</source>
     <name>Viewer::FeaturePanel</name>
     <message>
         <source>Filter features</source>
-        <translation>筛选功能</translation>
+        <translation>按名称筛选</translation>
     </message>
     <message>
         <source>Features</source>
@@ -924,7 +924,7 @@ Model %2, %3</source>
     <message numerus="yes">
         <source>Recorded %n picture(s) of %1 in %2. %3 more came too fast to be written, %4 failed in the camera; the numbers of the files show where.</source>
         <translation>
-            <numerusform>已将 %1 的 %n 帧图像录制到 %2。另有 %3 帧因写入速度不足而丢失，%4 帧在相机中失败；从文件编号可以看出缺失的位置。</numerusform>
+            <numerusform>已将 %1 的 %n 帧图像录制到 %2。另有 %3 帧因写入速度不足而丢失，相机端有 %4 帧采集失败；从文件编号可以看出缺失的位置。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -993,19 +993,19 @@ Model %2, %3</source>
     <name>Viewer::ViewerSettings</name>
     <message>
         <source>The settings file %1 cannot be read; the viewer starts with defaults and remembers nothing. Check the file&apos;s permissions.</source>
-        <translation>无法读取设置文件 %1，查看器将以默认值启动，并且不保存任何更改。请检查该文件的权限。</translation>
+        <translation>无法读取设置文件 %1，查看器将以默认设置启动，并且不保存任何更改。请检查该文件的权限。</translation>
     </message>
     <message>
         <source>The settings file is damaged; the viewer starts with defaults. The old file was kept as %1.</source>
-        <translation>设置文件已损坏，查看器将以默认值启动。旧文件已保留为 %1。</translation>
+        <translation>设置文件已损坏，查看器将以默认设置启动。旧文件已保留为 %1。</translation>
     </message>
     <message>
         <source>The settings file %1 is damaged; the viewer starts with defaults and remembers nothing. Remove the file.</source>
-        <translation>设置文件 %1 已损坏，查看器将以默认值启动，并且不保存任何更改。请删除该文件。</translation>
+        <translation>设置文件 %1 已损坏，查看器将以默认设置启动，并且不保存任何更改。请删除该文件。</translation>
     </message>
     <message>
         <source>The settings were written by a newer viewer; this one starts with defaults and leaves them as they are. What you change is forgotten at the end.</source>
-        <translation>设置由更新版本的查看器保存。此查看器将以默认值启动，并保留这些设置不变。您所做的更改在退出时会丢失。</translation>
+        <translation>设置由更新版本的查看器保存。此查看器将以默认设置启动，并保留这些设置不变。您所做的更改在退出时会丢失。</translation>
     </message>
 </context>
 </TS>
