@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 
 #include <algorithm>
 
@@ -16,6 +15,15 @@ bool isKnown(const QString& code)
     const QVector<LanguageName> all = languages();
     return std::any_of(all.begin(), all.end(),
                        [&](const LanguageName& language) { return language.code == code; });
+}
+
+// Simplified and traditional Chinese differ in script and in the words of our trade; readers of one
+// take English for the lesser evil, and find the other in the menu.
+QString codeOf(const QLocale& locale)
+{
+    if (locale.script() == QLocale::TraditionalHanScript)
+        return {};
+    return locale.name().section(QLatin1Char('_'), 0, 0);
 }
 
 // Qt names its Chinese catalogues by country.
@@ -34,10 +42,9 @@ QVector<LanguageName> languages()
             {QStringLiteral("zh"), QStringLiteral("中文")}};
 }
 
-QString startLanguage(const QString& chosen)
+QString startLanguage(const QString& chosen, const QLocale& desktop)
 {
-    const QString desktop = QLocale::system().name().section(QLatin1Char('_'), 0, 0);
-    for (const QString& code : {chosen, desktop})
+    for (const QString& code : {chosen, codeOf(desktop)})
         if (isKnown(code))
             return code;
     return QStringLiteral("en");

@@ -2,6 +2,7 @@
 // The languages of the viewer's texts.
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QTranslator>
 #include <QVector>
@@ -18,8 +19,9 @@ struct LanguageName
 QVector<LanguageName> languages();
 
 /// The language to begin with: what was chosen, else the desktop's if it can be had, else English.
+/// Who reads traditional Chinese begins in English, as the Chinese to be had is simplified.
 /// \param chosen  a code; anything else counts as nothing
-QString startLanguage(const QString& chosen);
+QString startLanguage(const QString& chosen, const QLocale& desktop = QLocale::system());
 
 /// Keeps the catalogues of one language installed. Thread-bound: GUI thread.
 class LanguageCatalogues

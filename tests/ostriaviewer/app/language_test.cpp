@@ -202,6 +202,26 @@ TEST_P(EnglishTest, StandsInForALanguageThatThereIsNot)
     EXPECT_EQ(startLanguage("ko"), "ko");
 }
 
+TEST(StartLanguage, IsTheDesktopsWhereItCanBeHad)
+{
+    for (const auto& [desktop, code] : {std::pair("ja_JP", "ja"),
+                                        {"ko_KR", "ko"},
+                                        {"zh_CN", "zh"},
+                                        {"zh_SG", "zh"},
+                                        {"en_US", "en"},
+                                        {"de_DE", "en"},
+                                        {"C", "en"}})
+        EXPECT_EQ(startLanguage({}, QLocale(desktop)), code) << desktop;
+    EXPECT_EQ(startLanguage("ko", QLocale("ja_JP")), "ko") << "what was chosen comes first";
+}
+
+TEST(StartLanguage, OfTraditionalChineseIsEnglishUnlessChosen)
+{
+    for (const char* desktop : {"zh_TW", "zh_HK", "zh_MO", "zh_Hant_CN"})
+        EXPECT_EQ(startLanguage({}, QLocale(desktop)), "en") << desktop;
+    EXPECT_EQ(startLanguage("zh", QLocale("zh_TW")), "zh");
+}
+
 TEST_P(EnglishTest, CountsOneAndMany)
 {
     startViewer();

@@ -5,14 +5,38 @@
 #include <QRegularExpression>
 
 namespace Translation {
+namespace {
 
-QStringList markup(const QString& text)
+/// \param part  of each match
+QStringList all(const QRegularExpression& form, const QString& text, int part = 0)
 {
-    static const QRegularExpression kept(QStringLiteral("<[^>]+>|%\\d|%n|\\n"));
     QStringList found;
-    QRegularExpressionMatchIterator matches = kept.globalMatch(text);
+    QRegularExpressionMatchIterator matches = form.globalMatch(text);
     while (matches.hasNext())
-        found.append(matches.next().captured());
+        found.append(matches.next().captured(part));
+    return found;
+}
+
+} // namespace
+
+QStringList tags(const QString& text)
+{
+    static const QRegularExpression tag(QStringLiteral("<[^>]+>"));
+    return all(tag, text);
+}
+
+QStringList placeHolders(const QString& text)
+{
+    static const QRegularExpression holder(QStringLiteral("%\\d|%n|\\n"));
+    QStringList found = all(holder, text);
+    found.sort();
+    return found;
+}
+
+QStringList boldTexts(const QString& text)
+{
+    static const QRegularExpression bold(QStringLiteral("<b>([^<]*)</b>"));
+    QStringList found = all(bold, text, 1);
     found.sort();
     return found;
 }

@@ -7,8 +7,14 @@
 
 namespace Translation {
 
-/// Tags, place holders and line breaks of a text, sorted.
-QStringList markup(const QString& text);
+/// Tags of a text, in its order: what opens and closes must not change places.
+QStringList tags(const QString& text);
+
+/// Place holders and line breaks of a text, sorted, as languages differ in the order of words.
+QStringList placeHolders(const QString& text);
+
+/// What stands in bold letters, sorted.
+QStringList boldTexts(const QString& text);
 
 /// How a text ends that is to be pressed with a key: nothing, "&" for a mnemonic, "..." for a
 /// window that follows, or both.

@@ -3,6 +3,7 @@
 #include "ccolorcalibrationplugin.h"
 
 #include "camerasupport.h"
+#include "cameratexts.h"
 #include "iparameterservice.h"
 #include "modalbox.h"
 
@@ -188,8 +189,7 @@ bool CColorCalibrationPlugin::openCamera(const CameraInfoPtr& camera)
         return true;
     QString reason = camera->lastErrorText();
     if (reason.isEmpty())
-        reason = QStringLiteral("The camera could not be opened. Close it in other programs, open "
-                                "it in the viewer, then start the Color Calibrator again.");
+        reason = Core::CameraPoolComponents::CameraTexts::notOpened();
     showModalBox(BoxIcon::Error, tr("Color Calibrator"), reason, QMessageBox::Ok, QMessageBox::Ok,
                  Qt::PlainText);
     camera->clearLastError();

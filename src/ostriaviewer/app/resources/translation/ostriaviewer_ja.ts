@@ -6,11 +6,11 @@
     <name>Cameras::CameraControlService</name>
     <message>
         <source>The camera is not open.</source>
-        <translation>カメラが開かれていません。</translation>
+        <translation>カメラは開いていません。</translation>
     </message>
     <message>
         <source>The camera is open already.</source>
-        <translation>カメラはすでに開かれています。</translation>
+        <translation>カメラはすでに開いています。</translation>
     </message>
 </context>
 <context>
@@ -93,7 +93,7 @@
     <name>Cameras::GenICam::Feature</name>
     <message>
         <source>the camera answers %1, which is no entry</source>
-        <translation>カメラが返した値 %1 に該当する選択肢がありません</translation>
+        <translation>カメラが返した値%1に該当する選択肢がありません</translation>
     </message>
     <message>
         <source>%1 is not available with the camera&apos;s present settings</source>
@@ -133,19 +133,19 @@
     </message>
     <message>
         <source>%1 is below the minimum %2</source>
-        <translation>%1 は最小値 %2 を下回っています</translation>
+        <translation>%1は最小値%2を下回っています</translation>
     </message>
     <message>
         <source>%1 is above the maximum %2</source>
-        <translation>%1 は最大値 %2 を超えています</translation>
+        <translation>%1は最大値%2を超えています</translation>
     </message>
     <message>
         <source>%1 is not a multiple of %2 above %3</source>
-        <translation>%1 は %3 から%2刻みの値ではありません</translation>
+        <translation>%1は%3から%2刻みの値ではありません</translation>
     </message>
     <message>
         <source>the camera keeps %1 instead of %2</source>
-        <translation>カメラの値が %2 ではなく %1 になっています</translation>
+        <translation>カメラの値が%2ではなく%1になっています</translation>
     </message>
     <message>
         <source>the value is not a finite number</source>
@@ -276,6 +276,25 @@
     <message>
         <source>The camera is being used by another part of the program.</source>
         <translation>カメラはこのプログラム内の別の処理で使用されています。</translation>
+    </message>
+</context>
+<context>
+    <name>Core::CameraPoolComponents::CameraTexts</name>
+    <message>
+        <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
+        <translation>カメラを開けませんでした。ほかのプログラムでカメラを閉じ、ビューアーで開いてから、もう一度実行してください。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
+        <translation>カメラの元の設定を復元できませんでした。ユーザーセットまたは設定ファイルから読み込んでください。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>カメラの元の設定を復元できませんでした。カメラの接続を確認して、もう一度実行するか、キャンセルしてください。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>カメラの設定をバックアップできませんでした。カメラの接続を確認して、もう一度実行するか、キャンセルしてください。</translation>
     </message>
 </context>
 <context>
@@ -690,7 +709,7 @@ Model %2, %3</source>
     </message>
     <message>
         <source>%1 x %2 at %3 %</source>
-        <translation>%1 × %2、%3 %</translation>
+        <translation>%1 × %2、%3%</translation>
     </message>
     <message>
         <source>%1 pictures/s</source>

@@ -43,7 +43,7 @@
     <name>Cameras::GenICam::AcquisitionFeatures</name>
     <message>
         <source>The camera could not be asked for another image.</source>
-        <translation>카메라에 다른 이미지를 요청하지 못했습니다.</translation>
+        <translation>카메라에 다음 이미지를 요청하지 못했습니다.</translation>
     </message>
     <message>
         <source>The camera could not be stopped.</source>
@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>The acquisition mode could not be put back; set AcquisitionMode to &quot;%1&quot;.</source>
-        <translation>수집 모드를 되돌리지 못했습니다. AcquisitionMode를 &quot;%1&quot;(으)로 설정하십시오.</translation>
+        <translation>획득 모드를 되돌리지 못했습니다. AcquisitionMode를 &quot;%1&quot;(으)로 설정하십시오.</translation>
     </message>
 </context>
 <context>
@@ -276,6 +276,25 @@
     <message>
         <source>The camera is being used by another part of the program.</source>
         <translation>이 프로그램의 다른 작업에서 카메라를 사용하고 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Core::CameraPoolComponents::CameraTexts</name>
+    <message>
+        <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
+        <translation>카메라를 열지 못했습니다. 다른 프로그램에서 카메라를 닫고 뷰어에서 연 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
+        <translation>카메라의 원래 설정을 복원하지 못했습니다. 사용자 세트 또는 설정 파일에서 불러오십시오.</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>카메라의 원래 설정을 복원하지 못했습니다. 카메라 연결을 확인하고 다시 시도하거나 취소하십시오.</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>카메라의 설정을 백업하지 못했습니다. 카메라 연결을 확인하고 다시 시도하거나 취소하십시오.</translation>
     </message>
 </context>
 <context>

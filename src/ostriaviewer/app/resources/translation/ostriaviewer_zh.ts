@@ -43,7 +43,7 @@
     <name>Cameras::GenICam::AcquisitionFeatures</name>
     <message>
         <source>The camera could not be asked for another image.</source>
-        <translation>无法向相机请求另一幅图像。</translation>
+        <translation>无法向相机请求下一帧图像。</translation>
     </message>
     <message>
         <source>The camera could not be stopped.</source>
@@ -276,6 +276,25 @@
     <message>
         <source>The camera is being used by another part of the program.</source>
         <translation>相机正被本程序的其他任务使用。</translation>
+    </message>
+</context>
+<context>
+    <name>Core::CameraPoolComponents::CameraTexts</name>
+    <message>
+        <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
+        <translation>无法打开相机。请在其他程序中关闭相机，在查看器中打开相机，然后重试。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
+        <translation>无法恢复相机的原始设置。请从用户集或设置文件加载。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>无法恢复相机的原始设置。请检查相机的连接，然后重试或取消。</translation>
+    </message>
+    <message>
+        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>无法备份相机的设置。请检查相机的连接，然后重试或取消。</translation>
     </message>
 </context>
 <context>
@@ -514,7 +533,7 @@ Model %2, %3</source>
     <name>Viewer::FeaturePanel</name>
     <message>
         <source>Filter features</source>
-        <translation>筛选功能</translation>
+        <translation>按名称筛选</translation>
     </message>
     <message>
         <source>Features</source>
@@ -905,7 +924,7 @@ Model %2, %3</source>
     <message numerus="yes">
         <source>Recorded %n picture(s) of %1 in %2. %3 more came too fast to be written, %4 failed in the camera; the numbers of the files show where.</source>
         <translation>
-            <numerusform>已将 %1 的 %n 帧图像录制到 %2。另有 %3 帧因写入速度不足而丢失，%4 帧在相机中失败；从文件编号可以看出缺失的位置。</numerusform>
+            <numerusform>已将 %1 的 %n 帧图像录制到 %2。另有 %3 帧因写入速度不足而丢失，相机端有 %4 帧采集失败；从文件编号可以看出缺失的位置。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -974,19 +993,19 @@ Model %2, %3</source>
     <name>Viewer::ViewerSettings</name>
     <message>
         <source>The settings file %1 cannot be read; the viewer starts with defaults and remembers nothing. Check the file&apos;s permissions.</source>
-        <translation>无法读取设置文件 %1，查看器将以默认值启动，并且不保存任何更改。请检查该文件的权限。</translation>
+        <translation>无法读取设置文件 %1，查看器将以默认设置启动，并且不保存任何更改。请检查该文件的权限。</translation>
     </message>
     <message>
         <source>The settings file is damaged; the viewer starts with defaults. The old file was kept as %1.</source>
-        <translation>设置文件已损坏，查看器将以默认值启动。旧文件已保留为 %1。</translation>
+        <translation>设置文件已损坏，查看器将以默认设置启动。旧文件已保留为 %1。</translation>
     </message>
     <message>
         <source>The settings file %1 is damaged; the viewer starts with defaults and remembers nothing. Remove the file.</source>
-        <translation>设置文件 %1 已损坏，查看器将以默认值启动，并且不保存任何更改。请删除该文件。</translation>
+        <translation>设置文件 %1 已损坏，查看器将以默认设置启动，并且不保存任何更改。请删除该文件。</translation>
     </message>
     <message>
         <source>The settings were written by a newer viewer; this one starts with defaults and leaves them as they are. What you change is forgotten at the end.</source>
-        <translation>设置由更新版本的查看器保存。此查看器将以默认值启动，并保留这些设置不变。您所做的更改在退出时会丢失。</translation>
+        <translation>设置由更新版本的查看器保存。此查看器将以默认设置启动，并保留这些设置不变。您所做的更改在退出时会丢失。</translation>
     </message>
 </context>
 </TS>

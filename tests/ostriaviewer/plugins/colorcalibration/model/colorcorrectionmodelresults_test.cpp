@@ -162,6 +162,25 @@ TEST_F(ModelResultsTest, AnotherCameraGetsNoneOfTheFirstOnesResults)
     QImage image;
     EXPECT_FALSE(m_model.GetInitialCameraImage(image));
     EXPECT_FALSE(m_model.SaveSummaryToFile(m_folder.path()));
+    QVector<QColor> colors;
+    EXPECT_EQ(m_model.GetInitialColorPatchValues(colors), 0);
+    ASSERT_EQ(m_model.GetColorPatchValues(colors, true), 24);
+    const QJsonObject patches = m_model.GetCalibrationResultsJson()["Colors"].toObject();
+    ASSERT_EQ(patches.size(), 24);
+    EXPECT_EQ(patches["Patch15"].toObject()["Initial"], "N/A");
+}
+
+TEST_F(ModelResultsTest, AnotherCameraIsNotCalibratedFromTheFirstOnesColors)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    ASSERT_TRUE(m_model.Close());
+    use(newCamera());
+    ASSERT_TRUE(open());
+    m_camera->features().forget();
+    EXPECT_FALSE(m_model.ExecuteCalibrationAndApply());
+    EXPECT_EQ(writes(), QStringList());
 }
 
 TEST_F(ModelResultsTest, IsNotArmedAfterTheCameraWasClosed)
@@ -257,10 +276,9 @@ TEST_F(ModelResultsTest, ACameraWithoutUserSetsSaysSo)
     m_camera->parameters().addFloat("ExposureTime", 1.0);
     ASSERT_TRUE(open());
     EXPECT_TRUE(m_model.GetAvailableUserSetsJson().isEmpty());
-    ASSERT_EQ(logTexts().size(), 2);
-    EXPECT_EQ(logTexts().first(), "2 Get available usersets failed.");
-    EXPECT_TRUE(
-        logTexts().last().startsWith("2 ColorCorrectionModelImpl::GetAvailableUserSetsJson"));
+    EXPECT_EQ(logTexts(), (QStringList{"2 Get available usersets failed.",
+                                       "2 ColorCorrectionModelImpl::GetAvailableUserSetsJson: "
+                                       "UserSetSelector does not exist"}));
 }
 
 TEST_F(ModelResultsTest, SavingFetchesTheResultsWhereThereAreNone)

@@ -194,6 +194,36 @@ TEST_F(ModelTest, ABackupIsOwedUntilItIsBackWhole)
     EXPECT_TRUE(m_model.IsBackupOwed());
 }
 
+TEST_F(ModelTest, ABackupAfterACalibrationThatWasKeptReplacesTheOneBefore)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    m_camera->parameters().addFloat("Gamma", 7.0);
+    ASSERT_TRUE(m_model.CreateSettingsBackup(true)) << "for the image of before alone";
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    m_camera->features().forget();
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 7.0);
+    EXPECT_EQ(writes().filter("load ").size(), 1);
+    EXPECT_FALSE(m_model.IsBackupOwed());
+}
+
+TEST_F(ModelTest, ABackupForTheImageOfBeforeLeavesTheOtherOneOwed)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(true));
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 0.25);
+}
+
 TEST_F(ModelTest, ALostCameraStillOwesItsBackup)
 {
     ASSERT_TRUE(open());

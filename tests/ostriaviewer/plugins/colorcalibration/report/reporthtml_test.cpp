@@ -3,6 +3,7 @@
 #include "reporthtml.h"
 
 #include "logrecorder.h"
+#include "markingtranslator.h"
 #include "reportdata.h"
 
 #include <QProcess>
@@ -90,6 +91,28 @@ TEST(BuildHtml, PaintsNoRowInTheColorsOfAnotherPatch)
     EXPECT_TRUE(html.contains("tr:nth-child(2){}"));
     EXPECT_TRUE(html.contains("tr:nth-child(3){--initial:" +
                               colors["Patch02"].toObject()["Initial"].toString()));
+}
+
+TEST(BuildHtml, TranslatesTitlesLabelsAndTheTextOnTheLut)
+{
+    const MarkingTranslator translator;
+    const QString html = report("M");
+    static const QRegularExpression title("<h2>(.*)</h2>");
+    QStringList titles;
+    for (auto match = title.globalMatch(html); match.hasNext();)
+        titles << match.next().captured(1);
+    EXPECT_EQ(titles,
+              (QStringList{"QObject:Colors", "QObject:Black Level", "QObject:White Balance",
+                           "QObject:Color Transformation", "QObject:Color Adjustment Hue",
+                           "QObject:Color Adjustment Saturation", "QObject:Gamma",
+                           "QObject:Hue, Saturation, Brightness, Contrast", "QObject:LUT"}));
+    EXPECT_TRUE(html.contains("\nQObject:To use the Color Calibrator, the LUT had to be disabled. "
+                              "Using a LUT and the Color Calibrator at the same time, would "
+                              "adversely affect the color calibration.\n"));
+    EXPECT_EQ(html.count("<th>QObject:Original</th>"), 8)
+        << "a column of the colors, a row of each of seven tables";
+    EXPECT_EQ(html.count("<th>QObject:Current</th>"), 7);
+    EXPECT_EQ(html.count("<th>QObject:Delta E</th>"), 1);
 }
 
 TEST(BuildHtml, StaysWholeWithoutResults)

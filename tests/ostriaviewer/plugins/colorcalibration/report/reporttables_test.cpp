@@ -2,25 +2,13 @@
 // Tests of the report's tables and labels.
 #include "reporttables.h"
 
-#include <QCoreApplication>
-#include <QTranslator>
+#include "markingtranslator.h"
 
 #include <gtest/gtest.h>
 
 using namespace ColorCalibration;
 
 namespace {
-
-/// Puts "<context>:" before every text.
-class MarkingTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return QString(context) + ':' + text;
-    }
-    bool isEmpty() const override { return false; }
-};
 
 std::string table(const QString& key, const QJsonObject& object, const QString& label,
                   bool withHeader)
@@ -45,12 +33,10 @@ TEST(TranslateLabel, KnowsSevenKeysAndReturnsTheOthers)
 
 TEST(TranslateLabel, TranslatesWhatItKnowsInTheCommonContext)
 {
-    MarkingTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    const MarkingTranslator translator;
     EXPECT_EQ(TranslateLabel("Initial"), "QObject:Original");
     EXPECT_EQ(TranslateLabel("Calibrated"), "QObject:Current");
     EXPECT_EQ(TranslateLabel("Current"), "Current") << "a key of its own, and unknown";
-    QCoreApplication::removeTranslator(&translator);
 }
 
 TEST(AppendTable, MakesOneColumnOfAScalar)

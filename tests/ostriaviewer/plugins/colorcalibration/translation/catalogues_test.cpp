@@ -2,6 +2,7 @@
 // The plugin's catalogues: how many messages they have, that all are translated and keep their
 // markup, and that the compiled ones answer.
 #include "cataloguechecks.h"
+#include "markup.h"
 
 #include <QFile>
 #include <QMap>
@@ -24,6 +25,13 @@ QVector<Message> catalogue(const QString& language)
 {
     return Translation::readCatalogue(
         sourceOf(QStringLiteral("translation/ColorCalibration_%1.ts").arg(language)));
+}
+
+QVector<Message> olderCatalogue(const char* language)
+{
+    return Translation::readCatalogue(
+        sourceOf(QStringLiteral("languages/ColorCorrectionToolPlugin_%1.ts")
+                     .arg(QString::fromLatin1(language))));
 }
 
 QMap<QString, int> countsOf(const QVector<Message>& messages)
@@ -86,17 +94,22 @@ TEST_P(Catalogue, NamesAControlInAnExplanationAsTheControlIsNamed)
 {
     QMap<QString, QString> names;
     for (const Message& message : messages())
-        names[message.source] = message.translations.constFirst();
-    const QString explanation =
-        QStringLiteral("Use the slider to compare the colors in the image before and after "
-                       "calibration. Click <b>Save</b> to save all selected files and settings. "
-                       "Click <b>Finish</b> to complete the calibration. If you click "
-                       "<b>Cancel</b>, the original settings will be restored.");
-    ASSERT_TRUE(names.contains(explanation));
-    for (const char* control : {"Save", "Finish", "Cancel"}) {
-        const QString name = names[QString::fromLatin1(control)];
-        EXPECT_TRUE(names[explanation].contains(QStringLiteral("<b>%1</b>").arg(name))) << control;
+        if (message.context == QLatin1String("main"))
+            names[message.source] = message.translations.constFirst();
+    QStringList named;
+    for (auto text = names.cbegin(); text != names.cend(); ++text) {
+        QStringList expected;
+        for (const QString& control : Translation::boldTexts(text.key())) {
+            named.append(control);
+            expected.append(names.value(control));
+        }
+        expected.sort();
+        EXPECT_EQ(Translation::boldTexts(text.value()), expected) << text.key().toStdString();
     }
+    named.removeDuplicates();
+    named.sort();
+    EXPECT_EQ(named.join(QStringLiteral(", ")).toStdString(),
+              "Auto, Calibration Reports, Cancel, Exposure Time, Finish, Gain, Next, Save");
 }
 
 TEST_P(Catalogue, AnswersWhenCompiledAsItsSourceSays)
@@ -140,7 +153,19 @@ TEST(Catalogues, KeepTheOlderSetWithAnEmptyGermanOne)
             QFile::exists(QStringLiteral(":/ColCal/languages/ColorCorrectionToolPlugin_%1.qm")
                               .arg(QString::fromLatin1(language))))
             << language;
-    EXPECT_TRUE(Translation::readCatalogue(
-                    sourceOf(QStringLiteral("languages/ColorCorrectionToolPlugin_de.ts")))
-                    .isEmpty());
+    for (const char* language : {"de", "en"})
+        EXPECT_TRUE(olderCatalogue(language).isEmpty()) << language;
+}
+
+TEST_P(Catalogue, OfTheOlderSetHasItsTwoContexts)
+{
+    const QVector<Message> older = olderCatalogue(GetParam());
+    const QMap<QString, int> expected{{QStringLiteral("ColorCorrectionToolPlugin"), 2},
+                                      {QStringLiteral("functions"), 4}};
+    EXPECT_EQ(countsOf(older), expected);
+    Translation::expectAllTranslated(older);
+    Translation::expectMarkupKept(older);
+    Translation::expectCompiled(
+        older,
+        QStringLiteral(":/ColCal/languages/ColorCorrectionToolPlugin_%1.qm").arg(language()));
 }

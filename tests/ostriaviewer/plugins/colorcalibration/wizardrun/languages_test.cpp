@@ -134,6 +134,34 @@ TEST_P(WizardLanguage, ShowsEveryTextWhole)
     });
 }
 
+class JapaneseWizard : public WizardLanguage
+{};
+
+// The pages have the very same sentence in Japanese: the script's is in no catalogue.
+TEST_P(JapaneseWizard, TellsAFailedRecalibrationInEnglish)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    const QStringList before = settings();
+    run([&] {
+        ASSERT_NO_FATAL_FAILURE(goTo(3));
+        EXPECT_EQ(QCoreApplication::translate("Progress", "Unable to set neutral settings."),
+                  QString("ニュートラル設定を適用できませんでした。"));
+        m_camera->refuseWrites("Gamma");
+        click("recalibrateButton");
+        ASSERT_TRUE(waitFor([] { return box() != nullptr; }));
+        EXPECT_EQ(box()->windowTitle(), "カラーキャリブレーター");
+        EXPECT_EQ(box()->text(), "Unable to set neutral settings.");
+        m_camera->refuseWrites("Gamma", -1);
+        QTest::keyClick(box(), Qt::Key_Escape);
+        ASSERT_TRUE(waitFor([] { return box() == nullptr; }));
+        click("cancelButton");
+        confirm();
+    });
+    EXPECT_EQ(settings(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(WizardRun, JapaneseWizard, testing::Values("ja"));
+
 INSTANTIATE_TEST_SUITE_P(WizardRun, WizardLanguage, testing::Values("en", "ja", "ko", "zh"),
                          [](const auto& each) { return std::string(each.param); });
 

@@ -118,6 +118,10 @@ public:
     /// Whether the camera may hold other settings than the backup with which it is given back,
     /// although no calibration was written since.
     Q_INVOKABLE bool isBackupOwed() const;
+
+    /// Texts for people, in their language: a backup could not be written to the camera, or made.
+    Q_INVOKABLE QString restoreProblem() const;
+    Q_INVOKABLE QString backupProblem() const;
     Q_INVOKABLE bool restoreDetectedExposureAndGain();
     Q_INVOKABLE bool storeDetectedExposureAndGain();
 

@@ -3,6 +3,7 @@
 #include "qmldatamodelinterface.h"
 
 #include "baseexception.h"
+#include "cameratexts.h"
 #include "colorcorrectionmodel.h"
 #include "guarded.h"
 #include "originalimageprovider.h"
@@ -16,6 +17,8 @@
 
 #include <algorithm>
 #include <optional>
+
+using Core::CameraPoolComponents::CameraTexts;
 
 namespace ColorCalibration {
 namespace {
@@ -33,12 +36,6 @@ public:
 QString compactText(const QJsonObject& object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-QString notRestored()
-{
-    return QStringLiteral("The camera's original settings couldn’t be restored. Load them from a "
-                          "user set or a settings file.");
 }
 
 } // namespace
@@ -84,7 +81,7 @@ void QmlDataModelInterface::giveSettingsBack()
 {
     m_model->StopGrabbing();
     if (!restoreSettingsBackup(false) || isBackupOwed())
-        m_restoreFailure = notRestored();
+        m_restoreFailure = CameraTexts::settingsNotRestored();
 }
 
 QString QmlDataModelInterface::takeRestoreFailure()
@@ -99,8 +96,8 @@ void QmlDataModelInterface::finish()
     m_model->StopGrabbing();
     // What a calibration that failed has left must not pass for the result of one.
     if (isBackupOwed()) {
-        LogMessage(notRestored(), Core::Logging::Error);
-        m_restoreFailure = notRestored();
+        LogMessage(CameraTexts::settingsNotRestored(), Core::Logging::Error);
+        m_restoreFailure = CameraTexts::settingsNotRestored();
     }
     emit signalFinished();
 }
@@ -158,7 +155,7 @@ bool QmlDataModelInterface::restoreSettingsBackup(bool intialImage)
 {
     const bool restored = m_model->RestoreSettingsBackup(intialImage);
     if (!intialImage && (!restored || isBackupOwed()))
-        LogMessage(notRestored(), Core::Logging::Error);
+        LogMessage(CameraTexts::settingsNotRestored(), Core::Logging::Error);
     return restored;
 }
 
@@ -167,13 +164,21 @@ bool QmlDataModelInterface::isBackupOwed() const
     return m_model->IsBackupOwed();
 }
 
+QString QmlDataModelInterface::restoreProblem() const
+{
+    return CameraTexts::settingsNotRestoredYet();
+}
+
+QString QmlDataModelInterface::backupProblem() const
+{
+    return CameraTexts::settingsNotBackedUp();
+}
+
 bool QmlDataModelInterface::createSettingsBackup(bool intialImage)
 {
     const bool created = m_model->CreateSettingsBackup(intialImage);
     if (!created)
-        LogMessage(QStringLiteral("The camera's settings couldn’t be backed up, so the calibration "
-                                  "can't begin. Check the connection of the camera."),
-                   Core::Logging::Error);
+        LogMessage(CameraTexts::settingsNotBackedUp(), Core::Logging::Error);
     return created;
 }
 

@@ -102,11 +102,11 @@ Item {
         camera.stopGrab()
         // A backup of the neutral, gray state would be of no use.
         if (qmlModelInterface.isBackupOwed() && !qmlModelInterface.restoreSettingsBackup())
-            return fail("The camera's original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.")
+            return fail(qmlModelInterface.restoreProblem())
         // The first backup is what Cancel goes back to, the second takes the pictures of before and
         // after.
         if (!qmlModelInterface.createSettingsBackup() || !qmlModelInterface.createSettingsBackup(true))
-            return fail("The camera's settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.")
+            return fail(qmlModelInterface.backupProblem())
         if (initStep2())
             return true
         // The next attempt makes its backup of what the camera holds then.

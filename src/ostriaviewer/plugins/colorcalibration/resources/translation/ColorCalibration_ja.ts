@@ -97,11 +97,11 @@
     </message>
     <message>
         <source>Color Adjustment Hue</source>
-        <translation>色調整の色相</translation>
+        <translation>色調整：色相</translation>
     </message>
     <message>
         <source>Color Adjustment Saturation</source>
-        <translation>色調整の彩度</translation>
+        <translation>色調整：彩度</translation>
     </message>
     <message>
         <source>Color Transformation</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Current</source>
-        <translation>現在</translation>
+        <translation>現在の値</translation>
     </message>
     <message>
         <source>Delta C</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Target</source>
-        <translation>目標</translation>
+        <translation>目標値</translation>
     </message>
     <message>
         <source>White Balance</source>
@@ -179,11 +179,11 @@
     </message>
     <message>
         <source>Color Adjustment Hue</source>
-        <translation>色調整の色相</translation>
+        <translation>色調整：色相</translation>
     </message>
     <message>
         <source>Color Adjustment Saturation</source>
-        <translation>色調整の彩度</translation>
+        <translation>色調整：彩度</translation>
     </message>
     <message>
         <source>Color Transformation</source>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>Current</source>
-        <translation>現在</translation>
+        <translation>現在の値</translation>
     </message>
     <message>
         <source>Delta C</source>
@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>Target</source>
-        <translation>目標</translation>
+        <translation>目標値</translation>
     </message>
     <message>
         <source>White Balance</source>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Current</source>
-        <translation>현재</translation>
+        <translation>현재 값</translation>
     </message>
     <message>
         <source>Delta C</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Target</source>
-        <translation>목표</translation>
+        <translation>목표 값</translation>
     </message>
     <message>
         <source>White Balance</source>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>Current</source>
-        <translation>현재</translation>
+        <translation>현재 값</translation>
     </message>
     <message>
         <source>Delta C</source>
@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>Target</source>
-        <translation>목표</translation>
+        <translation>목표 값</translation>
     </message>
     <message>
         <source>White Balance</source>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>Current</source>
-        <translation>当前</translation>
+        <translation>当前值</translation>
     </message>
     <message>
         <source>Delta C</source>
@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>Target</source>
-        <translation>目标</translation>
+        <translation>目标值</translation>
     </message>
     <message>
         <source>White Balance</source>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>Current</source>
-        <translation>当前</translation>
+        <translation>当前值</translation>
     </message>
     <message>
         <source>Delta C</source>
@@ -271,7 +271,7 @@
     </message>
     <message>
         <source>Target</source>
-        <translation>目标</translation>
+        <translation>目标值</translation>
     </message>
     <message>
         <source>White Balance</source>
@@ -436,11 +436,11 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Save settings as default</source>
-        <translation>将设置保存为默认值</translation>
+        <translation>将设置保存为默认设置</translation>
     </message>
     <message>
         <source>Save settings as default.</source>
-        <translation>将设置保存为默认值。</translation>
+        <translation>将设置保存为默认设置。</translation>
     </message>
     <message>
         <source>Calibration Reports</source>

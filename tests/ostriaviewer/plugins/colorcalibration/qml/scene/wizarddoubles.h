@@ -66,6 +66,8 @@ public:
     Q_INVOKABLE bool createSettingsBackup(bool intialImage = false);
     Q_INVOKABLE bool restoreSettingsBackup(bool intialImage = false);
     Q_INVOKABLE bool isBackupOwed() const { return m_backupOwed; }
+    Q_INVOKABLE QString restoreProblem() const { return QStringLiteral("not restored"); }
+    Q_INVOKABLE QString backupProblem() const { return QStringLiteral("not backed up"); }
     Q_INVOKABLE bool loadSettings(const QString& path);
     Q_INVOKABLE bool setNeutralSettings() { return m_log.note("setNeutralSettings()"); }
     Q_INVOKABLE bool executeWhitebalance() { return m_log.note("executeWhitebalance()"); }

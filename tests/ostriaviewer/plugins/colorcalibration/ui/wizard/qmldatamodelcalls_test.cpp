@@ -11,11 +11,27 @@
 #include <QJsonArray>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
 namespace ColorCalibration {
 namespace {
+
+/// Puts texts on cameras into brackets.
+class InBrackets : public QTranslator
+{
+public:
+    InBrackets() { QCoreApplication::installTranslator(this); }
+    ~InBrackets() override { QCoreApplication::removeTranslator(this); }
+    QString translate(const char* context, const char* text, const char*, int) const override
+    {
+        if (QString(context) != "Core::CameraPoolComponents::CameraTexts")
+            return {};
+        return QString("[%1]").arg(text);
+    }
+    bool isEmpty() const override { return false; }
+};
 
 class QmlDataModelCallsTest : public testing::Test
 {
@@ -29,6 +45,12 @@ protected:
     void callVoid(const char* name)
     {
         EXPECT_TRUE(QMetaObject::invokeMethod(&m_data, name)) << name;
+    }
+    QString text(const char* name)
+    {
+        QString result;
+        EXPECT_TRUE(QMetaObject::invokeMethod(&m_data, name, Q_RETURN_ARG(QString, result)));
+        return result;
     }
     QStringList logTexts() const
     {
@@ -65,6 +87,22 @@ TEST_F(QmlDataModelCallsTest, AnswersAreTheModels)
     callVoid("activateMonoImage");
     EXPECT_EQ(m_model.takeCalls(), QStringList("ActivateMonoImage"));
     callVoid("disableAutoFunctions");
+}
+
+TEST_F(QmlDataModelCallsTest, TellsInTheUsersLanguageWhatFailsWithTheSettings)
+{
+    const InBrackets translator;
+    EXPECT_EQ(text("restoreProblem"), "[The camera's original settings couldn’t be restored. Check "
+                                      "the connection of the camera and try again, or cancel.]");
+    EXPECT_EQ(text("backupProblem"), "[The camera's settings couldn’t be backed up. Check the "
+                                     "connection of the camera and try again, or cancel.]");
+    m_model.refused = {"CreateSettingsBackup", "RestoreSettingsBackup"};
+    call("createSettingsBackup");
+    callVoid("cancel");
+    const QString notRestored = "[The camera's original settings couldn’t be restored. Load them "
+                                "from a user set or a settings file.]";
+    EXPECT_EQ(logTexts(), (QStringList{"3 " + text("backupProblem"), "3 " + notRestored}));
+    EXPECT_EQ(m_data.takeRestoreFailure(), notRestored);
 }
 
 TEST_F(QmlDataModelCallsTest, BackupsAreThoseForGivingTheCameraBackUnlessSaidOtherwise)

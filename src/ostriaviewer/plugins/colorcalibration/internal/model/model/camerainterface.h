@@ -51,7 +51,8 @@ public:
     /// camera.
     virtual bool SetNeutralSettings() = 0;
 
-    /// Keeps the camera's settings in memory. True also without an open camera.
+    /// Keeps the camera's settings in memory. True also without an open camera. Made after a
+    /// calibration that was kept, the backup for giving the camera back replaces those before it.
     /// \param initialImage  which of the two backups: that for the image before calibration, or
     ///                      that for giving the camera back
     virtual bool CreateSettingsBackup(bool initialImage) = 0;
@@ -59,15 +60,15 @@ public:
     /// Writes a backup to the camera; nothing if there is none. True also without an open camera.
     virtual bool RestoreSettingsBackup(bool initialImage) = 0;
 
-    /// Whether the camera may hold other settings than the backup for giving it back, although no
-    /// calibration was written since. Answers for a lost camera, too, until it is closed.
-    virtual bool IsBackupOwed() const = 0;
-
     /// Chooses a monochrome pixel format if the camera has one.
     virtual void ActivateMonoImage() = 0;
 
     /// Signal: the open camera cannot be reached any more.
     virtual void cameraRemoved() = 0;
+
+    /// Whether the camera may hold other settings than the backup for giving it back, although no
+    /// calibration was written since. Answers for a lost camera, too, until it is closed.
+    virtual bool IsBackupOwed() const = 0;
 };
 
 } // namespace ColorCalibration

@@ -93,6 +93,9 @@ public:
     /// To be told before settings change that the normal backup is to bring back.
     void OweBackup();
 
+    /// What the camera holds now is what the user wants; earlier normal backups are settled.
+    void ForgetOwedBackup();
+
     /// \return  whether the camera may hold other settings than a normal backup that was made
     bool IsBackupOwed() const;
 

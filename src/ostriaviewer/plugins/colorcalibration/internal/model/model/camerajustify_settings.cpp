@@ -68,6 +68,11 @@ void CameraJustify::OweBackup()
         m_owedBackup = m_backup;
 }
 
+void CameraJustify::ForgetOwedBackup()
+{
+    m_owedBackup.clear();
+}
+
 bool CameraJustify::IsBackupOwed() const
 {
     return !m_owedBackup.isEmpty();

@@ -55,8 +55,8 @@ public:
     bool SetNeutralSettings() override;
     bool CreateSettingsBackup(bool initialImage) override;
     bool RestoreSettingsBackup(bool initialImage) override;
-    bool IsBackupOwed() const override;
     void ActivateMonoImage() override;
+    bool IsBackupOwed() const override;
 
     bool AutoAdjustGray80PercentPatch() override;
     TrapezoidPoints GetGridPosition() override;

@@ -121,6 +121,8 @@ void ColorCorrectionModelImpl::openHandle(const CameraPtr& camera)
     // What belongs to the camera before.
     m_latestImage = Image();
     m_initialImage = Image();
+    m_initialColors.clear();
+    m_neutralColors.clear();
     m_currentColors.clear();
     m_detectedGain = -1.0;
     m_detectedExposure = -1.0;

@@ -167,6 +167,9 @@ bool ColorCorrectionModelImpl::CreateSettingsBackup(bool initialImage)
                            return true;
                        m_imageCamera->StopGrabbing();
                        justify().CreateBackup(initialImage);
+                       // The settings from before a calibration that was kept are owed no more.
+                       if (!initialImage && m_isCalibrationKept)
+                           justify().ForgetOwedBackup();
                        return true;
                    });
 }

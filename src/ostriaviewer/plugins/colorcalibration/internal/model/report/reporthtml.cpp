@@ -6,7 +6,6 @@
 #include "reporttables.h"
 #include "swatches.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QObject>
 #include <QStringList>

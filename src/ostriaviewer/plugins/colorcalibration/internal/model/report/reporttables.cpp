@@ -4,7 +4,6 @@
 
 #include "rgbtext.h"
 
-#include <QCoreApplication>
 #include <QObject>
 
 #include <array>
