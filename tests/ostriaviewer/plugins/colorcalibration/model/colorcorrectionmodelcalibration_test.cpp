@@ -267,6 +267,25 @@ TEST_F(ModelCalibrationTest, WhiteBalanceFailsWhereNothingCanBeMeasured)
     }
 }
 
+TEST_F(ModelCalibrationTest, WhiteBalanceWithoutAnImageSaysSo)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    // Longer on its way than the first image may be.
+    m_camera->delivery = Delivery::Never;
+    m_camera->features().forget();
+    EXPECT_FALSE(m_model.ExecuteWhitebalance());
+    EXPECT_TRUE(writes().isEmpty());
+    EXPECT_EQ(logTexts(),
+              (QStringList{"2 Whitebalance failed!",
+                           "2 ColorCorrectionModelImpl::ExecuteWhitebalance:The camera delivered "
+                           "no image in time, so there was nothing to measure. Check its cable, "
+                           "trigger and exposure time, and try again; the first image has 200 ms, "
+                           "each later one 5 s."}));
+    m_camera->delivery = Delivery::AtOnce;
+    EXPECT_TRUE(m_model.ExecuteWhitebalance());
+}
+
 TEST_F(ModelCalibrationTest, CalibrationWritesItsOutcomeInOrder)
 {
     ASSERT_TRUE(open());

@@ -142,6 +142,10 @@ private:
 
     bool grabAndMeasure(Image& target, bool triggered);
     int collectColors(QVector<QColor>& out, bool grabImage);
+
+    /// Without one there is nothing to compute from, and the numbers would blame the chart.
+    /// \throws Core::Exception::BaseException  none has come since settings changed
+    void requireImage() const;
     void writeCalibration();
     QJsonArray userSets() const;
     QJsonObject collectResults();
