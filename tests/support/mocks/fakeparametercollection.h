@@ -84,7 +84,18 @@ public:
 
     Core::ParameterCollection::ParameterPtr parameter(const QString& name) override
     {
-        return floatParameter(name);
+        switch (m_features->get(resolve(name)).kind) {
+        case FakeKind::Integer:
+            return integerParameter(name);
+        case FakeKind::Boolean:
+            return booleanParameter(name);
+        case FakeKind::Enumeration:
+            return enumerationParameter(name);
+        case FakeKind::Command:
+            return commandParameter(name);
+        default:
+            return floatParameter(name);
+        }
     }
     Core::ParameterCollection::FloatParameterPtr floatParameter(const QString& name) override
     {
@@ -117,13 +128,17 @@ public:
         return nextVersions.isEmpty() ? m_version : nextVersions.takeFirst();
     }
 
-    /// One "name<tab>value" a line, by name.
+    /// One "name<tab>value" a line, by name, booleans as 0 or 1; without what cannot be read or
+    /// written now.
     void saveFeatures(QString& out, const QString& nodeMap) override
     {
         m_features->announce(QStringLiteral("save %1").arg(nodeMap));
         m_features->record(QStringLiteral("save %1").arg(nodeMap));
-        for (const QString& name : m_features->names())
-            out += QStringLiteral("%1\t%2\n").arg(name, m_features->get(name).value.toString());
+        for (const QString& name : m_features->names()) {
+            const FakeFeature feature = m_features->get(name);
+            if (feature.readable && feature.writable)
+                out += QStringLiteral("%1\t%2\n").arg(name, textOf(feature));
+        }
     }
 
     void loadFeatures(const QString& text, QString& errors, const QString& nodeMap) override
@@ -132,7 +147,8 @@ public:
         m_features->record(QStringLiteral("load %1: %2").arg(nodeMap, text));
         for (const QString& line : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
             const QString name = line.section(QLatin1Char('\t'), 0, 0);
-            if (m_features->contains(name))
+            const FakeFeature before = m_features->get(name);
+            if (m_features->contains(name) && before.writable && !before.refuses)
                 m_features->change(name, [&line](FakeFeature& feature) {
                     feature.value = line.section(QLatin1Char('\t'), 1);
                 });
@@ -142,6 +158,13 @@ public:
     }
 
 private:
+    static QString textOf(const FakeFeature& feature)
+    {
+        if (feature.kind != FakeKind::Boolean)
+            return feature.value.toString();
+        return QLatin1String(feature.value.toBool() ? "1" : "0");
+    }
+
     /// The first alternative that exists, or the first of all, without its node map.
     QString resolve(const QString& name) const
     {

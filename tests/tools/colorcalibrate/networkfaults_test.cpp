@@ -6,6 +6,8 @@
 #include "genicamcamera.h"
 #include "networkcameras.h"
 
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QProcess>
 #include <QSet>
 
@@ -203,6 +205,37 @@ TEST_F(NetworkCameras, AreCalibratedWithoutAMatrixAndTheUserIsTold)
               "The camera has no color matrix, so the computed one is not in the camera, and its "
               "colors stay less exact than they could be.\n");
     EXPECT_EQ(outcome.code, 0);
+}
+
+// The diagonal is what is left of 1, which is what the camera has.
+TEST_F(NetworkCameras, AreCalibratedWithoutTheGainsThatTheyRefuseAndEachIsTold)
+{
+    setExposure(20000.0);
+    m_served->refuseWrites(QStringLiteral("ColorTransformationValue"));
+    const Outcome outcome = runTool(
+        atAddress("calibrate") + QStringList{QStringLiteral("--exposure"), QStringLiteral("keep")});
+    EXPECT_EQ(outcome.code, 0);
+    QStringList gains;
+    for (const QString& line : QString::fromStdString(outcome.err).split(QLatin1Char('\n'))) {
+        EXPECT_TRUE(line.isEmpty() ||
+                    line.contains(QLatin1String(" of the color matrix: it keeps 0 instead of ")))
+            << line.toStdString();
+        gains += line.section(QLatin1Char(' '), 3, 3);
+    }
+    EXPECT_EQ(gains, (QStringList{QStringLiteral("Gain01"), QStringLiteral("Gain02"),
+                                  QStringLiteral("Gain10"), QStringLiteral("Gain12"),
+                                  QStringLiteral("Gain20"), QStringLiteral("Gain21"), QString()}));
+    const QJsonObject json =
+        QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).object();
+    EXPECT_NE(json[QLatin1String("colorMatrix")].toArray()[0].toArray()[1].toDouble(), 0.0)
+        << "as computed";
+    EXPECT_EQ(json[QLatin1String("results")]
+                  .toObject()[QLatin1String("Calibrated")]
+                  .toObject()[QLatin1String("Matrix")]
+                  .toObject()[QLatin1String("Gain01")]
+                  .toString(),
+              QStringLiteral("0"))
+        << "as the camera has it";
 }
 
 TEST_F(NetworkCameras, HaveTheirSettingsBackWhenTheProgramIsInterrupted)

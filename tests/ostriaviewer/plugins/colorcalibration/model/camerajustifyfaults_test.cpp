@@ -245,6 +245,23 @@ TEST(CameraJustifyMatrix, TellsOfAGainThatTheCameraRefuses)
                   "The camera refuses Gain01 of the color matrix: it keeps 0.25 instead of 1.5."});
 }
 
+TEST(CameraJustifyMatrix, TellsNothingOfARefusedGainThatTheCameraHas)
+{
+    const LogRecorder log;
+    const auto camera = newCamera();
+    camera->features().change("ColorTransformationValue", [](FakeFeature& value) {
+        value.value = 0.0;
+        value.refuses = true;
+    });
+    CameraJustify justify(camera);
+    writeIdentity(justify);
+    EXPECT_EQ(
+        warningsOf(log),
+        (QStringList{"The camera refuses Gain00 of the color matrix: it keeps 0 instead of 1.",
+                     "The camera refuses Gain11 of the color matrix: it keeps 0 instead of 1.",
+                     "The camera refuses Gain22 of the color matrix: it keeps 0 instead of 1."}));
+}
+
 TEST(CameraJustifyMatrix, ClaimsNoValueThatItCannotRead)
 {
     const LogRecorder log;

@@ -156,6 +156,35 @@ TEST_F(ModelTest, ASettingThatDoesNotComeBackIsTold)
     EXPECT_EQ(logTexts(), QStringList("2 A setting of the camera did not come back: Gamma\t0.25"));
 }
 
+TEST_F(ModelTest, ASettingThatTheCameraRefusesButHasIsNeitherToldNorOwed)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.CreateSettingsBackup(true));
+    ASSERT_TRUE(m_model.SetNeutralSettings());
+    m_camera->features().change("PixelFormat", [](FakeFeature& one) { one.refuses = true; });
+    m_camera->features().change("Width", [](FakeFeature& one) { one.writable = false; });
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(true));
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_FALSE(m_model.IsBackupOwed());
+    EXPECT_EQ(logTexts(), QStringList());
+}
+
+TEST_F(ModelTest, OnlyWhatDiffersIsToldOfWhatTheCameraRefuses)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    for (const char* name : {"Gamma", "PixelFormat"})
+        m_camera->features().change(name, [](FakeFeature& one) { one.refuses = true; });
+    m_camera->features().change("Gamma", [](FakeFeature& one) { one.value = 1.0; });
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(logTexts(), QStringList("2 A setting of the camera did not come back: Gamma\t0.25"));
+    EXPECT_TRUE(m_model.IsBackupOwed());
+    m_camera->features().change("Gamma", [](FakeFeature& one) { one.value = 0.25; });
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_FALSE(m_model.IsBackupOwed()) << "it has come back by itself";
+}
+
 TEST_F(ModelTest, ASettingThatDidNotComeBackComesWithALaterBackup)
 {
     ASSERT_TRUE(open());

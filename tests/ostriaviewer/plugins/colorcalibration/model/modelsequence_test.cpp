@@ -100,7 +100,8 @@ protected:
                                           "Failed to restore old grid position."};
         static const QRegularExpression function(
             "^ColorCorrectionModelImpl::\\w+: ?(fault of the test|The camera is closed.*|The "
-            "measured colors give no usable \\w+, .*|\\w+ (refuses to be written|cannot be "
+            "measured colors give no usable \\w+, .*|The camera delivered no image in time, "
+            ".*|\\w+ (refuses to be written|cannot be "
             "read))$");
         static const QRegularExpression refusedGain(
             "^The camera (refuses|cannot select|does not tell) Gain[0-2][0-2] of the "

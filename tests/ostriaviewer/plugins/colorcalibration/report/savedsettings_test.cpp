@@ -201,6 +201,59 @@ TEST_F(SettingsFile, LeavesNothingBetweenTwoStatesWithoutAWord)
     }
 }
 
+class RestoredSettings : public SettingsFile
+{
+protected:
+    void SetUp() override
+    {
+        SettingsFile::SetUp();
+        ASSERT_TRUE(m_calibration.model().CreateSettingsBackup(false));
+        ASSERT_TRUE(m_calibration.model().SetNeutralSettings());
+        ASSERT_TRUE(m_calibration.model().IsBackupOwed());
+    }
+
+    bool restoreLeavesNothing()
+    {
+        return m_calibration.model().RestoreSettingsBackup(false) &&
+               !m_calibration.model().IsBackupOwed();
+    }
+};
+
+TEST_F(RestoredSettings, AreBackWhereTheCameraRefusesWhatItHas)
+{
+    for (const char* name : {"Gamma", "PixelFormat", "BalanceRatio", "BalanceRatioSelector"})
+        m_calibration.camera()->refuseWrites(name);
+    EXPECT_TRUE(restoreLeavesNothing());
+    EXPECT_EQ(logTexts(), QStringList());
+}
+
+TEST_F(RestoredSettings, AreOwedWhereOnePositionOfASelectorDiffers)
+{
+    select("BalanceRatioSelector", "Blue");
+    m_calibration.camera()->parameterCollection()->floatParameter("BalanceRatio")->setValue(1.5);
+    select("BalanceRatioSelector", "Red");
+    m_calibration.camera()->refuseWrites("BalanceRatio");
+    EXPECT_FALSE(restoreLeavesNothing());
+    EXPECT_FALSE(logTexts().isEmpty());
+    m_calibration.camera()->refuseWrites("BalanceRatio", -1);
+    EXPECT_TRUE(restoreLeavesNothing());
+    select("BalanceRatioSelector", "Blue");
+    EXPECT_EQ(number("BalanceRatio"), 1.0);
+}
+
+TEST_F(RestoredSettings, AreToldOfWhereTheyDifferAlone)
+{
+    // It locks the exposure time, which the camera keeps.
+    m_calibration.camera()
+        ->parameterCollection()
+        ->enumerationParameter("ExposureAuto")
+        ->setValue("Continuous");
+    m_calibration.camera()->refuseWrites("ExposureAuto");
+    EXPECT_FALSE(restoreLeavesNothing());
+    ASSERT_EQ(logTexts().size(), 1) << logTexts().join('\n').toStdString();
+    EXPECT_TRUE(logTexts().first().contains("ExposureAuto"));
+}
+
 TEST(SavedUserSet, IsListedStoredAndComesUpWithTheNextOpening)
 {
     EmulatedCalibration calibration(Names::SecondGeneration);

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QRecursiveMutex>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <atomic>
@@ -85,9 +86,9 @@ public:
     /// \param initial  which of the two backups
     void CreateBackup(bool initial);
 
-    /// Writes a backup to the camera; nothing if it is empty. What the camera refuses is logged.
-    /// A normal backup stays owed until it has come back whole, and is written again with the next
-    /// one, whenever that was made.
+    /// Writes a backup to the camera; nothing if it is empty. What the camera refuses is logged
+    /// unless it has the wanted value all the same. A normal backup stays owed until it has come
+    /// back whole, and is written again with the next one, whenever that was made.
     void RestoreBackup(bool initial);
 
     /// To be told before settings change that the normal backup is to bring back.
@@ -139,9 +140,10 @@ private:
 
     Core::ParameterCollection::ParameterCollectionPtr parameters() const;
     QString& backup(bool initial);
-    /// Logs a remark on each line that the camera refused.
-    /// \return  false if there are such lines
-    bool applyFeatures(const QString& text, const char* remark);
+    /// \return  a line for each that the camera refused
+    QStringList applyFeatures(const QString& text);
+    /// \return  false if the camera has other settings than the backup's
+    bool bringBack(const QString& backup);
     /// \return  empty if it cannot be read
     QString presentEntry(const QString& name) const;
     /// \param entry  empty: nothing to do

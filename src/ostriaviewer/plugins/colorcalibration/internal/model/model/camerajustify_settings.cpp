@@ -5,6 +5,7 @@
 #include "baseexception.h"
 #include "genicamexception.h"
 #include "logging.h"
+#include "refusedlines.h"
 #include "reportfailure.h"
 
 #include <QStringList>
@@ -21,8 +22,6 @@ const QString cameraNodeMap = QStringLiteral("@CameraDevice");
 const QString setSelectorName = QStringLiteral("UserSetSelector");
 const QString startSetName = QStringLiteral("UserSetDefault");
 
-const char* const restoreRemark = "A setting of the camera did not come back: %1";
-
 /// More than any camera's settings file has lines that could be wrong, and few enough to read.
 constexpr int mostRemarks = 200;
 
@@ -30,6 +29,16 @@ void warn(const QString& text)
 {
     static const Core::Logging::CatId category = Core::Logging::getCatId(adapterLogCategory());
     Core::Logging::createLogEntry(Core::Logging::Warning, category, text);
+}
+
+/// \param remark  with a place for the line
+void warnOfLines(const QStringList& lines, const char* remark)
+{
+    for (const QString& line : lines.mid(0, mostRemarks))
+        warn(QString::fromLatin1(remark).arg(line));
+    if (lines.size() > mostRemarks)
+        warn(QStringLiteral("At least %1 more lines of settings were skipped.")
+                 .arg(lines.size() - mostRemarks));
 }
 
 } // namespace
@@ -50,15 +59,15 @@ void CameraJustify::RestoreBackup(bool initial)
     if (backup(initial).isEmpty())
         return;
     if (initial) {
-        applyFeatures(m_initialBackup, restoreRemark);
+        bringBack(m_initialBackup);
         return;
     }
     OweBackup();
     // A backup that was made of a state which had not come back whole does not know the settings
     // that were missing.
     if (m_backup != m_owedBackup)
-        applyFeatures(m_backup, restoreRemark);
-    if (applyFeatures(m_owedBackup, restoreRemark))
+        bringBack(m_backup);
+    if (bringBack(m_owedBackup))
         m_owedBackup.clear();
 }
 
@@ -92,20 +101,24 @@ QString CameraJustify::SaveFeaturesToString()
 
 void CameraJustify::LoadFeaturesFromString(const QString& text)
 {
-    applyFeatures(text, "A setting was not loaded: %1");
+    warnOfLines(applyFeatures(text), "A setting was not loaded: %1");
 }
 
-bool CameraJustify::applyFeatures(const QString& text, const char* remark)
+QStringList CameraJustify::applyFeatures(const QString& text)
 {
     QString errors;
     parameters()->loadFeatures(text, errors, cameraNodeMap);
-    const QStringList lines = errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString& line : lines.mid(0, mostRemarks))
-        warn(QString::fromLatin1(remark).arg(line));
-    if (lines.size() > mostRemarks)
-        warn(QStringLiteral("At least %1 more lines of settings were skipped.")
-                 .arg(lines.size() - mostRemarks));
-    return lines.isEmpty();
+    return errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+bool CameraJustify::bringBack(const QString& backup)
+{
+    const QStringList refused = applyFeatures(backup);
+    if (refused.isEmpty())
+        return true;
+    const QStringList missing = unmetLines(refused, backup, *parameters(), cameraNodeMap);
+    warnOfLines(missing, "A setting of the camera did not come back: %1");
+    return missing.isEmpty();
 }
 
 void CameraJustify::StoreInUserSet(const QString& name, bool store, bool setAsDefault)

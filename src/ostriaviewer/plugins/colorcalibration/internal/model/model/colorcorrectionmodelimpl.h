@@ -126,7 +126,7 @@ private:
     void releaseCamera();
     void restoreTestImage();
 
-    /// Settings are about to be written that neither a calibration found nor the user chose.
+    /// Settings are about to be written. A calibration counts as kept when it is written whole.
     void beginChange();
 
     /// What was measured belongs to settings that the camera will not have any more.
@@ -146,6 +146,10 @@ private:
 
     bool grabAndMeasure(Image& target, bool triggered);
     int collectColors(QVector<QColor>& out, bool grabImage);
+
+    /// Without one there is nothing to compute from, and the numbers would blame the chart.
+    /// \throws Core::Exception::BaseException  none has come since settings changed
+    void requireImage() const;
     void writeCalibration();
     QJsonArray userSets() const;
     QJsonObject collectResults();

@@ -2,6 +2,7 @@
 // The model's calibration: grid, measuring, computing, writing.
 #include "colorcorrectionmodelimpl.h"
 
+#include "baseexception.h"
 #include "camerajustify.h"
 #include "chartdiscriminator.h"
 #include "guarded.h"
@@ -123,6 +124,15 @@ int ColorCorrectionModelImpl::collectColors(QVector<QColor>& out, bool grabImage
     return out.size();
 }
 
+void ColorCorrectionModelImpl::requireImage() const
+{
+    if (!m_latestImage.isValid())
+        throw Core::Exception::BaseException(
+            QStringLiteral("The camera delivered no image in time, so there was nothing to "
+                           "measure. Check its cable, trigger and exposure time, and try again; "
+                           "the first image has 200 ms, each later one 5 s."));
+}
+
 int ColorCorrectionModelImpl::GetCurrentColorPatchValues(QVector<QColor>& out)
 {
     const QMutexLocker lock(&m_mutex);
@@ -183,11 +193,14 @@ bool ColorCorrectionModelImpl::ExecuteWhitebalance()
             m_imageCamera->StopGrabbing();
             QVector<QColor> colors;
             collectColors(colors, true);
+            CameraJustify& adapter = justify();
+            requireImage();
             m_calibration->SetStepColors(StepKey::Original, toPatchColors(colors, false));
             m_calibration->ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
             auto& [red, green, blue] = m_settings.whiteBalance;
             m_calibration->GetWhiteBalance(red, green, blue);
-            justify().WriteWhiteBalance(red, green, blue);
+            beginChange();
+            adapter.WriteWhiteBalance(red, green, blue);
             return true;
         });
 }
@@ -207,6 +220,7 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                        m_calibration->SetStepColors(StepKey::Original,
                                                     toPatchColors(m_neutralColors, false));
                        m_calibration->ExecuteAll();
+                       beginChange();
                        writeCalibration();
                        m_isCalibrationKept = true;
                        emit CalibrationFinished();

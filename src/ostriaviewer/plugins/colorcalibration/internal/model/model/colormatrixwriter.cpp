@@ -50,7 +50,9 @@ double ColorMatrixWriter::writeGain(int row, int column, double gain) const
     const bool isSelected = m_selector->trySetValue(name);
     const bool isWritten = m_value->trySetValue(gain);
     const double kept = m_value->valueOrDefault(0.0);
-    if (isMissing())
+    const bool isKept = isWritten ? std::abs(kept - gain) <= coarsestRounding
+                                  : m_value->isReadable() && kept == gain;
+    if (isMissing() || (isSelected && isKept))
         return kept;
     if (!isSelected)
         warn(QStringLiteral(
@@ -58,8 +60,6 @@ double ColorMatrixWriter::writeGain(int row, int column, double gain) const
                  "the gain that was selected before, or is lost.")
                  .arg(name)
                  .arg(gain));
-    else if (isWritten && std::abs(kept - gain) <= coarsestRounding)
-        return kept;
     else if (!m_value->isReadable())
         warn(QStringLiteral("The camera does not tell %1 of the color matrix, which should be %2.")
                  .arg(name)
