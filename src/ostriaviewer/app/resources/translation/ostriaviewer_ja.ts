@@ -308,10 +308,6 @@
         <translation>%1 はこのプログラム内の別の処理で使用されているため、画像を取り込めません。先にその処理を終了してください。</translation>
     </message>
     <message>
-        <source>%1 takes no picture, as another one is under way or another part of the program is using it. Try again later.</source>
-        <translation>%1 は取り込み中か、このプログラム内の別の処理で使用されているため、画像を取り込めません。しばらくしてから、もう一度実行してください。</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>開く(&amp;O)</translation>
     </message>
@@ -350,6 +346,18 @@
     <message>
         <source>Take one picture</source>
         <translation>画像を1枚取り込みます</translation>
+    </message>
+    <message>
+        <source>%1 delivers no images. %2</source>
+        <translation>%1 から画像を取り込めません。%2</translation>
+    </message>
+    <message>
+        <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
+        <translation>%1 はこのプログラム内の別の処理で使用されているため、撮影できません。しばらくしてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 takes no picture. %2</source>
+        <translation>%1 は撮影できません。%2</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1014,10 @@ Model %2, %3</source>
     <message>
         <source>The settings were written by a newer viewer; this one starts with defaults and leaves them as they are. What you change is forgotten at the end.</source>
         <translation>設定はより新しいバージョンのビューアーで保存されたものです。このビューアーはデフォルトの設定で起動し、保存済みの設定は変更しません。変更した内容は終了時に失われます。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written; what you change is forgotten at the end. Check the file&apos;s permissions and the room on its disk.</source>
+        <translation>設定ファイル %1 に書き込めません。変更した内容は終了時に失われます。ファイルのアクセス権とディスクの空き容量を確認してください。</translation>
     </message>
 </context>
 </TS>

@@ -308,10 +308,6 @@
         <translation>%1 카메라는 이 프로그램의 다른 작업에서 사용 중이므로 이미지를 획득할 수 없습니다. 먼저 그 작업을 종료하십시오.</translation>
     </message>
     <message>
-        <source>%1 takes no picture, as another one is under way or another part of the program is using it. Try again later.</source>
-        <translation>%1 카메라는 획득 중이거나 이 프로그램의 다른 작업에서 사용 중이므로 이미지를 획득할 수 없습니다. 잠시 후 다시 시도하십시오.</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>열기(&amp;O)</translation>
     </message>
@@ -350,6 +346,18 @@
     <message>
         <source>Take one picture</source>
         <translation>이미지를 한 장 획득합니다</translation>
+    </message>
+    <message>
+        <source>%1 delivers no images. %2</source>
+        <translation>%1 카메라에서 이미지를 획득할 수 없습니다. %2</translation>
+    </message>
+    <message>
+        <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
+        <translation>%1 카메라는 이 프로그램의 다른 작업에서 사용 중이므로 촬영할 수 없습니다. 잠시 후 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 takes no picture. %2</source>
+        <translation>%1 카메라로 촬영할 수 없습니다. %2</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1014,10 @@ Model %2, %3</source>
     <message>
         <source>The settings were written by a newer viewer; this one starts with defaults and leaves them as they are. What you change is forgotten at the end.</source>
         <translation>설정이 더 새로운 버전의 뷰어에서 저장되었습니다. 이 뷰어는 기본값으로 시작하고 저장된 설정은 그대로 둡니다. 변경한 내용은 종료할 때 사라집니다.</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written; what you change is forgotten at the end. Check the file&apos;s permissions and the room on its disk.</source>
+        <translation>설정 파일 %1에 쓸 수 없습니다. 변경한 내용은 종료할 때 사라집니다. 파일 권한과 디스크의 남은 공간을 확인하십시오.</translation>
     </message>
 </context>
 </TS>

@@ -308,10 +308,6 @@
         <translation>%1 正被本程序的其他任务使用，无法采集图像。请先结束该任务。</translation>
     </message>
     <message>
-        <source>%1 takes no picture, as another one is under way or another part of the program is using it. Try again later.</source>
-        <translation>%1 正在采集，或正被本程序的其他任务使用，无法采集。请稍后重试。</translation>
-    </message>
-    <message>
         <source>&amp;Open</source>
         <translation>打开(&amp;O)</translation>
     </message>
@@ -350,6 +346,18 @@
     <message>
         <source>Take one picture</source>
         <translation>采集一帧图像</translation>
+    </message>
+    <message>
+        <source>%1 delivers no images. %2</source>
+        <translation>%1 无法采集图像。%2</translation>
+    </message>
+    <message>
+        <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
+        <translation>%1 正被本程序的其他任务使用，无法拍摄。请稍后重试。</translation>
+    </message>
+    <message>
+        <source>%1 takes no picture. %2</source>
+        <translation>%1 无法拍摄。%2</translation>
     </message>
 </context>
 <context>
@@ -1006,6 +1014,10 @@ Model %2, %3</source>
     <message>
         <source>The settings were written by a newer viewer; this one starts with defaults and leaves them as they are. What you change is forgotten at the end.</source>
         <translation>设置由更新版本的查看器保存。此查看器将以默认设置启动，并保留这些设置不变。您所做的更改在退出时会丢失。</translation>
+    </message>
+    <message>
+        <source>The settings file %1 cannot be written; what you change is forgotten at the end. Check the file&apos;s permissions and the room on its disk.</source>
+        <translation>无法写入设置文件 %1。退出时所做的更改将会丢失。请检查文件权限和磁盘剩余空间。</translation>
     </message>
 </context>
 </TS>
