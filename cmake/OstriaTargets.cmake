@@ -65,6 +65,32 @@ if(OSTRIA_SANITIZE MATCHES "address")
     set(OSTRIA_DISPLAY_PRELOAD "OSTRIA_PRELOAD=${OSTRIA_ASAN_LIBRARY} ${OSTRIA_GRAPHICS_DRIVER}")
 endif()
 
+# One ctest entry for each test.
+function(_ostria_add_each_test name labels serial environment)
+    gtest_discover_tests(${name}
+        DISCOVERY_TIMEOUT 120
+        PROPERTIES LABELS "${labels}" TIMEOUT 300 RUN_SERIAL "${serial}")
+    # Of a list among the properties above only the first entry would arrive.
+    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
+    file(WRITE "${script}"
+        "if(${name}_TESTS)\n"
+        "  set_tests_properties(\${${name}_TESTS} PROPERTIES ENVIRONMENT \"${environment}\")\n"
+        "endif()\n")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
+endfunction()
+
+# A few ctest entries, each a share of the tests: a sanitizer's start takes longer than most tests.
+function(_ostria_add_shares name labels serial environment)
+    set(shares 4)
+    foreach(share RANGE 1 ${shares})
+        math(EXPR index "${share} - 1")
+        add_test(NAME ${name}.${share}of${shares} COMMAND ${name})
+        set_tests_properties(${name}.${share}of${shares} PROPERTIES
+            LABELS "${labels}" TIMEOUT 600 RUN_SERIAL "${serial}"
+            ENVIRONMENT "${environment};GTEST_TOTAL_SHARDS=${shares};GTEST_SHARD_INDEX=${index}")
+    endforeach()
+endfunction()
+
 # The tests' own code is compiled for the shortest build, what they test as users run it. Plain
 # literals may stand for texts in it.
 if(MSVC)
@@ -75,10 +101,9 @@ else()
     set(OSTRIA_TEST_OPTIONS -O1 -UQT_NO_CAST_FROM_ASCII)
 endif()
 
-# A GoogleTest program; each of its tests becomes one ctest entry. The label "realtime" keeps its
-# tests out of runs under sanitizers, SERIAL lets each run alone, DISPLAY gives each a screen and
-# settings of its own, for programs that open windows, LOOPBACK a network of its own. WITHOUT_QT is for
-# what must not even see Qt's headers.
+# A GoogleTest program. The label "realtime" keeps its tests out of runs under sanitizers, SERIAL lets
+# each ctest entry run alone, DISPLAY gives it a screen and settings of its own, for programs that open
+# windows, LOOPBACK a network of its own. WITHOUT_QT is for what must not even see Qt's headers.
 function(ostria_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY;LOOPBACK;WITHOUT_QT" ""
         "SOURCES;DEPS;LABELS;ENVIRONMENT")
@@ -116,16 +141,11 @@ function(ostria_add_test name)
         list(APPEND starters "${PROJECT_SOURCE_DIR}/scripts/with-loopback")
     endif()
     set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${starters}")
-    gtest_discover_tests(${name}
-        DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 RUN_SERIAL "${arg_SERIAL}")
-    # Of a list among the properties above only the first entry would arrive.
-    set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
-    file(WRITE "${script}"
-        "if(${name}_TESTS)\n"
-        "  set_tests_properties(\${${name}_TESTS} PROPERTIES ENVIRONMENT \"${environment}\")\n"
-        "endif()\n")
-    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
+    if(OSTRIA_TEST_SHARES)
+        _ostria_add_shares(${name} "${arg_LABELS}" "${arg_SERIAL}" "${environment}")
+    else()
+        _ostria_add_each_test(${name} "${arg_LABELS}" "${arg_SERIAL}" "${environment}")
+    endif()
 endfunction()
 
 # A Google Benchmark program.
