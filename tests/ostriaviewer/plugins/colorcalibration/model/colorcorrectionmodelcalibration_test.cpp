@@ -395,4 +395,65 @@ TEST_F(ModelCalibrationTest, TargetsCarryTheDisplaysCurve)
     }
 }
 
+TEST_F(ModelCalibrationTest, OwesNothingOnceItIsKeptAndAllWithTheNextChange)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    const QVector<std::function<bool()>> changes{
+        [this] { return m_model.SetNeutralSettings(); },
+        [this] { return m_model.LoadSettings("Gamma\t1\n"); },
+        [this] { return m_model.ExecuteWhitebalance(); },
+    };
+    for (const auto& change : changes) {
+        ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+        ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+        EXPECT_FALSE(m_model.IsBackupOwed());
+        ASSERT_TRUE(change());
+        EXPECT_TRUE(m_model.IsBackupOwed());
+    }
+}
+
+TEST_F(ModelCalibrationTest, ThatFailsBetweenItsWritesOwesTheBackup)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    const auto refuse = [this](bool refuses) {
+        m_camera->features().change("Gamma", [&](FakeFeature& one) { one.refuses = refuses; });
+    };
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    refuse(true);
+    EXPECT_FALSE(m_model.ExecuteCalibrationAndApply());
+    EXPECT_TRUE(m_model.IsBackupOwed()) << "without neutral settings before it";
+    refuse(false);
+    EXPECT_TRUE(m_model.ExecuteCalibrationAndApply());
+    EXPECT_FALSE(m_model.IsBackupOwed());
+    refuse(true);
+    EXPECT_FALSE(m_model.ExecuteCalibrationAndApply());
+    EXPECT_TRUE(m_model.IsBackupOwed()) << "what it has left is not the one that was kept";
+}
+
+TEST_F(ModelCalibrationTest, ThatIsTakenBackInPartOwesTheBackup)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    m_camera->features().change("Gamma", [](FakeFeature& one) { one.refuses = true; });
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_TRUE(m_model.IsBackupOwed());
+}
+
+TEST_F(ModelCalibrationTest, IsKeptForOneOpeningOnly)
+{
+    ASSERT_TRUE(open());
+    ASSERT_TRUE(m_model.ApplyInitialColorPatchValues());
+    ASSERT_TRUE(m_model.ExecuteCalibrationAndApply());
+    ASSERT_TRUE(m_model.Close());
+    m_camera->features().change("TestPattern", [](FakeFeature& one) { one.value = "Ramp"; });
+    ASSERT_TRUE(open());
+    EXPECT_EQ(m_camera->features().get("TestPattern").value, "Off");
+    ASSERT_TRUE(m_model.Close());
+    EXPECT_EQ(m_camera->features().get("TestPattern").value, "Ramp");
+}
+
 } // namespace

@@ -122,7 +122,7 @@ private:
     void releaseCamera();
     void restoreTestImage();
 
-    /// Settings are about to be written that neither a calibration found nor the user chose.
+    /// Settings are about to be written. A calibration counts as kept when it is written whole.
     void beginChange();
 
     /// What was measured belongs to settings that the camera will not have any more.

@@ -199,6 +199,7 @@ bool ColorCorrectionModelImpl::ExecuteWhitebalance()
             m_calibration->ExecuteStep(StepKey::WhiteBalance, StepKey::Original);
             auto& [red, green, blue] = m_settings.whiteBalance;
             m_calibration->GetWhiteBalance(red, green, blue);
+            beginChange();
             adapter.WriteWhiteBalance(red, green, blue);
             return true;
         });
@@ -219,6 +220,7 @@ bool ColorCorrectionModelImpl::ExecuteCalibrationAndApply()
                        m_calibration->SetStepColors(StepKey::Original,
                                                     toPatchColors(m_neutralColors, false));
                        m_calibration->ExecuteAll();
+                       beginChange();
                        writeCalibration();
                        m_isCalibrationKept = true;
                        emit CalibrationFinished();
