@@ -46,7 +46,7 @@ public:
     /// Everything up to the measurement under the calibrated settings.
     bool run()
     {
-        return open() && m_model.CreateSettingsBackup(false) &&
+        return open() && takeFirstImage() && m_model.CreateSettingsBackup(false) &&
                m_model.CreateSettingsBackup(true) && m_model.SetNeutralSettings() &&
                m_model.ExecuteWhitebalance() && adjustBrightness() &&
                m_model.StoreDetectedExposureAndGain() && m_model.RestoreSettingsBackup(true) &&
@@ -64,6 +64,13 @@ public:
     }
 
 private:
+    /// It has 200 ms only, which is not enough for a large picture of a new scene.
+    bool takeFirstImage()
+    {
+        QImage image;
+        return m_model.GrabImage(image, true) || m_model.GrabImage(image, true);
+    }
+
     bool adjustBrightness()
     {
         QEventLoop loop;
