@@ -144,8 +144,8 @@ protected:
         m_host.camera().setScene(Scene(settings));
     }
 
-    ///
-    eturn what the log says of failures QStringList failuresOfRun()
+    /// \return  what the log says of failures
+    QStringList failuresOfRun()
     {
         const LogRecorder log;
         run();
