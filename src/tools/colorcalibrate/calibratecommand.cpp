@@ -23,7 +23,6 @@
 
 #include <exception>
 #include <functional>
-#include <new>
 #include <ostream>
 
 using namespace ColorCalibration;
@@ -132,19 +131,17 @@ void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
 void giveBackOnFailure(SettingsGuard& guard, const QString& cameraName,
                        const std::function<void()>& work)
 {
-    const auto named = [&cameraName](const char* failure) {
-        return QStringLiteral("%1: %2").arg(cameraName, QString::fromUtf8(failure));
+    const auto named = [&cameraName](const std::exception& error) {
+        return QStringLiteral("%1: %2").arg(cameraName, wordsOf(error));
     };
     try {
         work();
     } catch (const Cancelled& error) {
-        throw CommandError(QString::fromUtf8(error.what()) + guard.restore());
+        throw CommandError(wordsOf(error) + guard.restore());
     } catch (const CommandError& error) {
-        throw CommandError(named(error.what()) + guard.restore(), error.code());
-    } catch (const std::bad_alloc&) {
-        throw CommandError(QStringLiteral("there is not enough memory") + guard.restore());
+        throw CommandError(named(error) + guard.restore(), error.code());
     } catch (const std::exception& error) {
-        throw CommandError(named(error.what()) + guard.restore());
+        throw CommandError(named(error) + guard.restore());
     }
 }
 

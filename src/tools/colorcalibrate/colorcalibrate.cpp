@@ -13,7 +13,6 @@
 #include <algorithm>
 #include <array>
 #include <exception>
-#include <new>
 #include <ostream>
 
 namespace ColorCalibrate {
@@ -76,9 +75,8 @@ void dispatch(const QStringList& arguments, const Streams& streams)
 }
 
 /// One line whatever file names and arguments hold.
-int report(std::ostream& err, const char* message, ExitCode code)
+int report(std::ostream& err, QString line, ExitCode code)
 {
-    QString line = QString::fromUtf8(message);
     for (QChar& character : line)
         if (!character.isPrint() && !character.isSurrogate())
             character = QLatin1Char('?');
@@ -97,13 +95,11 @@ int run(const QStringList& arguments, const Streams& streams)
             throw CommandError(QStringLiteral("the result could not be written"));
         return Success;
     } catch (const CommandError& error) {
-        return report(streams.err, error.what(), error.code());
-    } catch (const std::bad_alloc&) {
-        return report(streams.err, "there is not enough memory", WorkFailed);
+        return report(streams.err, wordsOf(error), error.code());
     } catch (const std::exception& error) {
-        return report(streams.err, error.what(), WorkFailed);
+        return report(streams.err, wordsOf(error), WorkFailed);
     } catch (...) {
-        return report(streams.err, "an unknown error occurred", WorkFailed);
+        return report(streams.err, QStringLiteral("an unknown error occurred"), WorkFailed);
     }
 }
 

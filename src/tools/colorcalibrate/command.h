@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <exception>
 #include <iosfwd>
 #include <stdexcept>
 
@@ -37,5 +38,8 @@ public:
 private:
     ExitCode m_code;
 };
+
+/// What an error says to a person, a lack of memory too.
+QString wordsOf(const std::exception& error);
 
 } // namespace ColorCalibrate

@@ -144,8 +144,8 @@ protected:
         m_host.camera().setScene(Scene(settings));
     }
 
-    ///
-    eturn what the log says of failures QStringList failuresOfRun()
+    /// \return  what the log says of failures
+    QStringList failuresOfRun()
     {
         const LogRecorder log;
         run();
@@ -223,8 +223,8 @@ TEST_P(BrightnessInDimLight, EndsWhereAParameterRefuses)
         const QStringList failures = failuresOfRun();
         ASSERT_EQ(failures.size(), 3);
         EXPECT_TRUE(failures.at(0).contains(one.refused)) << failures.at(0).toStdString();
-        EXPECT_TRUE(failures.at(2).contains(QLatin1String("The camera does not take the ") +
-                                            QLatin1String(one.what)))
+        EXPECT_TRUE(failures.at(2).contains(
+            QStringLiteral("The camera does not take the %1 ").arg(QLatin1String(one.what))))
             << failures.at(2).toStdString();
         m_host.camera().refuseWrites(one.refused, -1);
     }

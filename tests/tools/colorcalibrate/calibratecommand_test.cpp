@@ -2,7 +2,6 @@
 // "list" and "calibrate" on the emulated cameras.
 #include "calibrationsequence.h"
 #include "cameras.h"
-#include "colorcalibrate.h"
 #include "command.h"
 #include "commandtest.h"
 #include "emulatedcamera.h"
@@ -20,8 +19,6 @@
 
 #include <new>
 #include <ostream>
-#include <sstream>
-#include <utility>
 
 using namespace ColorCalibrate;
 using Cameras::Emulation::EmulatedCamera;
@@ -252,36 +249,6 @@ TEST_F(CalibrateCommand, TellsWhichPreviousSettingsTheCameraDidNotTake)
                            "A setting was not loaded: Line 3: the camera has no feature "
                            "\"NoSuch\".\n"
                            "A setting was not loaded: Line 4: BlackLevel: a number is expected.\n");
-}
-
-TEST_F(CalibrateCommand, SaysSoWhereMemoryRunsOut)
-{
-    // At the warning that a setting was not loaded, in the middle of the work.
-    class FirstFails : public std::stringbuf
-    {
-    private:
-        std::streamsize xsputn(const char* text, std::streamsize count) override
-        {
-            if (std::exchange(m_isFirst, false))
-                throw std::bad_alloc();
-            return std::stringbuf::xsputn(text, count);
-        }
-
-        bool m_isFirst = true;
-    };
-    const QString file =
-        writeFile(QStringLiteral("previous.cst"), QByteArrayLiteral("Gamma\t2\nNoSuch\t1\n"));
-    FirstFails buffer;
-    std::istringstream in;
-    std::ostringstream out;
-    std::ostream err(&buffer);
-    err.exceptions(std::ios::badbit);
-    EXPECT_EQ(ColorCalibrate::run({QStringLiteral("calibrate"), QStringLiteral("--camera"),
-                                   namesOf(true).at(1), QStringLiteral("--settings"), file},
-                                  {in, out, err}),
-              WorkFailed);
-    EXPECT_EQ(buffer.str(), "colorcalibrate: there is not enough memory; the camera's settings are "
-                            "as they were\n");
 }
 
 TEST_F(CalibrateCommand, SaysSoWhereThereIsNoChart)

@@ -30,7 +30,7 @@ struct Outcome
 };
 
 /// A camera and what stands before it.
-struct Setup
+struct Arrangement
 {
     Cameras::Emulation::CameraModel model;
     Cameras::Emulation::SceneSettings scene;
@@ -71,11 +71,11 @@ PatchColors asShown(PatchColors linear, bool isOldGeneration)
     return ColorCalibration::toPatchColors(shown, true);
 }
 
-Outcome calibrate(const Setup& setup)
+Outcome calibrate(const Arrangement& arrangement)
 {
     Cameras::Emulation::EmulationOptions options;
-    options.scene = Cameras::Emulation::Scene(setup.scene);
-    EmulatedHost host(setup.model, options);
+    options.scene = Cameras::Emulation::Scene(arrangement.scene);
+    EmulatedHost host(arrangement.model, options);
     auto& model = host.model();
     EXPECT_TRUE(model.Open(host.pointer()));
     host.setExposure(exposure);
@@ -96,52 +96,52 @@ Outcome calibrate(const Setup& setup)
             deltasToTargets(asShown(computation.steps.back().colors, host.isOldGeneration()))};
 }
 
-void switchOffNoise(Setup& setup)
+void switchOffNoise(Arrangement& arrangement)
 {
-    setup.model.sensor.noiseEnabled = false;
+    arrangement.model.sensor.noiseEnabled = false;
 }
 
-void switchOffRounding(Setup& setup)
+void switchOffRounding(Arrangement& arrangement)
 {
-    setup.model.sensor.roundingEnabled = false;
-    setup.model.roundingEnabled = false;
+    arrangement.model.sensor.roundingEnabled = false;
+    arrangement.model.roundingEnabled = false;
 }
 
-void switchOffNonLinearity(Setup& setup)
+void switchOffNonLinearity(Arrangement& arrangement)
 {
-    setup.model.sensor.nonLinearityEnabled = false;
+    arrangement.model.sensor.nonLinearityEnabled = false;
 }
 
-void switchOffVignetting(Setup& setup)
+void switchOffVignetting(Arrangement& arrangement)
 {
-    setup.model.sensor.vignettingEnabled = false;
+    arrangement.model.sensor.vignettingEnabled = false;
 }
 
-void switchOffGradient(Setup& setup)
+void switchOffGradient(Arrangement& arrangement)
 {
-    setup.scene.lightGradient = 0.0;
+    arrangement.scene.lightGradient = 0.0;
 }
 
 /// Without anything that a linear mixing of channels does not explain.
-void switchOffAll(Setup& setup)
+void switchOffAll(Arrangement& arrangement)
 {
-    switchOffNoise(setup);
-    switchOffRounding(setup);
-    switchOffNonLinearity(setup);
-    switchOffVignetting(setup);
-    switchOffGradient(setup);
+    switchOffNoise(arrangement);
+    switchOffRounding(arrangement);
+    switchOffNonLinearity(arrangement);
+    switchOffVignetting(arrangement);
+    switchOffGradient(arrangement);
 }
 
 class CalibrationLimits : public testing::TestWithParam<int>
 {
 protected:
-    Setup m_setup{supportedModels().at(GetParam()), {}};
+    Arrangement m_arrangement{supportedModels().at(GetParam()), {}};
 };
 
 TEST_P(CalibrationLimits, AnIdealCameraShowsWhatTheEngineForetells)
 {
-    switchOffAll(m_setup);
-    const Outcome outcome = calibrate(m_setup);
+    switchOffAll(m_arrangement);
+    const Outcome outcome = calibrate(m_arrangement);
     EXPECT_NEAR(outcome.shown.meanDeltaE(), outcome.foretold.meanDeltaE(), 0.02);
     EXPECT_NEAR(outcome.shown.meanDeltaC(), outcome.foretold.meanDeltaC(), 0.02);
     for (std::size_t i = 0; i < PatchCount; ++i)
@@ -150,9 +150,9 @@ TEST_P(CalibrationLimits, AnIdealCameraShowsWhatTheEngineForetells)
 
 TEST_P(CalibrationLimits, ShowHowMuchEachOfThemCosts)
 {
-    const std::pair<const char*, void (*)(Setup&)> cases[] = {
+    const std::pair<const char*, void (*)(Arrangement&)> cases[] = {
         {"as it is",
-         [](Setup&) {
+         [](Arrangement&) {
          }},
         {"without noise", switchOffNoise},
         {"without rounding", switchOffRounding},
@@ -162,13 +162,13 @@ TEST_P(CalibrationLimits, ShowHowMuchEachOfThemCosts)
         {"without any of them", switchOffAll},
     };
     std::cout
-        << m_setup.model.name.toStdString()
+        << m_arrangement.model.name.toStdString()
         << "\n| camera | before: Delta E | after: Delta E | Delta C | of the grays | foretold "
            "Delta E |\n|---|---|---|---|---|---|\n";
     for (const auto& [name, change] : cases) {
-        Setup setup = m_setup;
-        change(setup);
-        const Outcome outcome = calibrate(setup);
+        Arrangement arrangement = m_arrangement;
+        change(arrangement);
+        const Outcome outcome = calibrate(arrangement);
         std::cout << "| " << name << " | " << std::fixed << std::setprecision(2)
                   << outcome.before.meanDeltaE() << " | " << outcome.shown.meanDeltaE() << " | "
                   << outcome.shown.meanDeltaC() << " | " << grayDeltaC(outcome.shown) << " | "

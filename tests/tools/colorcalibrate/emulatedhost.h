@@ -34,7 +34,7 @@ public:
     ~EmulatedHost()
     {
         m_model.Close();
-        QStandardPaths::setTestModeEnabled(false);
+        QStandardPaths::setTestModeEnabled(m_wasTestMode);
     }
     EmulatedHost(const EmulatedHost&) = delete;
     EmulatedHost& operator=(const EmulatedHost&) = delete;
@@ -77,6 +77,7 @@ public:
     }
 
 private:
+    const bool m_wasTestMode = QStandardPaths::isTestModeEnabled();
     QTemporaryDir m_folder;
     QSharedPointer<EmulatedCamera> m_camera;
     Core::Service::CServiceRegistry m_registry;

@@ -205,7 +205,7 @@ TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
     EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
 }
 
-TEST_F(Saving, EndsBeforeItsNextStepWhenItIsCancelled)
+TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
 {
     EmulatedHost host(reduced(supportedModels().at(1)));
     ASSERT_TRUE(host.camera().open());

@@ -139,7 +139,7 @@ TEST_F(ModelTest, AnOpeningThatBreaksOffGivesTheCameraBack)
         EXPECT_EQ(m_control.handles, 0);
         EXPECT_FALSE(m_camera->open) << "it was closed before";
         EXPECT_EQ(m_model.OpeningFailure(),
-                  QLatin1String(feature) + QLatin1String(" refuses to be written"));
+                  QStringLiteral("%1 refuses to be written").arg(QLatin1String(feature)));
         m_camera->features().change(feature, [](FakeFeature& one) { one.refuses = false; });
     }
     m_camera->withParameters = false;
