@@ -209,6 +209,7 @@ private:
     void giveSettingsBack();
     bool tellOutcome(bool success, const QString& whenDone, const QString& whenFailed,
                      const QString& target);
+    void dropSearches();
     ChartSearch searchChart();
     void endChartSearch(const ChartSearch& search, int scene, int step);
     void beginBusyCursor();
