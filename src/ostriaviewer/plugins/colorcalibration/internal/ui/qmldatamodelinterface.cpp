@@ -224,6 +224,7 @@ void QmlDataModelInterface::onCameraRemoved()
 {
     m_camera->stopGrab();
     dropSearches();
+    emit cameraLost();
     emit forwardCameraRemoved();
 }
 

@@ -194,6 +194,10 @@ signals:
     /// There is a sceneProblem, or none any more.
     void sceneProblemChanged();
 
+    /// The wizard will end as soon as this has been told. Comes before forwardCameraRemoved, whose
+    /// message box lets everything else go on.
+    void cameraLost();
+
 private:
     struct ChartSearch
     {

@@ -273,6 +273,35 @@ TEST_F(BrightnessPage, OffersSingleShotsAgainAfterTheAdjustment)
     EXPECT_TRUE(takeCalls().isEmpty());
 }
 
+TEST_F(BrightnessPage, AsksNothingOfACameraThatIsLostWhileItIsAdjusted)
+{
+    openAt(2);
+    click("autoButton");
+    takeCalls();
+    emit m_model.cameraLost();
+    ASSERT_TRUE(property("checkTimer", "updateImages").toBool());
+    expire();
+    EXPECT_TRUE(takeCalls().isEmpty()) << "the adjustment is still under way";
+    emit m_model.autoAdjustGray80PercentPatchFinished();
+    expire();
+    EXPECT_TRUE(takeCalls().isEmpty()) << "and has ended";
+    EXPECT_TRUE(boxes().isEmpty());
+}
+
+TEST_F(BrightnessPage, ItsMessagesGoWithTheCamera)
+{
+    openAt(2);
+    m_gain.refuse("Couldn't set gain value!<br>");
+    ASSERT_EQ(boxes().size(), 1);
+    emit m_model.cameraLost();
+    EXPECT_TRUE(waitFor([this] { return boxes().isEmpty(); })) << "the loss tells enough";
+    m_log.failing = {"autoAdjustGray80PercentPatch()"};
+    click("autoButton");
+    ASSERT_EQ(boxes().size(), 1);
+    emit m_model.cameraLost();
+    EXPECT_TRUE(waitFor([this] { return boxes().isEmpty(); }));
+}
+
 TEST_F(BrightnessPage, IsSetBackWhenTheWindowCloses)
 {
     openAt(2);
