@@ -44,7 +44,7 @@ Item {
         if (!completed)
             return
         checkTimer.updateImages = true
-        if (slider.enabled)
+        if (slider.enabled && stepBar.isCameraFree)
             adapter.value = slider.value
         Utility.hideToolTip()
     }

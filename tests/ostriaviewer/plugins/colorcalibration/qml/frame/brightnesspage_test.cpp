@@ -164,6 +164,20 @@ TEST_F(BrightnessPage, SlidersFollowTheirAdapters)
     EXPECT_NEAR(property("exposureSlider", "value").toDouble(), 0.7, 1e-9);
 }
 
+TEST_F(BrightnessPage, SlidersThatFollowLeaveACameraAloneThatIsLedOn)
+{
+    openAt(2);
+    m_log.during["restoreSettingsBackup(true)"] = [this] {
+        m_exposure.report(0.7);
+        m_gain.report(0.25);
+    };
+    click("nextButton");
+    ASSERT_EQ(m_model.activeStep(), 3);
+    const QStringList calls = takeCalls();
+    EXPECT_TRUE(calls.contains("restoreSettingsBackup(true)"));
+    EXPECT_EQ(calls.filter("exposure=") + calls.filter("gain="), QStringList());
+}
+
 TEST_F(BrightnessPage, SlidersWriteWhatTheMousePicks)
 {
     openAt(2);
