@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QQuickWindow>
 
 namespace ColorCalibration {
 namespace {
@@ -98,6 +99,9 @@ void QMLFileDialog::open()
     dialog.setNameFilters(m_nameFilters);
     connect(&dialog, &QFileDialog::accepted, this, &QMLFileDialog::onAccept);
     connect(&dialog, &QFileDialog::rejected, this, &QMLFileDialog::onReject);
+    // One that outlived its window would lock the program.
+    if (window())
+        connect(window(), &QWindow::visibleChanged, &dialog, &QFileDialog::reject);
     dialog.exec();
 }
 

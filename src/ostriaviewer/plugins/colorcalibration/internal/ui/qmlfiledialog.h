@@ -46,7 +46,7 @@ public:
     void setSelectMultiple(bool selectMultiple);
     void setSelectFolder(bool selectFolder);
 
-    /// Shows the dialog and returns when it has ended.
+    /// Shows the dialog and returns when it has ended. The end of the item's window rejects it.
     Q_INVOKABLE void open();
 
 signals:
