@@ -16,6 +16,17 @@ QList<QUrl> urlsOf(QStringList paths)
     return QUrl::fromStringList(paths.replaceInStrings(QStringLiteral("%"), QStringLiteral("%25")));
 }
 
+// Qt takes the current folder for one that is not there, as documents that nobody has made yet.
+QUrl nearestFolder(const QUrl& folder)
+{
+    if (!folder.isLocalFile())
+        return folder;
+    QString path = QDir::cleanPath(folder.toLocalFile());
+    while (!QFileInfo(path).isDir() && path != QFileInfo(path).path())
+        path = QFileInfo(path).path();
+    return QUrl::fromLocalFile(path);
+}
+
 /// A dialog whose Open button also takes a folder. Qt's own one enters it unless its file mode says
 /// otherwise; that of the system does not care.
 class FileDialog : public QFileDialog
@@ -95,7 +106,7 @@ void QMLFileDialog::open()
         dialog.setFileMode(m_selectMultiple ? QFileDialog::ExistingFiles
                                             : QFileDialog::ExistingFile);
     dialog.setWindowTitle(m_title);
-    dialog.setDirectoryUrl(m_folder);
+    dialog.setDirectoryUrl(nearestFolder(m_folder));
     dialog.setNameFilters(m_nameFilters);
     connect(&dialog, &QFileDialog::accepted, this, &QMLFileDialog::onAccept);
     connect(&dialog, &QFileDialog::rejected, this, &QMLFileDialog::onReject);
