@@ -76,14 +76,13 @@ Item {
     ListModel { id: hsbcModel }
     ListModel { id: lutModel }
 
-    ComboBox {
+    TavrinComboBox {
         id: reports
         objectName: "reports"
         anchors.left: reportsLabel.right
         anchors.leftMargin: margin
         y: -distanceToImage
         width: Math.min(3.5 * mButtonWidth, page.mainWidth - x)
-        height: mButtonHeight
         Accessible.name: tValueSummaries
         model: [qsTr("Colors"), qsTr("Black Level"), qsTr("White Balance"),
                 qsTr("Color Transformation"), qsTr("Color Adjustment Hue"),

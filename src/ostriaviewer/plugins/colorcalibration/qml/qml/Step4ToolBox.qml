@@ -162,13 +162,12 @@ Item {
             font.pixelSize: mDefaultPixelSize
             text: tSaveSettingsAsUserSet
         }
-        ComboBox {
+        TavrinComboBox {
             id: userSets
             objectName: "userSets"
             x: page.labelWidth + margin
             y: 2 * page.rowDistance
             width: 2 * mButtonWidth
-            height: mButtonHeight
             Accessible.name: tSaveSettingsAsUserSet
             model: [tNone]
             onHoveredChanged: hovered ? Utility.showToolTip(page, userSets, width / 2, height / 2,
