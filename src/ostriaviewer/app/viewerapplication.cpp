@@ -172,11 +172,13 @@ void ViewerApplication::loadPlugins()
 {
     const QString folder =
         m_arguments.pluginFolder.isEmpty() ? standardPluginFolder() : m_arguments.pluginFolder;
-    if (!QDir(folder).exists())
-        return warn(tr("The plugin folder %1 does not exist; the viewer runs without plugins.")
-                        .arg(QDir::toNativeSeparators(folder)));
     m_plugins.loadFolder(folder, m_language, m_arguments.all);
-    for (const PluginReport& report : m_plugins.reports()) {
+    const QList<PluginReport> reports = m_plugins.reports();
+    if (reports.isEmpty())
+        warn(tr("There is no plugin in %1, so the viewer runs without tools. Install it again, or "
+                "start it with the option --plugins and the folder of its plugins.")
+                 .arg(QDir::toNativeSeparators(folder)));
+    for (const PluginReport& report : reports) {
         const QString file = QDir::toNativeSeparators(report.file);
         if (report.error.isEmpty())
             m_log->addOwn(Core::Logging::Information,

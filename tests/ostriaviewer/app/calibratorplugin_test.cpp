@@ -84,6 +84,14 @@ protected:
                                   "open");
     }
 
+    /// Returns when the dialog has ended.
+    static void openFileDialog()
+    {
+        auto* dialog = scene()->rootObject()->findChild<QObject*>("previousCalibrationDialog");
+        ASSERT_TRUE(dialog);
+        QMetaObject::invokeMethod(dialog, "openDialog");
+    }
+
     QStringList settings()
     {
         QString text;
@@ -222,6 +230,57 @@ TEST_F(CalibratorPlugin, ACameraLostWithItsFirstImageIsToldOnce)
         }
     });
     EXPECT_EQ(told, QStringList(disconnected));
+}
+
+TEST_F(CalibratorPlugin, ACameraLostBehindAFileDialogOfTheWizardEndsBoth)
+{
+    ASSERT_NO_FATAL_FAILURE(startWithOpenCamera());
+    QPointer<QDialog> wizard;
+    QPointer<QDialog> files;
+    int losses = 0;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (!files || !files->isVisible() || wizard->isVisible())
+            return;
+        ADD_FAILURE() << "locks the viewer";
+        files->reject();
+    });
+    watch.start(0);
+    run([&](QDialog& dialog) {
+        if (isWizard(dialog)) {
+            wizard = &dialog;
+            QTimer::singleShot(0, &dialog, openFileDialog);
+        } else if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+            losses += box->text() == disconnected ? 1 : 0;
+            box->button(QMessageBox::Ok)->click();
+        } else {
+            EXPECT_FALSE(files);
+            files = &dialog;
+            // Not within the watch, which sees no window before it has returned.
+            QTimer::singleShot(0, &window(), [this] { m_first->loseConnection(); });
+        }
+    });
+    EXPECT_TRUE(wizard);
+    EXPECT_EQ(losses, 1);
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_FALSE(m_first->isExclusive());
+}
+
+TEST_F(CalibratorPlugin, QuittingWithAFileDialogOfTheWizardOpenEndsBoth)
+{
+    ASSERT_NO_FATAL_FAILURE(startWithOpenCamera());
+    int dialogs = 0;
+    run([&](QDialog& dialog) {
+        if (isWizard(dialog)) {
+            QTimer::singleShot(0, &dialog, openFileDialog);
+            return;
+        }
+        ++dialogs;
+        m_viewer->quit();
+    });
+    EXPECT_EQ(dialogs, 1);
+    EXPECT_TRUE(waitUntil([this] { return !window().isVisible(); }));
+    EXPECT_FALSE(m_first->isExclusive());
 }
 
 TEST_F(CalibratorPlugin, ACameraLostBehindAMessageOfTheWizardEndsBoth)

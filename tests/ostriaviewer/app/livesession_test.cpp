@@ -3,6 +3,7 @@
 #include "viewertest.h"
 
 #include <QDialog>
+#include <QDir>
 #include <QTimer>
 
 namespace Viewer {
@@ -67,6 +68,33 @@ TEST_F(LiveSessionTest, GoesOnBehindAModalWindowThatDoesNotHoldTheCamera)
         EXPECT_TRUE(waitUntil([this] { return isPictureNew(); }));
     });
 }
+
+#ifdef Q_OS_LINUX
+TEST_F(LiveSessionTest, LeavesNoThreadBehindThatWorkedForALostCamera)
+{
+    const auto threads = [] {
+        return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+    };
+    const auto loseCamera = [this] {
+        startViewer();
+        clickCamera(0);
+        window().commands().openAction()->trigger();
+        window().commands().startAction()->trigger();
+        ASSERT_TRUE(waitForPicture());
+        m_first->loseConnection();
+        ASSERT_TRUE(waitUntil([this] { return hasMessage("is lost"); }));
+        m_viewer.reset();
+        m_first->reconnect();
+    };
+    // The first time makes what stays for the next.
+    ASSERT_NO_FATAL_FAILURE(loseCamera());
+    const int before = threads();
+    ASSERT_GT(before, 0);
+    for (int again = 0; again < 3; ++again)
+        ASSERT_NO_FATAL_FAILURE(loseCamera());
+    EXPECT_TRUE(waitUntil([&] { return threads() <= before; })) << threads() << ", not " << before;
+}
+#endif
 
 } // namespace
 } // namespace Viewer

@@ -117,10 +117,15 @@ TEST_F(MainWindowTest, TellsPluginsOfTheCameraThatIsSelectedFromTheBeginning)
               "Good selected " + m_first->displayName());
 }
 
-TEST_F(MainWindowTest, RunsWithoutAPluginFolder)
+TEST_F(MainWindowTest, SaysWhatToDoWhereThereAreNoPlugins)
 {
-    startViewer(folder() + "/nowhere");
-    EXPECT_TRUE(hasMessage("does not exist"));
+    QTemporaryDir empty;
+    for (const QString& plugins : {empty.path(), empty.filePath("nowhere")}) {
+        startViewer(plugins);
+        EXPECT_TRUE(hasMessage("There is no plugin in " + plugins)) << qPrintable(plugins);
+        EXPECT_TRUE(hasMessage("Install it again")) << qPrintable(plugins);
+        m_viewer.reset();
+    }
 }
 
 TEST_F(MainWindowTest, LanguageReachesPluginsAndTheNextStart)

@@ -84,6 +84,36 @@ TEST_F(ViewerSettingsTest, SetsADamagedFileAside)
     QFile::remove(m_file + ".unreadable");
 }
 
+TEST_F(ViewerSettingsTest, RemembersNothingWhereTheFileCannotBeRead)
+{
+    QSettings().sync();
+    QFile::remove(m_file);
+    ASSERT_TRUE(QDir().mkpath(m_file)) << "a folder in its place";
+    ViewerSettings settings;
+    EXPECT_FALSE(settings.isKept());
+    EXPECT_TRUE(settings.warning().contains("The settings file " + m_file + " cannot be read"));
+    settings.setValue("Name", "value");
+    EXPECT_EQ(settings.value("Name", "default").toString(), "default");
+    EXPECT_TRUE(QFileInfo(m_file).isDir());
+    EXPECT_TRUE(QDir().rmdir(m_file));
+}
+
+TEST_F(ViewerSettingsTest, LeavesADamagedFileThatCannotBeMoved)
+{
+    const QByteArray damaged = "[Viewer\nthis is no line of settings\n";
+    write(damaged);
+    // Not seen as a file, and nothing can be written through it.
+    ASSERT_TRUE(QFile::link("/nowhere/at/all", m_file + ".unreadable"));
+    ViewerSettings settings;
+    EXPECT_FALSE(settings.isKept());
+    EXPECT_TRUE(settings.warning().contains("The settings file " + m_file + " is damaged"));
+    EXPECT_TRUE(settings.warning().contains("Remove the file."));
+    settings.setValue("Name", "value");
+    EXPECT_EQ(contentOf(m_file), damaged);
+    QFile::remove(m_file + ".unreadable");
+    QFile::remove(m_file);
+}
+
 TEST_F(ViewerSettingsTest, KeepsEachDamagedFile)
 {
     for (const char* name : {".unreadable", ".unreadable2"}) {

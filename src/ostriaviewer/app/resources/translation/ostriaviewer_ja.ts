@@ -969,8 +969,8 @@ Model %2, %3</source>
         <translation>カメラ「%1」はありません。リストからカメラを選択してください。</translation>
     </message>
     <message>
-        <source>The plugin folder %1 does not exist; the viewer runs without plugins.</source>
-        <translation>プラグインフォルダー %1 がありません。ビューアーはプラグインなしで動作します。</translation>
+        <source>There is no plugin in %1, so the viewer runs without tools. Install it again, or start it with the option --plugins and the folder of its plugins.</source>
+        <translation>%1 にプラグインがないため、ビューアーはツールなしで動作します。ビューアーをインストールし直すか、オプション --plugins でプラグインのフォルダーを指定して起動してください。</translation>
     </message>
     <message>
         <source>Plugin %1 %2 is loaded.</source>

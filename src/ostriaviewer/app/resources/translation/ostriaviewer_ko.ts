@@ -969,8 +969,8 @@ Model %2, %3</source>
         <translation>&quot;%1&quot; 카메라가 없습니다. 목록에서 카메라를 선택하십시오.</translation>
     </message>
     <message>
-        <source>The plugin folder %1 does not exist; the viewer runs without plugins.</source>
-        <translation>플러그인 폴더 %1이(가) 없습니다. 뷰어가 플러그인 없이 실행됩니다.</translation>
+        <source>There is no plugin in %1, so the viewer runs without tools. Install it again, or start it with the option --plugins and the folder of its plugins.</source>
+        <translation>%1에 플러그인이 없어 뷰어가 도구 없이 실행됩니다. 뷰어를 다시 설치하거나 --plugins 옵션으로 플러그인 폴더를 지정하여 시작하십시오.</translation>
     </message>
     <message>
         <source>Plugin %1 %2 is loaded.</source>

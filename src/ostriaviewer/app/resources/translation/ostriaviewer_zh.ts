@@ -969,8 +969,8 @@ Model %2, %3</source>
         <translation>没有相机“%1”，请在列表中选择相机。</translation>
     </message>
     <message>
-        <source>The plugin folder %1 does not exist; the viewer runs without plugins.</source>
-        <translation>插件文件夹 %1 不存在，查看器将在没有插件的情况下运行。</translation>
+        <source>There is no plugin in %1, so the viewer runs without tools. Install it again, or start it with the option --plugins and the folder of its plugins.</source>
+        <translation>%1 中没有插件，查看器将在没有工具的情况下运行。请重新安装查看器，或使用选项 --plugins 指定插件文件夹来启动。</translation>
     </message>
     <message>
         <source>Plugin %1 %2 is loaded.</source>

@@ -224,6 +224,14 @@ Rectangle {
         navigation.enable()
     }
 
+    function closeBoxes() {
+        modelError.close()
+        modelWarning.close()
+        criticalError.answered = true
+        criticalError.close()
+        navigation.closeQuestion()
+    }
+
     function placeToolTip(item, mouseX, mouseY, toolTipText) {
         standardToolTip.text = toolTipText
         var toolTipWidth = standardToolTip.width
@@ -337,12 +345,11 @@ Rectangle {
     // A box that outlived the wizard would lock the viewer, and answer for a camera that is closed.
     Connections {
         target: qmlModelInterface
+        function onCameraLost() {
+            closeBoxes()
+        }
         function onCleanupQML() {
-            modelError.close()
-            modelWarning.close()
-            criticalError.answered = true
-            criticalError.close()
-            navigation.closeQuestion()
+            closeBoxes()
         }
     }
 

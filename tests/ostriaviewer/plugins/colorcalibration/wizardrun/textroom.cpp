@@ -40,7 +40,7 @@ bool isText(const QQuickItem* item)
 bool isControl(const QQuickItem* item)
 {
     static const QRegularExpression control(QStringLiteral(
-        "^(\\w*Button|\\w*CheckBox|ComboBox|Slider|FiledialogTextfield|ReportTable)_QML"));
+        "^(\\w*Button|\\w*CheckBox|\\w*ComboBox|Slider|FiledialogTextfield|ReportTable)_QML"));
     return QString::fromLatin1(item->metaObject()->className()).contains(control);
 }
 

@@ -78,7 +78,7 @@ void WizardRun::run(const std::function<void()>& inWizard)
         m_dialog->close();
     });
     m_dialog->exec();
-    EXPECT_TRUE(m_camera->isOpen()) << "the host's own";
+    EXPECT_EQ(m_camera->isOpen(), !m_isCameraLost) << "the host's own";
     EXPECT_FALSE(m_camera->isGrabbing());
 }
 
@@ -153,12 +153,31 @@ void WizardRun::confirm()
 
 QMessageBox* WizardRun::box()
 {
+    return boxes().value(0);
+}
+
+QVector<QMessageBox*> WizardRun::boxes()
+{
+    QVector<QMessageBox*> open;
     for (auto* widget : QApplication::topLevelWidgets()) {
         auto* found = qobject_cast<QMessageBox*>(widget);
         if (found && found->isVisible())
-            return found;
+            open << found;
     }
-    return nullptr;
+    return open;
+}
+
+void WizardRun::loseCamera()
+{
+    m_isCameraLost = true;
+    m_camera->loseConnection();
+}
+
+void WizardRun::findCameraAgain()
+{
+    m_camera->reconnect();
+    ASSERT_TRUE(m_pool->open(m_camera)) << m_camera->lastErrorText().toStdString();
+    m_isCameraLost = false;
 }
 
 bool WizardRun::waitFor(const std::function<bool()>& condition)

@@ -10,6 +10,7 @@
 
 #include <QMessageBox>
 #include <QQuickItem>
+#include <QVector>
 
 #include <functional>
 #include <memory>
@@ -46,6 +47,12 @@ protected:
     static bool waitFor(const std::function<bool()>& condition);
     /// The message box that is open; null if there is none.
     static QMessageBox* box();
+    /// All that are open.
+    static QVector<QMessageBox*> boxes();
+    /// Breaks the camera's connection. It is no longer open after the wizard then.
+    void loseCamera();
+    /// Reconnects and opens it.
+    void findCameraAgain();
 
     /// The camera's settings, without comments.
     QStringList settings();
@@ -60,4 +67,7 @@ protected:
     ColorCalibration::ColorCorrectionModel m_model;
     std::unique_ptr<ColorCalibration::QmlDataModelInterface> m_data;
     std::unique_ptr<ColorCalibration::ColorCorrectionToolDlg> m_dialog;
+
+private:
+    bool m_isCameraLost = false;
 };

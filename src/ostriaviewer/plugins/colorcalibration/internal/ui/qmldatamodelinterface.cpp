@@ -96,6 +96,7 @@ void QmlDataModelInterface::connectModel()
     connect(m_model, &Model::cameraRemoved, this, &QmlDataModelInterface::onCameraRemoved);
     connect(m_camera.get(), &QMLOstriaCamera::imageFailed, this,
             &QmlDataModelInterface::forwardImageGrabFailed);
+    connect(this, &QmlDataModelInterface::cleanupQML, this, &QmlDataModelInterface::dropSearches);
 }
 
 void QmlDataModelInterface::loadScene()
@@ -124,7 +125,7 @@ void QmlDataModelInterface::resetScene()
 {
     if (!m_view)
         return;
-    ++m_scene;
+    dropSearches();
     m_restoreFailure.clear();
     m_view->setSource(QUrl());
     m_view->engine()->clearComponentCache();
@@ -222,7 +223,15 @@ void QmlDataModelInterface::setSingleShotEnabled(bool singleShotEnabled)
 void QmlDataModelInterface::onCameraRemoved()
 {
     m_camera->stopGrab();
+    dropSearches();
+    emit cameraLost();
     emit forwardCameraRemoved();
+}
+
+// Those that are under way come to their end, but no scene hears of it.
+void QmlDataModelInterface::dropSearches()
+{
+    ++m_scene;
 }
 
 void QmlDataModelInterface::onCalibrationFinished()

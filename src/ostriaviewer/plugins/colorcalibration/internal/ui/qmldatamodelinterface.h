@@ -198,6 +198,10 @@ signals:
     /// There is a sceneProblem, or none any more.
     void sceneProblemChanged();
 
+    /// The wizard will end as soon as this has been told. Comes before forwardCameraRemoved, whose
+    /// message box lets everything else go on.
+    void cameraLost();
+
 private:
     struct ChartSearch
     {
@@ -213,6 +217,7 @@ private:
     void giveSettingsBack();
     bool tellOutcome(bool success, const QString& whenDone, const QString& whenFailed,
                      const QString& target);
+    void dropSearches();
     ChartSearch searchChart();
     void endChartSearch(const ChartSearch& search, int scene, int step);
     void beginBusyCursor();

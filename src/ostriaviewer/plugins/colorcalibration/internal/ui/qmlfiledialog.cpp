@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QQuickWindow>
 
 namespace ColorCalibration {
 namespace {
@@ -13,6 +14,17 @@ namespace {
 QList<QUrl> urlsOf(QStringList paths)
 {
     return QUrl::fromStringList(paths.replaceInStrings(QStringLiteral("%"), QStringLiteral("%25")));
+}
+
+// Qt takes the current folder for one that is not there, as documents that nobody has made yet.
+QUrl nearestFolder(const QUrl& folder)
+{
+    if (!folder.isLocalFile())
+        return folder;
+    QString path = QDir::cleanPath(folder.toLocalFile());
+    while (!QFileInfo(path).isDir() && path != QFileInfo(path).path())
+        path = QFileInfo(path).path();
+    return QUrl::fromLocalFile(path);
 }
 
 /// A dialog whose Open button also takes a folder. Qt's own one enters it unless its file mode says
@@ -94,10 +106,13 @@ void QMLFileDialog::open()
         dialog.setFileMode(m_selectMultiple ? QFileDialog::ExistingFiles
                                             : QFileDialog::ExistingFile);
     dialog.setWindowTitle(m_title);
-    dialog.setDirectoryUrl(m_folder);
+    dialog.setDirectoryUrl(nearestFolder(m_folder));
     dialog.setNameFilters(m_nameFilters);
     connect(&dialog, &QFileDialog::accepted, this, &QMLFileDialog::onAccept);
     connect(&dialog, &QFileDialog::rejected, this, &QMLFileDialog::onReject);
+    // One that outlived its window would lock the program.
+    if (window())
+        connect(window(), &QWindow::visibleChanged, &dialog, &QFileDialog::reject);
     dialog.exec();
 }
 

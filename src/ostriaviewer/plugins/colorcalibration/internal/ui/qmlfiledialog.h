@@ -19,7 +19,8 @@ class QMLFileDialog : public QQuickItem
     /// text with "%" as "%25". Empty if several were chosen.
     Q_PROPERTY(QUrl fileUrl READ fileUrl NOTIFY fileUrlChanged)
     Q_PROPERTY(QList<QUrl> fileUrls READ fileUrls NOTIFY fileUrlsChanged)
-    /// Where the dialog opens, a file URL. Does not follow the choice.
+    /// Where the dialog opens, a file URL; a folder that is not there stands for the nearest one
+    /// above it. Does not follow the choice.
     Q_PROPERTY(QUrl folder READ folder WRITE setFolder NOTIFY folderChanged)
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
     /// As in "Settings (*.cst)".
@@ -46,7 +47,7 @@ public:
     void setSelectMultiple(bool selectMultiple);
     void setSelectFolder(bool selectFolder);
 
-    /// Shows the dialog and returns when it has ended.
+    /// Shows the dialog and returns when it has ended. The end of the item's window rejects it.
     Q_INVOKABLE void open();
 
 signals:

@@ -58,7 +58,7 @@ Item {
             imageHeight = camera.size.height
             if (initial) {
                 Utility.fitTransformation(canvasStep12)
-                if (!stepBar.moving)
+                if (stepBar.isCameraFree)
                     camera.singleGrab()
             }
             if (qmlModelInterface.initial) {
@@ -301,7 +301,7 @@ Item {
             if (!canvasStep12.initial)
                 return
             // Else it begins when the camera has been led to another step.
-            if (autoRefreshChecked && !stepBar.moving)
+            if (autoRefreshChecked && stepBar.isCameraFree)
                 camera.startGrab()
             if (showGrid.checked)
                 qmlModelInterface.updateTrapezoidList()

@@ -13,8 +13,13 @@ Item {
     // The camera's images are waited for in event loops, in which clicks, keys and the end of the
     // wizard arrive. What changes the camera must not begin a second time in there.
     property bool moving: false
-    property bool closed: false
     property bool cancelWanted: false
+
+    // The wizard has ended, or will as soon as the user has read that the camera is lost.
+    property bool closed: false
+
+    // Otherwise pages would ask a camera that is being led on, or that is not there.
+    readonly property bool isCameraFree: !moving && !closed
 
     readonly property int activeStep: qmlModelInterface.activeStep
     readonly property real outerLine: (width - 8 * margin) / 8
@@ -243,6 +248,9 @@ Item {
 
     Connections {
         target: qmlModelInterface
+        function onCameraLost() {
+            bar.closed = true
+        }
         function onCleanupQML() {
             bar.closed = true
         }

@@ -57,7 +57,8 @@ TableView {
             anchors.leftMargin: margin / 2
             verticalAlignment: Text.AlignVCenter
             elide: styleData.elideMode
-            color: palette.text
+            // Colors of the wizard's own have a text that goes with them, whatever the desktop's is.
+            color: styleData.selected ? "black" : palette.text
             font.pixelSize: mDefaultPixelSize
             text: table.shown(styleData.value)
         }
@@ -76,7 +77,7 @@ TableView {
             anchors.verticalCenter: parent.verticalCenter
             wrapMode: wrapsHeader ? Text.WordWrap : Text.NoWrap
             elide: wrapsHeader ? Text.ElideNone : Text.ElideRight
-            color: palette.text
+            color: "black"
             font.pixelSize: mDefaultPixelSize
             text: styleData.value
         }

@@ -21,7 +21,7 @@ Item {
     }
 
     function runAutoAdjustGray80Percent() {
-        // The end of a run that another one replaces would enable the page in the middle of it.
+        // Another run would only begin the one that is under way anew.
         if (!autoButton.enabled)
             return
         checkTimer.updateImages = true
@@ -44,7 +44,7 @@ Item {
         if (!completed)
             return
         checkTimer.updateImages = true
-        if (slider.enabled)
+        if (slider.enabled && stepBar.isCameraFree)
             adapter.value = slider.value
         Utility.hideToolTip()
     }
@@ -239,8 +239,7 @@ Item {
         repeat: true
         interval: 500
         onTriggered: {
-            // A grab must not begin while the camera is led to another step.
-            if (stepBar.moving || !updateImages || (controlsEnabled && autoRefreshChecked))
+            if (!stepBar.isCameraFree || !updateImages || (controlsEnabled && autoRefreshChecked))
                 return
             camera.singleGrab()
             updateImages = false
@@ -265,6 +264,9 @@ Item {
         target: qmlModelInterface
         function onAutoAdjustGray80PercentPatchFinished() {
             page.setEnabled(true)
+        }
+        function onCameraLost() {
+            autoAdjustGrayError.close()
         }
         function onCleanupQML() {
             Utility.cleanUpQml()

@@ -76,14 +76,13 @@ Item {
     ListModel { id: hsbcModel }
     ListModel { id: lutModel }
 
-    ComboBox {
+    TavrinComboBox {
         id: reports
         objectName: "reports"
         anchors.left: reportsLabel.right
         anchors.leftMargin: margin
         y: -distanceToImage
         width: Math.min(3.5 * mButtonWidth, page.mainWidth - x)
-        height: mButtonHeight
         Accessible.name: tValueSummaries
         model: [qsTr("Colors"), qsTr("Black Level"), qsTr("White Balance"),
                 qsTr("Color Transformation"), qsTr("Color Adjustment Hue"),
@@ -288,12 +287,15 @@ Item {
             page.fillJasonStatisticsToModel()
         }
         function onAutoAdjustGray80PercentPatchFinished() {
-            // The way to another step has ended the run.
-            if (stepBar.moving)
+            // What ended the run is the way to another step, or the end of the wizard.
+            if (!stepBar.isCameraFree)
+                return
+            var succeeded = Utility.autoCalibrate()
+            if (stepBar.closed)
                 return
             // Without results nothing else would enable the page again, and those of before are not
             // those of the settings that the camera has now.
-            if (!Utility.autoCalibrate() && !stepBar.closed) {
+            if (!succeeded) {
                 page.setEnabled(true)
                 page.fillJasonStatisticsToModel()
             }

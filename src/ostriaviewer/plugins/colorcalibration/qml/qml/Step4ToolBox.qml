@@ -25,7 +25,10 @@ Item {
         Utility.setPageEnabled(enabled)
     }
 
+    // Where results are still to be measured, the camera can be lost meanwhile.
     function showError(text) {
+        if (stepBar.closed)
+            return
         modelError.text = text
         modelError.open()
     }
@@ -67,7 +70,7 @@ Item {
             showError(tMsgErrSaveToFilePath)
         if (!qmlModelInterface.saveSummaryToFilePath())
             showError(tMsgErrSaveSummary)
-        if (userSets.currentIndex !== 0)
+        if (userSets.currentIndex !== 0 && !stepBar.closed)
             saveUserSet()
     }
 
@@ -159,13 +162,12 @@ Item {
             font.pixelSize: mDefaultPixelSize
             text: tSaveSettingsAsUserSet
         }
-        ComboBox {
+        TavrinComboBox {
             id: userSets
             objectName: "userSets"
             x: page.labelWidth + margin
             y: 2 * page.rowDistance
             width: 2 * mButtonWidth
-            height: mButtonHeight
             Accessible.name: tSaveSettingsAsUserSet
             model: [tNone]
             onHoveredChanged: hovered ? Utility.showToolTip(page, userSets, width / 2, height / 2,
@@ -235,8 +237,8 @@ Item {
     Connections {
         target: qmlModelInterface
         function onAutoAdjustGray80PercentPatchFinished() {
-            // The way to another step has ended the run.
-            if (stepBar.moving)
+            // What ended the run is the way to another step, or the end of the wizard.
+            if (!stepBar.isCameraFree)
                 return
             Utility.autoCalibrate()
             if (stepBar.closed)

@@ -105,7 +105,7 @@ function calibrateAgain() {
 function setPageEnabled(enabled) {
     qmlModelInterface.singleShotEnabled = enabled && !autoRefreshChecked
     setNaviationEnabled(enabled)
-    if (!autoRefreshChecked)
+    if (!autoRefreshChecked || stepBar.closed)
         return
     if (enabled)
         camera.startGrab()

@@ -164,6 +164,20 @@ TEST_F(BrightnessPage, SlidersFollowTheirAdapters)
     EXPECT_NEAR(property("exposureSlider", "value").toDouble(), 0.7, 1e-9);
 }
 
+TEST_F(BrightnessPage, SlidersThatFollowLeaveACameraAloneThatIsLedOn)
+{
+    openAt(2);
+    m_log.during["restoreSettingsBackup(true)"] = [this] {
+        m_exposure.report(0.7);
+        m_gain.report(0.25);
+    };
+    click("nextButton");
+    ASSERT_EQ(m_model.activeStep(), 3);
+    const QStringList calls = takeCalls();
+    EXPECT_TRUE(calls.contains("restoreSettingsBackup(true)"));
+    EXPECT_EQ(calls.filter("exposure=") + calls.filter("gain="), QStringList());
+}
+
 TEST_F(BrightnessPage, SlidersWriteWhatTheMousePicks)
 {
     openAt(2);
@@ -271,6 +285,35 @@ TEST_F(BrightnessPage, OffersSingleShotsAgainAfterTheAdjustment)
     emit m_model.autoAdjustGray80PercentPatchFinished();
     EXPECT_TRUE(isEnabled("singleShotButton"));
     EXPECT_TRUE(takeCalls().isEmpty());
+}
+
+TEST_F(BrightnessPage, AsksNothingOfACameraThatIsLostWhileItIsAdjusted)
+{
+    openAt(2);
+    click("autoButton");
+    takeCalls();
+    emit m_model.cameraLost();
+    ASSERT_TRUE(property("checkTimer", "updateImages").toBool());
+    expire();
+    EXPECT_TRUE(takeCalls().isEmpty()) << "the adjustment is still under way";
+    emit m_model.autoAdjustGray80PercentPatchFinished();
+    expire();
+    EXPECT_TRUE(takeCalls().isEmpty()) << "and has ended";
+    EXPECT_TRUE(boxes().isEmpty());
+}
+
+TEST_F(BrightnessPage, ItsMessagesGoWithTheCamera)
+{
+    openAt(2);
+    m_gain.refuse("Couldn't set gain value!<br>");
+    ASSERT_EQ(boxes().size(), 1);
+    emit m_model.cameraLost();
+    EXPECT_TRUE(waitFor([this] { return boxes().isEmpty(); })) << "the loss tells enough";
+    m_log.failing = {"autoAdjustGray80PercentPatch()"};
+    click("autoButton");
+    ASSERT_EQ(boxes().size(), 1);
+    emit m_model.cameraLost();
+    EXPECT_TRUE(waitFor([this] { return boxes().isEmpty(); }));
 }
 
 TEST_F(BrightnessPage, IsSetBackWhenTheWindowCloses)

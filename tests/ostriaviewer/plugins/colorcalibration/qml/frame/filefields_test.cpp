@@ -35,6 +35,21 @@ protected:
     QTemporaryDir m_folder;
 };
 
+TEST_F(FileFields, LeaveNoDialogBehindTheWizard)
+{
+    openAt(1);
+    bool isShown = false;
+    onDialog([&](QFileDialog* dialog) {
+        isShown = dialog->isVisible();
+        m_view->hide();
+        EXPECT_FALSE(dialog->isVisible());
+        dialog->close();
+    });
+    click("openIcon");
+    EXPECT_TRUE(isShown);
+    EXPECT_EQ(m_model.m_previousFile, "");
+}
+
 TEST_F(FileFields, TakeTheChosenFileWithItsSpacesAndPercents)
 {
     const QString path = m_folder.filePath("my 100% settings ä.cst");

@@ -67,6 +67,17 @@ TEST_F(GridPage, ShowsTheGridWithTheFirstImage)
     EXPECT_TRUE(takeCalls().isEmpty());
 }
 
+TEST_F(GridPage, StartsNoLiveImageForAFirstImageThatComesAfterItsEnd)
+{
+    for (const auto end : {&ModelDouble::cleanupQML, &ModelDouble::cameraLost}) {
+        open();
+        emit(m_model.*end)();
+        takeCalls();
+        emit m_camera.imageChanged();
+        EXPECT_EQ(takeCalls(), QStringList{"updateTrapezoidList()"});
+    }
+}
+
 TEST_F(GridPage, TakesOneImageAloneWithoutContinuousShot)
 {
     open();

@@ -39,13 +39,40 @@ TEST_F(Texts, AreThoseThatTheTranslationsAreFoundBy)
 TEST_F(Texts, MeasuresAndColorsAreThoseOfTheDesign)
 {
     open();
-    EXPECT_EQ(number("mSliderWidth"), 430);
-    EXPECT_EQ(number("mStepSize"), 0.01);
-    EXPECT_EQ(number("mToolboxHeight"), 180);
-    EXPECT_EQ(number("mTouchPointRadius"), 8);
-    EXPECT_EQ(number("mTextFieldCorrection"), -2);
-    EXPECT_EQ(number("mGray80PercentHitRateNoValue"), 1000);
-    EXPECT_EQ(globalValue("cTavrinBlue").value<QColor>(), QColor("#00649E"));
+    const QVector<QPair<const char*, double>> measures{{"iStep1", 1},
+                                                       {"iStep2", 2},
+                                                       {"iStep3", 3},
+                                                       {"iStep4", 4},
+                                                       {"mSliderMin", 0},
+                                                       {"mSliderMax", 1},
+                                                       {"mStepSize", 0.01},
+                                                       {"mSliderWidth", 430},
+                                                       {"mDefaultPixelSize", 11},
+                                                       {"mToolboxHeight", 180},
+                                                       {"mButtonHeight", 24},
+                                                       {"mButtonWidth", 100},
+                                                       {"mIconSize", 16},
+                                                       {"margin", 10},
+                                                       {"mTouchPointRadius", 8},
+                                                       {"mBorderDist", 10},
+                                                       {"mMinLineThickness", 1},
+                                                       {"mTextFieldCorrection", -2},
+                                                       {"mTextInputCursorCorrection", 3},
+                                                       {"mGray80PercentHitRateNoValue", 1000},
+                                                       {"mGray80PercentHitScale", 200},
+                                                       {"mImageReloadInterval", 200},
+                                                       {"mMaxWidth", 800},
+                                                       {"mTableColumnWidth", 80},
+                                                       {"mTableColumnMinWidth", 60}};
+    for (const auto& [name, expected] : measures)
+        EXPECT_EQ(number(name), expected) << name;
+    const QVector<QPair<const char*, const char*>> colors{
+        {"cTavrinBlue", "#00649e"},       {"cTavrinLightGrey", "#f0f0f0"},
+        {"cTavrinBorderGrey", "#828790"}, {"cTouchPointColor", "#333333"},
+        {"cTavrinGrey", "#a3a3a3"},       {"cStepColorDark", "#666666"},
+        {"cStepColorLight", "#cccccc"}};
+    for (const auto& [name, expected] : colors)
+        EXPECT_EQ(globalValue(name).value<QColor>().name(), expected) << name;
     EXPECT_EQ(m_view->rootObject()->property("color").value<QColor>(), QColor("#f0f0f0"));
 }
 

@@ -129,6 +129,45 @@ TEST_P(Exhibition, TellsTheFirstOfTwoFailures)
     }
 }
 
+TEST_P(Exhibition, LeavesACameraAloneThatIsLostWhileTheBrightnessIsAdjusted)
+{
+    for (const bool isLive : {false, true}) {
+        if (isLive)
+            openPage();
+        else
+            openPageWithoutLiveImage();
+        disablePage();
+        m_log.made.clear();
+        emit m_model.cameraLost();
+        emit m_model.autoAdjustGray80PercentPatchFinished();
+        EXPECT_EQ(m_log.made, QStringList()) << isLive;
+        EXPECT_EQ(takeMessage(), "") << isLive;
+    }
+}
+
+TEST_P(Exhibition, LeavesACameraAloneThatIsLostInTheCalibration)
+{
+    openPageWithoutLiveImage();
+    m_log.failing = {"applyInitialColorPatchValues()"};
+    m_log.during["applyInitialColorPatchValues()"] = [this] {
+        emit m_model.cameraLost();
+    };
+    emit m_model.autoAdjustGray80PercentPatchFinished();
+    EXPECT_EQ(m_log.made, sequence.mid(0, 3));
+    EXPECT_EQ(takeMessage(), "");
+}
+
+TEST_P(Exhibition, TheMessageOfAFailureGoesWithTheCamera)
+{
+    openPage();
+    m_log.failing = {"setNeutralSettings()"};
+    emit m_model.autoAdjustGray80PercentPatchFinished();
+    auto* message = m_view->rootObject()->findChild<QObject*>("modelError");
+    ASSERT_TRUE(message->property("visible").toBool());
+    emit m_model.cameraLost();
+    EXPECT_FALSE(message->property("visible").toBool());
+}
+
 TEST_P(Exhibition, StartsTheLiveImageAgainAfterAFailure)
 {
     openPage();

@@ -3,6 +3,8 @@
 #include "resultspages.h"
 
 #include <QAbstractItemModel>
+#include <QMap>
+#include <QQmlProperty>
 #include <QTest>
 
 namespace {
@@ -275,6 +277,32 @@ TEST_F(Step3, BeginsAtTheListOfReports)
 {
     open(3);
     EXPECT_TRUE(item("reports")->hasActiveFocus());
+}
+
+TEST_F(Step3, ExplainsAPatchInASquareOfFourLines)
+{
+    open(3);
+    auto* square = item("legendSquare");
+    QVector<QQuickItem*> lines;
+    for (auto* text : square->parentItem()->childItems().constFirst()->childItems())
+        lines << text;
+    ASSERT_EQ(lines.size(), 3);
+    const QStringList expected{"1 - Target Value", "2 - Original Value", "3 - Current Value"};
+    for (int line = 0; line < lines.size(); ++line)
+        EXPECT_EQ(lines[line]->property("text").toString(), expected[line]);
+    const double side = 4 * lines[0]->height();
+    EXPECT_EQ(square->size(), QSizeF(side, side));
+    EXPECT_EQ(square->property("color").value<QColor>(), QColor("white"));
+    EXPECT_EQ(QQmlProperty(square, "border.color").read().value<QColor>(), QColor("#828790"));
+    QMap<QString, QPointF> digits;
+    for (auto* child : square->childItems())
+        if (child->inherits("QQuickText"))
+            digits[child->property("text").toString()] =
+                child->position() + QPointF(child->width(), child->height()) / 2;
+    ASSERT_EQ(digits.keys(), QStringList({"1", "2", "3"}));
+    EXPECT_LT(digits["1"].y(), side / 2);
+    EXPECT_LT(digits["2"].x(), side / 2);
+    EXPECT_GT(digits["3"].x(), side / 2);
 }
 
 TEST_F(Step3, FillsTheTablesAnewAfterACalibration)

@@ -221,4 +221,17 @@ TEST_F(Step4, CannotSaveWhileThePageIsDisabled)
     EXPECT_TRUE(canSave());
 }
 
+TEST_F(Step4, LeavesACameraAloneThatIsLostWhileItSaves)
+{
+    openPage();
+    chooseUserSet(1);
+    m_log.failing = {"saveSummaryToFilePath()"};
+    m_log.during["saveSummaryToFilePath()"] = [this] {
+        emit m_model.cameraLost();
+    };
+    save();
+    EXPECT_EQ(m_log.made, (QStringList{saveCalls[0], saveCalls[1]}));
+    EXPECT_EQ(takeMessage(), "");
+}
+
 } // namespace

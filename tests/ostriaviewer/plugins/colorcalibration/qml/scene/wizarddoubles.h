@@ -117,6 +117,7 @@ signals:
     void exhibitionChanged();
     void locationChanged();
     void cleanupQML();
+    void cameraLost();
     void autoAdjustGray80PercentPatchFinished();
     void autoChartFindFinished(bool valid);
     void calibrationFinished();

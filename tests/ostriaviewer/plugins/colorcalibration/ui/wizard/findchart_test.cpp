@@ -135,6 +135,28 @@ TEST_F(FindChartTest, AResultForASceneThatHasGoneIsDropped)
     EXPECT_FALSE(QApplication::overrideCursor());
 }
 
+TEST_F(FindChartTest, AResultForAWizardThatHasEndedIsDropped)
+{
+    for (const bool isCameraLost : {false, true}) {
+        QSemaphore release;
+        m_model.onGrab = [&release] {
+            release.acquire();
+        };
+        m_data->findChartAsync();
+        if (isCameraLost)
+            emit m_model.cameraRemoved();
+        else
+            emit m_data->cleanupQML();
+        const TrapezoidPoints before = m_model.outline;
+        release.release();
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(m_found.count(), 0) << isCameraLost;
+        EXPECT_EQ(m_model.outline, before) << isCameraLost;
+        EXPECT_FALSE(QApplication::overrideCursor()) << isCameraLost;
+    }
+}
+
 TEST_F(FindChartTest, AResultForAStepThatHasGoneIsDropped)
 {
     QSemaphore release;

@@ -162,6 +162,17 @@ TEST_F(QmlDataModelInterfaceTest, SignalsOfAnotherThreadArriveOnTheGuiThread)
     EXPECT_EQ(m_data->gray80PercentHitRate(), 97.5);
 }
 
+TEST_F(QmlDataModelInterfaceTest, TheSceneKnowsOfALossBeforeTheUserIsTold)
+{
+    QStringList told;
+    QObject::connect(m_data.get(), &QmlDataModelInterface::forwardCameraRemoved,
+                     [&told] { told << "user"; });
+    QObject::connect(m_data.get(), &QmlDataModelInterface::cameraLost,
+                     [&told] { told << "scene"; });
+    emit m_model.cameraRemoved();
+    EXPECT_EQ(told, QStringList({"scene", "user"}));
+}
+
 TEST_F(QmlDataModelInterfaceTest, AFailedImageIsForwarded)
 {
     const QSignalSpy failed(m_data.get(), &QmlDataModelInterface::forwardImageGrabFailed);

@@ -115,6 +115,17 @@ TEST_F(QmlFileDialogTest, TheDialogShowsTheProperties)
     });
 }
 
+TEST_F(QmlFileDialogTest, AFolderThatIsNotThereStandsForTheNearestAboveIt)
+{
+    const QUrl missing = QUrl::fromLocalFile(m_folder.filePath("not/there"));
+    m_item.setFolder(missing);
+    open([this](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory(), QDir(m_folder.path()));
+        dialog.reject();
+    });
+    EXPECT_EQ(m_item.folder(), missing);
+}
+
 TEST_F(QmlFileDialogTest, AChosenFileIsAUsablePath)
 {
     m_item.setFolder(QUrl::fromLocalFile(m_folder.path()));
