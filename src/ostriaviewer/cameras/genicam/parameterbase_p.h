@@ -15,7 +15,6 @@
 
 #include <atomic>
 #include <memory>
-#include <optional>
 #include <utility>
 
 namespace Cameras::GenICam {
@@ -32,9 +31,8 @@ public:
 
     ~ParameterBase() override
     {
-        const ReadLock lock(m_map->d().mutex());
         if (m_watch)
-            m_map->d().changes().remove(*m_watch);
+            m_map->d().changes().remove(m_watch);
     }
 
     QString name() const override { return m_feature.name(); }
@@ -98,17 +96,20 @@ protected:
         }
     }
 
-    /// Nobody pays for the signal of a parameter without receivers.
+    /// Nobody pays for the signal of a parameter without receivers. Whether there still are some is
+    /// asked at each change: disconnectNotify may be called with mutexes of Qt's held, which
+    /// isSignalConnected wants too.
     void connectNotify(const QMetaMethod& signal) override
     {
-        if (signal != changeSignal())
+        if (signal != changeSignal() || isEmpty())
             return;
         const ReadLock lock(map().mutex());
-        if (!m_watch && !isEmpty())
-            m_watch = map().changes().add(m_feature, [this] { announce(); });
+        if (!m_watch)
+            m_watch = map().changes().add(
+                m_feature, [this] { return this->isSignalConnected(changeSignal()); },
+                [this] { announce(); });
+        ChangeWatch::renew(*m_watch);
     }
-
-    void disconnectNotify(const QMetaMethod&) override { stopUnheardWatch(); }
 
 private:
     static QMetaMethod changeSignal()
@@ -117,23 +118,12 @@ private:
             &Core::ParameterCollection::IParameter::parameterDataChangedDecoupled);
     }
 
-    void stopUnheardWatch()
-    {
-        const ReadLock lock(map().mutex());
-        if (!m_watch || this->isSignalConnected(changeSignal()))
-            return;
-        map().changes().remove(*m_watch);
-        m_watch.reset();
-    }
-
     void announce()
     {
         if (m_isAnnounced.exchange(true))
             return;
         const auto tell = [this] {
             m_isAnnounced = false;
-            // Receivers that were deleted have not told us.
-            stopUnheardWatch();
             emit this->parameterDataChangedDecoupled();
         };
         QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
@@ -141,7 +131,7 @@ private:
 
     std::shared_ptr<NodeMap> m_map;
     Feature m_feature;
-    std::optional<ChangeWatch::Handle> m_watch;
+    ChangeWatch::Handle m_watch; // null until somebody connects
     std::atomic<bool> m_isAnnounced{false};
 };
 

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <thread>
+#include <vector>
 
 using Core::ParameterCollection::IParameter;
 using Core::ParameterCollection::ParameterPtr;
@@ -173,22 +174,42 @@ TEST_F(ChangeWatch, ParametersWithoutReceiversCostNothing)
     EXPECT_EQ(port->reads, alone);
 }
 
-TEST_F(ChangeWatch, DeletedReceiversCostNothingAfterTheNextChange)
+// Qt guards the connections of all objects with a fixed number of mutexes, and holds that of the
+// receiver meanwhile. It is the parameter's too for some address of this many.
+TEST_F(ChangeWatch, DeletedReceiversCostNothingAndBlockNothing)
 {
+    constexpr std::size_t enough = 1000;
     const auto width = camera->integerParameter("Width"_q);
     const auto gain = camera->floatParameter("Gain"_q);
     port->reads = 0;
     gain->setValue(2);
     const int alone = port->reads;
-    auto receiver = std::make_unique<QObject>();
-    QObject::connect(width.data(), &IParameter::parameterDataChangedDecoupled, receiver.get(),
-                     [] {});
-    receiver.reset();
-    width->setValue(320, true);
-    deliver();
+    std::vector<std::unique_ptr<QObject>> receivers(enough);
+    for (auto& receiver : receivers) {
+        receiver = std::make_unique<QObject>();
+        QObject::connect(width.data(), &IParameter::parameterDataChangedDecoupled, receiver.get(),
+                         [] {});
+    }
+    receivers.clear();
     port->reads = 0;
     gain->setValue(4);
     EXPECT_EQ(port->reads, alone);
+}
+
+TEST_F(ChangeWatch, NewReceiversHearWhatHappensFromThenOn)
+{
+    const auto width = camera->integerParameter("Width"_q);
+    int count = 0;
+    watch(width, count);
+    QObject::disconnect(width.data(), nullptr, &m_receiver, nullptr);
+    width->setValue(320, true);
+    watch(width, count);
+    camera->floatParameter("Gain"_q)->setValue(4);
+    deliver();
+    EXPECT_EQ(count, 0);
+    width->setValue(640, true);
+    deliver();
+    EXPECT_EQ(count, 1);
 }
 
 TEST_F(ChangeWatch, AReceiverMayReleaseTheParameter)
