@@ -15,6 +15,7 @@
 
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <utility>
 
 namespace Cameras::GenICam {
@@ -41,35 +42,21 @@ public:
     QString unit() const override { return isEmpty() ? QString() : read(unitOf); }
     bool isEmpty() const override { return m_feature.isEmpty(); }
 
-    bool isAvailable() const override
-    {
-        const ReadLock lock(m_map->d().mutex());
-        return m_feature.isAvailable();
-    }
-
-    bool isReadable() const override
-    {
-        const ReadLock lock(m_map->d().mutex());
-        const LibraryScope scope(m_map->d().camera(), m_feature.name());
-        return m_feature.isReadable();
-    }
-
-    bool isWritable() const override
-    {
-        const ReadLock lock(m_map->d().mutex());
-        const LibraryScope scope(m_map->d().camera(), m_feature.name());
-        return m_feature.isWritable();
-    }
+    bool isAvailable() const override { return is(&Feature::isAvailable); }
+    bool isReadable() const override { return is(&Feature::isReadable); }
+    bool isWritable() const override { return is(&Feature::isWritable); }
 
 protected:
     const Feature& feature() const { return m_feature; }
     NodeMapPrivate& map() const { return m_map->d(); }
+    const std::shared_ptr<NodeMap>& nodeMap() const { return m_map; }
 
     /// Asks the feature, with the device held.
     template <class Ask>
     auto read(const Ask& ask) const
     {
-        const ReadLock lock(map().mutex());
+        m_feature.requireConnection();
+        const ReadLock lock(map(), m_feature.name());
         m_feature.requireThere();
         const LibraryScope scope(map().camera(), m_feature.name());
         return ask(m_feature);
@@ -79,7 +66,8 @@ protected:
     template <class Change>
     void write(const Change& change) const
     {
-        const WriteLock lock(map());
+        m_feature.requireConnection();
+        const WriteLock lock(map(), m_feature.name());
         const LibraryScope scope(map().camera(), m_feature.name());
         change(m_feature);
     }
@@ -103,19 +91,44 @@ protected:
     {
         if (signal != changeSignal() || isEmpty())
             return;
-        const ReadLock lock(map().mutex());
-        if (!m_watch)
-            m_watch = map().changes().add(
-                m_feature, [this] { return this->isSignalConnected(changeSignal()); },
-                [this] { announce(); });
-        ChangeWatch::renew(*m_watch);
+        try {
+            const ChangeWatch::Handle watched = watch();
+            const ReadLock lock(map());
+            ChangeWatch::renew(*watched);
+        } catch (const ::GenICam::RuntimeException&) {
+            return; // the first change tells
+        }
     }
 
 private:
+    /// A question that is answered with false where the camera does not answer it.
+    bool is(bool (Feature::*ask)() const) const
+    {
+        try {
+            if (isEmpty() || !map().isConnected())
+                return false;
+            const ReadLock lock(map());
+            const LibraryScope scope(map().camera(), m_feature.name());
+            return (m_feature.*ask)();
+        } catch (const ::GenICam::RuntimeException&) {
+            return false;
+        }
+    }
+
     static QMetaMethod changeSignal()
     {
         return QMetaMethod::fromSignal(
             &Core::ParameterCollection::IParameter::parameterDataChangedDecoupled);
+    }
+
+    ChangeWatch::Handle watch()
+    {
+        const std::lock_guard lock(m_watchMutex);
+        if (!m_watch)
+            m_watch = map().changes().add(
+                m_feature, [this] { return this->isSignalConnected(changeSignal()); },
+                [this] { announce(); });
+        return m_watch;
     }
 
     void announce()
@@ -131,6 +144,7 @@ private:
 
     std::shared_ptr<NodeMap> m_map;
     Feature m_feature;
+    std::mutex m_watchMutex;
     ChangeWatch::Handle m_watch; // null until somebody connects
     std::atomic<bool> m_isAnnounced{false};
 };

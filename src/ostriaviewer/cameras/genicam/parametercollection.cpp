@@ -77,13 +77,13 @@ public:
 
     std::vector<FeatureCategory> categories() const override
     {
-        const ReadLock lock(m_map->d().mutex());
+        const ReadLock lock(m_map->d());
         return featureCategories(m_map->d());
     }
 
     QVersionNumber sfncVersion() const override
     {
-        const ReadLock lock(m_map->d().mutex());
+        const ReadLock lock(m_map->d());
         if (!m_sfncVersion)
             m_sfncVersion = readSfncVersion();
         return *m_sfncVersion;
@@ -109,7 +109,7 @@ private:
     Feature find(const QString& names) const
     {
         const QStringList alternatives = names.split(QLatin1Char('|'));
-        const ReadLock lock(m_map->d().mutex());
+        const ReadLock lock(m_map->d());
         for (const QString& name : alternatives) {
             const Feature feature = Feature::find(m_map->d(), plainName(name));
             if (!feature.isEmpty())

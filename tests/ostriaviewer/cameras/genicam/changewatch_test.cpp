@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // What must hold for notifications of changed features.
+#include "patience.h"
 #include "testcamera.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -129,6 +131,40 @@ TEST_F(ChangeWatch, AnnouncesWhatACommandDid)
     camera->commandParameter("Save"_q)->execute();
     deliver();
     EXPECT_EQ(count, 1);
+}
+
+TEST_F(ChangeWatch, AnnouncesWhatACommandDidThatNobodyWaitedFor)
+{
+    // Finishes a command, and does what it is for, when it may and is asked next.
+    class LatePort final : public MemoryPort
+    {
+    public:
+        void read(std::uint64_t address, void* data, std::size_t size) override
+        {
+            if (address == Register::save && mayFinish) {
+                setWord(Register::width, 320);
+                setWord(Register::save, 0);
+            }
+            MemoryPort::read(address, data, size);
+        }
+        std::atomic<bool> mayFinish = false;
+    };
+    const auto late = std::make_shared<LatePort>();
+    late->setWord(Register::width, 640);
+    port = late;
+    use(testDescription(), std::chrono::minutes(5));
+    const auto width = camera->integerParameter("Width"_q);
+    QEventLoop loop;
+    QObject::connect(width.data(), &IParameter::parameterDataChangedDecoupled, &loop,
+                     &QEventLoop::quit);
+    {
+        const Cameras::GenICam::Patience limited(std::chrono::milliseconds(1));
+        EXPECT_EQ(refusalOf([this] { camera->commandParameter("Save"_q)->execute(); }),
+                  "Save: the camera has not finished the command yet.");
+    }
+    late->mayFinish = true;
+    loop.exec();
+    EXPECT_EQ(width->value(), 320);
 }
 
 TEST_F(ChangeWatch, AnnouncesWhatRefreshAndDisconnectFind)
