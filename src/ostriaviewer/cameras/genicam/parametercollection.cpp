@@ -3,6 +3,7 @@
 #include "parametercollection.h"
 
 #include "featurestream_p.h"
+#include "featuretexts_p.h"
 #include "featurewords_p.h"
 #include "genicamexception.h"
 #include "nodemap_p.h"
@@ -34,7 +35,7 @@ void requireNodeMap(const QString& name)
 {
     if (name != nodeMapName())
         throw ::GenICam::RuntimeException(
-            QStringLiteral("There is no node map \"%1\".").arg(name).toStdString());
+            FeatureTexts::tr("There is no node map \"%1\".").arg(name).toStdString());
 }
 
 class ParameterCollection : public IParameterCollection
