@@ -34,6 +34,9 @@ bool CameraProbe::answers()
     const std::vector<std::uint8_t> discovery = {0x42, 0x11, 0, 2, 0, 0, 0x4f, 0x50};
     if (!m_camera)
         return true;
+    // What came late says nothing about now.
+    while (m_socket->receive(std::chrono::milliseconds(0))) {
+    }
     for (int attempt = 0; attempt < attempts; ++attempt) {
         m_socket->send(discovery, *m_camera);
         if (m_socket->receive(patience / attempts))
