@@ -26,11 +26,12 @@ constexpr std::chrono::milliseconds pause(250);
 /// For what is asked besides a feature's state.
 constexpr std::chrono::milliseconds patience(100);
 
-QString descriptionOf(const IParameter& parameter)
+/// A text of a feature; empty if the camera does not tell it in time.
+QString textOf(const IParameter& parameter, QString (IParameter::*text)() const)
 {
     const Cameras::GenICam::Patience limited(patience);
     try {
-        return parameter.description();
+        return (parameter.*text)();
     } catch (const GenICam::RuntimeException&) {
         return {};
     }
@@ -244,12 +245,12 @@ QVariant FeatureModel::valueData(const Node& node, int role) const
 QString FeatureModel::toolTip(const Node& node) const
 {
     QStringList lines{QStringLiteral("<b>%1</b>").arg(node.name.toHtmlEscaped())};
-    const QString description = descriptionOf(*node.parameter);
+    const QString description = textOf(*node.parameter, &IParameter::description);
     if (!description.isEmpty())
         lines.append(description.toHtmlEscaped());
     if (!node.state.limits.isEmpty())
         lines.append(tr("Range: %1 %2")
-                         .arg(node.state.limits, node.parameter->unit())
+                         .arg(node.state.limits, textOf(*node.parameter, &IParameter::unit))
                          .trimmed()
                          .toHtmlEscaped());
     if (!node.state.isAvailable && !node.state.isPending)

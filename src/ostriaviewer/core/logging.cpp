@@ -69,10 +69,11 @@ private:
     LogSink m_sink;
 };
 
+/// Is never destroyed: entries come on any thread, to the end of the program.
 Registry& registry()
 {
-    static Registry instance;
-    return instance;
+    static auto* const instance = new Registry;
+    return *instance;
 }
 
 void writeToQt(ELogLevel level, const QLoggingCategory& category, const QString& text)

@@ -138,6 +138,32 @@ TEST_F(NetworkCameras, AreGivenBackWhereNoImageComesThrough)
     EXPECT_EQ(settings().toStdString(), before.toStdString());
 }
 
+TEST_F(NetworkCameras, SayThatTheyCannotBeReachedWhereHalfOfTheQuestionsAreLost)
+{
+    const QString before = settings();
+    m_server->loseControlPackets(0.5);
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    if (outcome.code == 0)
+        return;
+    expectFailure(outcome, 1, {QStringLiteral("camera")});
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+// In the middle of it. What gets through decides whether the settings can be given back.
+TEST_F(NetworkCameras, SayWhatIsWrongWhereTheLineBecomesBad)
+{
+    setExposure(20000.0);
+    const auto format =
+        m_served->parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"));
+    QObject::connect(m_served.data(), &EmulatedCamera::cameraImageGrabbed, [&] {
+        if (format->value().startsWith(QLatin1String("Mono")))
+            m_server->loseControlPackets(0.5);
+    });
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    if (outcome.code != 0)
+        expectFailure(outcome, 1, {QStringLiteral("camera")});
+}
+
 TEST_F(NetworkCameras, AreRefusedWhileAnotherProgramControlsThem)
 {
     Cameras::GenICam::TransportSettings transport;

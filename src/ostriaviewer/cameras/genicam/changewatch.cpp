@@ -12,7 +12,9 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <cstring>
+#include <mutex>
 #include <new>
 #include <utility>
 
@@ -110,14 +112,79 @@ Snapshot lookAt(const Feature& feature)
 
 } // namespace
 
-ChangeWatch::Handle ChangeWatch::add(const Feature& feature, std::function<void()> notify)
+struct ChangeWatch::Watch
 {
-    return m_watches.insert(m_watches.end(), {&feature, std::move(notify), lookAt(feature)});
+    Watch(const Feature& watched, std::function<bool()> someoneHears, std::function<void()> tell)
+        : feature(watched)
+        , isHeard(std::move(someoneHears))
+        , notify(std::move(tell))
+    {}
+
+    const Feature feature;
+    const std::function<bool()> isHeard;
+    const std::function<void()> notify;
+
+    std::mutex mutex; ///< held while the functions are called; guards isRemoved
+    bool isRemoved = false;
+
+    bool isKnown = false; ///< guarded by the node map's mutex, as is what follows
+    Snapshot last;
+};
+
+ChangeWatch::Handle ChangeWatch::add(const Feature& feature, std::function<bool()> isHeard,
+                                     std::function<void()> notify)
+{
+    const auto watch = std::make_shared<Watch>(feature, std::move(isHeard), std::move(notify));
+    const std::lock_guard lock(m_listMutex);
+    m_watches.push_back(watch);
+    return watch;
 }
 
-void ChangeWatch::remove(Handle handle)
+void ChangeWatch::remove(const Handle& watch)
 {
-    m_watches.erase(handle);
+    {
+        const std::lock_guard lock(watch->mutex);
+        watch->isRemoved = true;
+    }
+    const std::lock_guard lock(m_listMutex);
+    m_watches.erase(std::find(m_watches.begin(), m_watches.end(), watch));
+}
+
+std::vector<ChangeWatch::Handle> ChangeWatch::watches() const
+{
+    const std::lock_guard lock(m_listMutex);
+    return m_watches;
+}
+
+void ChangeWatch::renew(Watch& watch)
+{
+    if (watch.isKnown)
+        return;
+    const std::uint64_t failures = Patience::failures();
+    watch.last = lookAt(watch.feature);
+    watch.isKnown = Patience::failures() == failures;
+}
+
+// A look that the camera has not answered shows nothing; the next one tells.
+void ChangeWatch::compare(Watch& watch)
+{
+    {
+        const std::lock_guard lock(watch.mutex);
+        if (watch.isRemoved || !watch.isHeard()) {
+            watch.isKnown = false;
+            return;
+        }
+    }
+    const std::uint64_t failures = Patience::failures();
+    Snapshot now = lookAt(watch.feature);
+    if (Patience::failures() != failures)
+        return;
+    const bool isNews = !watch.isKnown || now != watch.last;
+    watch.last = std::move(now);
+    watch.isKnown = true;
+    const std::lock_guard lock(watch.mutex);
+    if (isNews && !watch.isRemoved)
+        watch.notify();
 }
 
 void ChangeWatch::end() noexcept
@@ -128,15 +195,8 @@ void ChangeWatch::end() noexcept
         return;
     }
     try {
-        for (Watch& watch : m_watches) {
-            const std::uint64_t failures = Patience::failures();
-            Snapshot now = lookAt(*watch.feature);
-            // A look that the camera has not answered shows nothing; the next one tells.
-            if (Patience::failures() != failures || now == watch.last)
-                continue;
-            watch.last = std::move(now);
-            watch.notify();
-        }
+        for (const Handle& watch : watches())
+            compare(*watch);
     } catch (const std::bad_alloc&) {
         // The camera is in the middle of being written; that must go on, without the news.
     }

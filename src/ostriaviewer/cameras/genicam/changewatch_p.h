@@ -5,7 +5,8 @@
 #include "feature_p.h"
 
 #include <functional>
-#include <list>
+#include <memory>
+#include <mutex>
 #include <vector>
 
 #include <cstdint>
@@ -15,25 +16,28 @@ namespace Cameras::GenICam {
 /// Compares the watched features after each change of the device with how they were before.
 ///
 /// Descriptions say with many kinds of links what depends on what, and cameras have dependencies
-/// that no description mentions; looking finds them all. All functions need the node map's mutex.
+/// that no description mentions; looking finds them all. What nobody listens to is not looked at.
+/// All functions need the node map's mutex, apart from those that say otherwise.
 class ChangeWatch
 {
 public:
     /// What can be seen of a feature: access, value, limits or the state of the entries.
     using Snapshot = std::vector<std::uint64_t>;
 
-    struct Watch
-    {
-        const Feature* feature;
-        std::function<void()> notify;
-        Snapshot last;
-    };
-    using Handle = std::list<Watch>::iterator;
+    struct Watch;
+    using Handle = std::shared_ptr<Watch>;
 
-    /// \param feature  lent until remove
-    /// \param notify   called with the mutex held; must not throw or use the device
-    Handle add(const Feature& feature, std::function<void()> notify);
-    void remove(Handle handle);
+    /// Without the mutex. Begins with renew.
+    /// \param isHeard  whether there is anybody to notify
+    /// \param notify   both are called with the mutex held; they must not throw or use the device
+    Handle add(const Feature& feature, std::function<bool()> isHeard, std::function<void()> notify);
+
+    /// Without the mutex. Waits for a call of the watch's functions that is under way, and for
+    /// nothing else.
+    void remove(const Handle& watch);
+
+    /// Looks at the feature if nobody listened to it up to now.
+    static void renew(Watch& watch);
 
     /// Changes begin; may be nested.
     void begin() { ++m_depth; }
@@ -42,7 +46,11 @@ public:
     void end() noexcept;
 
 private:
-    std::list<Watch> m_watches;
+    std::vector<Handle> watches() const;
+    static void compare(Watch& watch);
+
+    mutable std::mutex m_listMutex; // guards the list
+    std::vector<Handle> m_watches;
     int m_depth = 0;
 };
 

@@ -130,12 +130,17 @@ bool Feature::isStreamable() const
     return !isEmpty() && GenICam::isStreamable(node());
 }
 
+void Feature::requireConnection() const
+{
+    if (!isEmpty() && !m_map->isConnected())
+        fail(FeatureTexts::tr("the connection to the camera is lost"));
+}
+
 void Feature::requireThere() const
 {
     if (isEmpty())
         fail(FeatureTexts::tr("the camera has no such feature"));
-    if (!m_map->isConnected())
-        fail(FeatureTexts::tr("the connection to the camera is lost"));
+    requireConnection();
     if (!isAvailable())
         fail(FeatureTexts::tr("not available with the camera's present settings"));
 }

@@ -58,6 +58,10 @@ public:
     bool isWritable() const;
     bool isStreamable() const;
 
+    /// Without the mutex. Of an empty one nothing is required.
+    /// \throws ::GenICam::RuntimeException  the camera is lost or closed
+    void requireConnection() const;
+
     /// \throws ::GenICam::RuntimeException  not available now, with the reason
     void requireThere() const;
 

@@ -6,14 +6,18 @@
 #include "librarylog_p.h"
 #include "libraryparsing_p.h"
 #include "nodemap_p.h"
+#include "patience.h"
 #include "registerdevice_p.h"
 
 #include <arv.h>
+
+#include "featuretexts_p.h"
 
 #include <QCoreApplication>
 #include <QString>
 #include <QXmlStreamReader>
 
+#include <optional>
 #include <utility>
 
 namespace Cameras::GenICam {
@@ -78,11 +82,22 @@ NodeMapPrivate::~NodeMapPrivate()
     g_object_unref(m_device);
 }
 
+bool NodeMapPrivate::isConnected() const
+{
+    return !m_isClosing || m_last.load() == std::this_thread::get_id();
+}
+
 void NodeMapPrivate::requireConnection() const
 {
-    if (!m_isConnected)
+    if (!isConnected())
         throw ::GenICam::RuntimeException(
             Texts::tr("The connection to the camera is lost.").toStdString());
+}
+
+void NodeMapPrivate::setClosing(std::thread::id last)
+{
+    m_last = last;
+    m_isClosing = true;
 }
 
 const FeatureTree& NodeMapPrivate::tree()
@@ -92,9 +107,27 @@ const FeatureTree& NodeMapPrivate::tree()
     return *m_tree;
 }
 
-WriteLock::WriteLock(NodeMapPrivate& map)
+ReadLock::ReadLock(NodeMapPrivate& map, const QString& who)
     : m_map(map)
-    , m_lock(map.mutex())
+{
+    if (map.mutex().lock())
+        return;
+    const QString name = who.isEmpty() ? map.camera() : who;
+    throw ::GenICam::RuntimeException(
+        FeatureTexts::tr("%1: %2.")
+            .arg(name, QCoreApplication::translate("Cameras::GenICam::Device",
+                                                   "the camera does not answer at present"))
+            .toStdString());
+}
+
+ReadLock::~ReadLock()
+{
+    m_map.mutex().unlock();
+}
+
+WriteLock::WriteLock(NodeMapPrivate& map, const QString& who)
+    : m_lock(map, who)
+    , m_map(map)
 {
     m_map.changes().begin();
 }
@@ -123,16 +156,25 @@ NodeMap::NodeMap(std::unique_ptr<NodeMapPrivate> implementation)
 
 NodeMap::~NodeMap() = default;
 
-void NodeMap::disconnect()
+void NodeMap::refuseAccesses()
 {
+    m_private->setClosing();
+}
+
+void NodeMap::disconnect(const std::function<void()>& lastAccesses)
+{
+    const Patience asLongAsItTakes(std::nullopt);
+    if (lastAccesses) {
+        m_private->setClosing(std::this_thread::get_id());
+        lastAccesses();
+    }
+    m_private->setClosing();
     const WriteLock lock(*m_private);
-    m_private->setDisconnected();
     detachPort(m_private->device());
 }
 
 bool NodeMap::isConnected() const
 {
-    const ReadLock lock(m_private->mutex());
     return m_private->isConnected();
 }
 

@@ -5,6 +5,7 @@
 #include "registerport.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -14,8 +15,9 @@ class NodeMapPrivate;
 
 /// The features of one device.
 ///
-/// Has one recursive mutex for the device; whatever reads or writes features holds it. Parameters
-/// made from a node map share its ownership. Thread-safe.
+/// Has one recursive mutex for the device; whatever reads or writes features holds it, and waits
+/// for it as long as Patience says. Parameters made from a node map share its ownership.
+/// Thread-safe.
 class NodeMap
 {
 public:
@@ -32,9 +34,16 @@ public:
     NodeMap(const NodeMap&) = delete;
     NodeMap& operator=(const NodeMap&) = delete;
 
-    /// Gives the device up: from now on each access throws, and the port is not called any more.
-    /// Waits for an access that is under way.
-    void disconnect();
+    /// From now on each access throws, but for one that is under way and the last ones of
+    /// disconnect, which has to follow. Does not wait.
+    void refuseAccesses();
+
+    /// Gives the device up: from now on each access throws, and in the end the port is not called
+    /// any more. Waits for an access that is under way, whatever this thread's patience.
+    /// \param lastAccesses  what is still to be done, on this thread; must not throw
+    void disconnect(const std::function<void()>& lastAccesses = {});
+
+    /// Whether this thread may use the device.
     bool isConnected() const;
 
     /// Tells the parameters that registers changed without being written through this node map, so

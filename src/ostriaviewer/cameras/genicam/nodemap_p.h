@@ -2,24 +2,26 @@
 // What a node map is made of, for the files of this folder.
 #pragma once
 
+#include "accessmutex_p.h"
 #include "changewatch_p.h"
 #include "featuretree_p.h"
 #include "registerport.h"
 
 #include <QString>
 
+#include <atomic>
 #include <chrono>
 #include <memory>
-#include <mutex>
 #include <string>
+#include <thread>
 
 typedef struct _ArvDevice ArvDevice;
 typedef struct _ArvGc ArvGc;
 
 namespace Cameras::GenICam {
 
-/// A device and the nodes of its description. All members need the mutex, but for mutex, gc and
-/// camera.
+/// A device and the nodes of its description. All members need the mutex, but for mutex, gc,
+/// camera, isConnected, setClosing, changes' own exceptions and commandTimeout.
 class NodeMapPrivate
 {
 public:
@@ -34,15 +36,20 @@ public:
     NodeMapPrivate(const NodeMapPrivate&) = delete;
     NodeMapPrivate& operator=(const NodeMapPrivate&) = delete;
 
-    std::recursive_mutex& mutex() { return m_mutex; }
+    AccessMutex& mutex() { return m_mutex; }
     ArvGc* gc() const { return m_gc; }
     const QString& camera() const { return m_camera; }
 
     ArvDevice* device() const { return m_device; }
-    bool isConnected() const { return m_isConnected; }
-    void setDisconnected() { m_isConnected = false; }
 
-    /// \throws ::GenICam::RuntimeException  if disconnected
+    /// Whether this thread may still use the device.
+    bool isConnected() const;
+
+    /// From now on one thread alone may use the device.
+    /// \param last  none, if it is default-constructed
+    void setClosing(std::thread::id last = {});
+
+    /// \throws ::GenICam::RuntimeException  this thread may not
     void requireConnection() const;
 
     ChangeWatch& changes() { return m_changes; }
@@ -53,32 +60,46 @@ public:
     std::chrono::milliseconds commandTimeout() const { return m_commandTimeout; }
 
 private:
-    std::recursive_mutex m_mutex;
+    AccessMutex m_mutex;
     const QString m_camera;
     ArvDevice* m_device;
     ArvGc* m_gc;
-    bool m_isConnected = true;
+    std::atomic<bool> m_isClosing = false;
+    std::atomic<std::thread::id> m_last; // the one that may use a device that is being closed
     const std::chrono::milliseconds m_commandTimeout;
     ChangeWatch m_changes;
     std::unique_ptr<FeatureTree> m_tree;
 };
 
 /// Holds the device for reading.
-using ReadLock = std::lock_guard<std::recursive_mutex>;
+class ReadLock
+{
+public:
+    /// \param who  for the message; empty: the camera's name
+    /// \throws ::GenICam::RuntimeException  this thread's patience was over first
+    explicit ReadLock(NodeMapPrivate& map, const QString& who = {});
+    ~ReadLock();
+    ReadLock(const ReadLock&) = delete;
+    ReadLock& operator=(const ReadLock&) = delete;
+
+private:
+    NodeMapPrivate& m_map;
+};
 
 /// Holds the device for writing. When the outermost one of a thread ends, the watched features
 /// that changed meanwhile say so.
 class WriteLock
 {
 public:
-    explicit WriteLock(NodeMapPrivate& map);
+    /// As ReadLock.
+    explicit WriteLock(NodeMapPrivate& map, const QString& who = {});
     ~WriteLock();
     WriteLock(const WriteLock&) = delete;
     WriteLock& operator=(const WriteLock&) = delete;
 
 private:
+    const ReadLock m_lock;
     NodeMapPrivate& m_map;
-    std::lock_guard<std::recursive_mutex> m_lock;
 };
 
 } // namespace Cameras::GenICam

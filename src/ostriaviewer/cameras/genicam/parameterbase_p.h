@@ -15,7 +15,7 @@
 
 #include <atomic>
 #include <memory>
-#include <optional>
+#include <mutex>
 #include <utility>
 
 namespace Cameras::GenICam {
@@ -32,9 +32,8 @@ public:
 
     ~ParameterBase() override
     {
-        const ReadLock lock(m_map->d().mutex());
         if (m_watch)
-            m_map->d().changes().remove(*m_watch);
+            m_map->d().changes().remove(m_watch);
     }
 
     QString name() const override { return m_feature.name(); }
@@ -43,35 +42,21 @@ public:
     QString unit() const override { return isEmpty() ? QString() : read(unitOf); }
     bool isEmpty() const override { return m_feature.isEmpty(); }
 
-    bool isAvailable() const override
-    {
-        const ReadLock lock(m_map->d().mutex());
-        return m_feature.isAvailable();
-    }
-
-    bool isReadable() const override
-    {
-        const ReadLock lock(m_map->d().mutex());
-        const LibraryScope scope(m_map->d().camera(), m_feature.name());
-        return m_feature.isReadable();
-    }
-
-    bool isWritable() const override
-    {
-        const ReadLock lock(m_map->d().mutex());
-        const LibraryScope scope(m_map->d().camera(), m_feature.name());
-        return m_feature.isWritable();
-    }
+    bool isAvailable() const override { return is(&Feature::isAvailable); }
+    bool isReadable() const override { return is(&Feature::isReadable); }
+    bool isWritable() const override { return is(&Feature::isWritable); }
 
 protected:
     const Feature& feature() const { return m_feature; }
     NodeMapPrivate& map() const { return m_map->d(); }
+    const std::shared_ptr<NodeMap>& nodeMap() const { return m_map; }
 
     /// Asks the feature, with the device held.
     template <class Ask>
     auto read(const Ask& ask) const
     {
-        const ReadLock lock(map().mutex());
+        m_feature.requireConnection();
+        const ReadLock lock(map(), m_feature.name());
         m_feature.requireThere();
         const LibraryScope scope(map().camera(), m_feature.name());
         return ask(m_feature);
@@ -81,7 +66,8 @@ protected:
     template <class Change>
     void write(const Change& change) const
     {
-        const WriteLock lock(map());
+        m_feature.requireConnection();
+        const WriteLock lock(map(), m_feature.name());
         const LibraryScope scope(map().camera(), m_feature.name());
         change(m_feature);
     }
@@ -98,32 +84,51 @@ protected:
         }
     }
 
-    /// Nobody pays for the signal of a parameter without receivers.
+    /// Nobody pays for the signal of a parameter without receivers. Whether there still are some is
+    /// asked at each change: disconnectNotify may be called with mutexes of Qt's held, which
+    /// isSignalConnected wants too.
     void connectNotify(const QMetaMethod& signal) override
     {
-        if (signal != changeSignal())
+        if (signal != changeSignal() || isEmpty())
             return;
-        const ReadLock lock(map().mutex());
-        if (!m_watch && !isEmpty())
-            m_watch = map().changes().add(m_feature, [this] { announce(); });
+        try {
+            const ChangeWatch::Handle watched = watch();
+            const ReadLock lock(map());
+            ChangeWatch::renew(*watched);
+        } catch (const ::GenICam::RuntimeException&) {
+            return; // the first change tells
+        }
     }
 
-    void disconnectNotify(const QMetaMethod&) override { stopUnheardWatch(); }
-
 private:
+    /// A question that is answered with false where the camera does not answer it.
+    bool is(bool (Feature::*ask)() const) const
+    {
+        try {
+            if (isEmpty() || !map().isConnected())
+                return false;
+            const ReadLock lock(map());
+            const LibraryScope scope(map().camera(), m_feature.name());
+            return (m_feature.*ask)();
+        } catch (const ::GenICam::RuntimeException&) {
+            return false;
+        }
+    }
+
     static QMetaMethod changeSignal()
     {
         return QMetaMethod::fromSignal(
             &Core::ParameterCollection::IParameter::parameterDataChangedDecoupled);
     }
 
-    void stopUnheardWatch()
+    ChangeWatch::Handle watch()
     {
-        const ReadLock lock(map().mutex());
-        if (!m_watch || this->isSignalConnected(changeSignal()))
-            return;
-        map().changes().remove(*m_watch);
-        m_watch.reset();
+        const std::lock_guard lock(m_watchMutex);
+        if (!m_watch)
+            m_watch = map().changes().add(
+                m_feature, [this] { return this->isSignalConnected(changeSignal()); },
+                [this] { announce(); });
+        return m_watch;
     }
 
     void announce()
@@ -132,8 +137,6 @@ private:
             return;
         const auto tell = [this] {
             m_isAnnounced = false;
-            // Receivers that were deleted have not told us.
-            stopUnheardWatch();
             emit this->parameterDataChangedDecoupled();
         };
         QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
@@ -141,7 +144,8 @@ private:
 
     std::shared_ptr<NodeMap> m_map;
     Feature m_feature;
-    std::optional<ChangeWatch::Handle> m_watch;
+    std::mutex m_watchMutex;
+    ChangeWatch::Handle m_watch; // null until somebody connects
     std::atomic<bool> m_isAnnounced{false};
 };
 

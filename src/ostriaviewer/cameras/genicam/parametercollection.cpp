@@ -3,6 +3,7 @@
 #include "parametercollection.h"
 
 #include "featurestream_p.h"
+#include "featuretexts_p.h"
 #include "featurewords_p.h"
 #include "genicamexception.h"
 #include "nodemap_p.h"
@@ -34,7 +35,7 @@ void requireNodeMap(const QString& name)
 {
     if (name != nodeMapName())
         throw ::GenICam::RuntimeException(
-            QStringLiteral("There is no node map \"%1\".").arg(name).toStdString());
+            FeatureTexts::tr("There is no node map \"%1\".").arg(name).toStdString());
 }
 
 class ParameterCollection : public IParameterCollection
@@ -77,13 +78,13 @@ public:
 
     std::vector<FeatureCategory> categories() const override
     {
-        const ReadLock lock(m_map->d().mutex());
+        const ReadLock lock(m_map->d());
         return featureCategories(m_map->d());
     }
 
     QVersionNumber sfncVersion() const override
     {
-        const ReadLock lock(m_map->d().mutex());
+        const ReadLock lock(m_map->d());
         if (!m_sfncVersion)
             m_sfncVersion = readSfncVersion();
         return *m_sfncVersion;
@@ -109,7 +110,7 @@ private:
     Feature find(const QString& names) const
     {
         const QStringList alternatives = names.split(QLatin1Char('|'));
-        const ReadLock lock(m_map->d().mutex());
+        const ReadLock lock(m_map->d());
         for (const QString& name : alternatives) {
             const Feature feature = Feature::find(m_map->d(), plainName(name));
             if (!feature.isEmpty())

@@ -2,11 +2,13 @@
 // Features as the host's parameters.
 #include "parameters_p.h"
 
+#include "aside_p.h"
 #include "commandfeature_p.h"
 #include "enumerationfeature_p.h"
 #include "featuretexts_p.h"
 #include "numberfeature_p.h"
 #include "parameterbase_p.h"
+#include "patience.h"
 #include "textfeature_p.h"
 
 #include <QThread>
@@ -106,38 +108,74 @@ public:
     }
 };
 
+using Clock = std::chrono::steady_clock;
+
+bool isCommandDone(NodeMapPrivate& map, const Feature& feature)
+{
+    const ReadLock lock(map, feature.name());
+    return isCommandDone(feature);
+}
+
+/// Others may use the device while we wait.
+/// \return  false if that time came first
+bool isCommandDoneUntil(Clock::time_point end, NodeMapPrivate& map, const Feature& feature)
+{
+    auto pause = std::chrono::milliseconds(1);
+    while (!isCommandDone(map, feature)) {
+        if (Clock::now() >= end)
+            return false;
+        std::this_thread::sleep_for(pause);
+        pause = std::min(2 * pause, std::chrono::milliseconds(20));
+    }
+    return true;
+}
+
+/// Lets what the command did to other features show.
+void announceCommand(NodeMapPrivate& map)
+{
+    const WriteLock lock(map);
+}
+
 class CommandParameter : public ParameterBase<ICommandParameter>
 {
 public:
     using ParameterBase::ParameterBase;
 
-    /// Others may use the device while we wait.
     void execute() override
     {
-        write(startCommand);
-        const auto end = std::chrono::steady_clock::now() + timeout();
-        auto pause = std::chrono::milliseconds(1);
-        while (!isDone()) {
-            if (std::chrono::steady_clock::now() >= end)
+        const auto start = Clock::now();
+        const auto end = start + map().commandTimeout();
+        const auto patience = Patience::ofThisThread();
+        const auto ownEnd = patience ? std::min(end, start + *patience) : end;
+        const std::uint64_t failures = Patience::failures();
+        try {
+            write(startCommand);
+            if (isCommandDoneUntil(ownEnd, map(), feature()))
+                return announceCommand(map());
+            if (ownEnd == end)
                 feature().fail(FeatureTexts::tr("the camera does not finish the command"));
-            std::this_thread::sleep_for(pause);
-            pause = std::min(2 * pause, std::chrono::milliseconds(20));
+            Patience::addFailure();
+            feature().fail(FeatureTexts::tr("the camera has not finished the command yet"));
+        } catch (const ::GenICam::RuntimeException&) {
+            // What was begun goes on without us.
+            if (Patience::failures() != failures)
+                awaitAside(end);
+            throw;
         }
-        // What the command did to other features shows now.
-        const WriteLock lock(map());
     }
 
 private:
-    std::chrono::milliseconds timeout() const
+    void awaitAside(Clock::time_point end) const
     {
-        const ReadLock lock(map().mutex());
-        return map().commandTimeout();
-    }
-
-    bool isDone() const
-    {
-        const ReadLock lock(map().mutex());
-        return isCommandDone(feature());
+        runAside([nodeMap = nodeMap(), feature = feature(), end] {
+            NodeMapPrivate& map = nodeMap->d();
+            try {
+                if (isCommandDoneUntil(end, map, feature))
+                    announceCommand(map);
+            } catch (const ::GenICam::RuntimeException&) {
+                return; // the camera is closed or lost, and all of its features say so
+            }
+        });
     }
 };
 

@@ -10,7 +10,7 @@ thread_local std::uint64_t failures = 0;
 
 } // namespace
 
-Patience::Patience(std::chrono::milliseconds time)
+Patience::Patience(std::optional<std::chrono::milliseconds> time)
     : m_before(patience)
 {
     patience = time;

@@ -14,13 +14,13 @@ namespace Cameras::GenICam {
 /// is not given up for that. For threads that must go on, such as the GUI thread. Without one, an
 /// access waits until the camera has answered or is lost. They may be nested; the innermost counts.
 ///
-/// It limits the wait for an answer, and nothing else: a feature that another thread is reading or
-/// writing is waited for until that access has ended, which takes as long as the loss of a camera
-/// takes to be noticed if it has gone.
+/// The same holds for a camera that another thread is using just then, and for a command that the
+/// camera carries out: it goes on, and what it did to other features is told when it is done.
 class Patience
 {
 public:
-    explicit Patience(std::chrono::milliseconds time);
+    /// \param time  nothing: as long as it takes
+    explicit Patience(std::optional<std::chrono::milliseconds> time);
     ~Patience();
     Patience(const Patience&) = delete;
     Patience& operator=(const Patience&) = delete;

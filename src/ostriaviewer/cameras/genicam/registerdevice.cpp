@@ -4,12 +4,15 @@
 
 #include <arv.h>
 
+#include "featuretexts_p.h"
+
 #include <array>
 #include <exception>
 #include <utility>
 
 namespace {
 
+using Cameras::GenICam::FeatureTexts;
 using Cameras::GenICam::IRegisterPort;
 using PortPtr = std::shared_ptr<IRegisterPort>;
 
@@ -38,7 +41,7 @@ gboolean callPort(ArvDevice* device, GError** error, const Access& access)
     const PortPtr port = *self(device)->port;
     if (!port) {
         g_set_error_literal(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_NOT_CONNECTED,
-                            "the connection to the camera is lost");
+                            FeatureTexts::tr("the connection to the camera is lost").toUtf8());
         return FALSE;
     }
     try {
@@ -49,7 +52,7 @@ gboolean callPort(ArvDevice* device, GError** error, const Access& access)
                             refusal.what());
     } catch (...) {
         g_set_error_literal(error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_UNKNOWN,
-                            "the camera refuses the access");
+                            FeatureTexts::tr("the camera refuses the access").toUtf8());
     }
     return FALSE;
 }

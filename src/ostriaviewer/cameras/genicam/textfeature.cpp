@@ -28,7 +28,7 @@ void setString(const Feature& feature, const QString& text)
     feature.requireWritable();
     // It would end there in the camera.
     if (text.contains(QChar(QChar::Null)))
-        feature.fail(QStringLiteral("the text has a NUL character"));
+        feature.fail(FeatureTexts::tr("the text has a NUL character"));
     const QByteArray bytes = text.toUtf8();
     GErrorSlot lengthError;
     const gint64 longest = arv_gc_string_get_max_length(ARV_GC_STRING(feature.node()), lengthError);

@@ -32,7 +32,8 @@ private:
     qint64 m_longest = 0;
 };
 
-/// The library waits 2.5 s for each answer, and for the end of its own questions.
+/// The library waits 2.5 s for each answer, and for the end of its own questions; nobody waits for
+/// the library for more than half a second.
 constexpr qint64 heldUpMs = 1500;
 
 class CameraLossTest : public NetworkViewerTest
@@ -94,6 +95,55 @@ TEST_F(CameraLossTest, DoesNotHoldUpWhoeverWritesAFeature)
     RecordProperty("longestMs", static_cast<int>(meter.longestMs()));
     EXPECT_LT(meter.longestMs(), heldUpMs);
 }
+
+struct Deed
+{
+    const char* name;
+    bool isOpen;
+    bool isRunning;
+    QAction* (CameraCommands::*action)() const;
+};
+
+class CameraLossDuring : public CameraLossTest, public testing::WithParamInterface<Deed>
+{};
+
+TEST_P(CameraLossDuring, DoesNotHoldUpTheWindows)
+{
+    startWithFeatures();
+    CameraCommands& commands = window().commands();
+    if (GetParam().isRunning) {
+        commands.startAction()->trigger();
+        ASSERT_TRUE(waitForPicture());
+    } else if (!GetParam().isOpen) {
+        commands.closeAction()->trigger();
+        ASSERT_TRUE(waitUntil([this] { return networkItem()->text(1) == "closed"; }));
+    }
+    m_rig.vanish();
+    const EventLoopMeter meter;
+    (commands.*GetParam().action)()->trigger();
+    if (!GetParam().isOpen) {
+        ASSERT_TRUE(waitUntil([] { return messageBox() != nullptr; }));
+        EXPECT_TRUE(messageBox()->text().contains("could not be opened. The camera \"127.0.0.1\""))
+            << qPrintable(messageBox()->text());
+        QTest::keyClick(messageBox(), Qt::Key_Return);
+    }
+    EXPECT_TRUE(waitUntil([this] { return networkItem()->text(1) == "closed"; }));
+    RecordProperty("longestMs", static_cast<int>(meter.longestMs()));
+    EXPECT_LT(meter.longestMs(), heldUpMs);
+
+    m_rig.comeBack();
+    commands.startAction()->trigger();
+    EXPECT_TRUE(waitForPicture());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Deeds, CameraLossDuring,
+    testing::Values(Deed{"Opening", false, false, &CameraCommands::openAction},
+                    Deed{"Starting", true, false, &CameraCommands::startAction},
+                    Deed{"OnePicture", true, false, &CameraCommands::singleAction},
+                    Deed{"Stopping", true, true, &CameraCommands::stopAction},
+                    Deed{"Closing", true, true, &CameraCommands::closeAction}),
+    [](const auto& test) { return std::string(test.param.name); });
 
 } // namespace
 } // namespace Viewer

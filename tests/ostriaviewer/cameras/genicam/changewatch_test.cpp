@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // What must hold for notifications of changed features.
+#include "patience.h"
 #include "testcamera.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 #include <thread>
+#include <vector>
 
 using Core::ParameterCollection::IParameter;
 using Core::ParameterCollection::ParameterPtr;
@@ -130,6 +133,40 @@ TEST_F(ChangeWatch, AnnouncesWhatACommandDid)
     EXPECT_EQ(count, 1);
 }
 
+TEST_F(ChangeWatch, AnnouncesWhatACommandDidThatNobodyWaitedFor)
+{
+    // Finishes a command, and does what it is for, when it may and is asked next.
+    class LatePort final : public MemoryPort
+    {
+    public:
+        void read(std::uint64_t address, void* data, std::size_t size) override
+        {
+            if (address == Register::save && mayFinish) {
+                setWord(Register::width, 320);
+                setWord(Register::save, 0);
+            }
+            MemoryPort::read(address, data, size);
+        }
+        std::atomic<bool> mayFinish = false;
+    };
+    const auto late = std::make_shared<LatePort>();
+    late->setWord(Register::width, 640);
+    port = late;
+    use(testDescription(), std::chrono::minutes(5));
+    const auto width = camera->integerParameter("Width"_q);
+    QEventLoop loop;
+    QObject::connect(width.data(), &IParameter::parameterDataChangedDecoupled, &loop,
+                     &QEventLoop::quit);
+    {
+        const Cameras::GenICam::Patience limited(std::chrono::milliseconds(1));
+        EXPECT_EQ(refusalOf([this] { camera->commandParameter("Save"_q)->execute(); }),
+                  "Save: the camera has not finished the command yet.");
+    }
+    late->mayFinish = true;
+    loop.exec();
+    EXPECT_EQ(width->value(), 320);
+}
+
 TEST_F(ChangeWatch, AnnouncesWhatRefreshAndDisconnectFind)
 {
     const auto width = camera->integerParameter("Width"_q);
@@ -173,22 +210,42 @@ TEST_F(ChangeWatch, ParametersWithoutReceiversCostNothing)
     EXPECT_EQ(port->reads, alone);
 }
 
-TEST_F(ChangeWatch, DeletedReceiversCostNothingAfterTheNextChange)
+// Qt guards the connections of all objects with a fixed number of mutexes, and holds that of the
+// receiver meanwhile. It is the parameter's too for some address of this many.
+TEST_F(ChangeWatch, DeletedReceiversCostNothingAndBlockNothing)
 {
+    constexpr std::size_t enough = 1000;
     const auto width = camera->integerParameter("Width"_q);
     const auto gain = camera->floatParameter("Gain"_q);
     port->reads = 0;
     gain->setValue(2);
     const int alone = port->reads;
-    auto receiver = std::make_unique<QObject>();
-    QObject::connect(width.data(), &IParameter::parameterDataChangedDecoupled, receiver.get(),
-                     [] {});
-    receiver.reset();
-    width->setValue(320, true);
-    deliver();
+    std::vector<std::unique_ptr<QObject>> receivers(enough);
+    for (auto& receiver : receivers) {
+        receiver = std::make_unique<QObject>();
+        QObject::connect(width.data(), &IParameter::parameterDataChangedDecoupled, receiver.get(),
+                         [] {});
+    }
+    receivers.clear();
     port->reads = 0;
     gain->setValue(4);
     EXPECT_EQ(port->reads, alone);
+}
+
+TEST_F(ChangeWatch, NewReceiversHearWhatHappensFromThenOn)
+{
+    const auto width = camera->integerParameter("Width"_q);
+    int count = 0;
+    watch(width, count);
+    QObject::disconnect(width.data(), nullptr, &m_receiver, nullptr);
+    width->setValue(320, true);
+    watch(width, count);
+    camera->floatParameter("Gain"_q)->setValue(4);
+    deliver();
+    EXPECT_EQ(count, 0);
+    width->setValue(640, true);
+    deliver();
+    EXPECT_EQ(count, 1);
 }
 
 TEST_F(ChangeWatch, AReceiverMayReleaseTheParameter)

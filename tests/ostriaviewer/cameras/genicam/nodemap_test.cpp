@@ -5,6 +5,7 @@
 #include "testcamera.h"
 
 #include <atomic>
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -194,4 +195,21 @@ TEST_F(NodeMapTest, MayBeDisconnectedWhileOthersUseIt)
     map->disconnect();
     user.join();
     EXPECT_TRUE(ended);
+}
+
+TEST_F(NodeMapTest, RefusesAllButTheLastAccesses)
+{
+    const auto gain = camera->floatParameter("Gain"_q);
+    const auto width = camera->integerParameter("Width"_q);
+    map->refuseAccesses();
+    EXPECT_FALSE(map->isConnected());
+    EXPECT_EQ(refusalOf([&] { gain->value(); }), lost);
+    EXPECT_EQ(refusalOf([&] { gain->setValue(2); }), lost);
+    EXPECT_FALSE(gain->isAvailable());
+    map->disconnect([&] {
+        width->setValue(320, true);
+        EXPECT_FALSE(std::async(std::launch::async, [&] { return gain->isWritable(); }).get());
+    });
+    EXPECT_EQ(port->word(Register::width), 320U);
+    EXPECT_FALSE(gain->trySetValue(2));
 }

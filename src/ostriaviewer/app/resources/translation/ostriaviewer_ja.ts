@@ -179,6 +179,22 @@
         <source>has no value</source>
         <translation>値がありません</translation>
     </message>
+    <message>
+        <source>There is no node map &quot;%1&quot;.</source>
+        <translation>ノードマップ「%1」は存在しません。</translation>
+    </message>
+    <message>
+        <source>the camera has not finished the command yet</source>
+        <translation>カメラのコマンドがまだ完了していません</translation>
+    </message>
+    <message>
+        <source>the camera refuses the access</source>
+        <translation>カメラがアクセスを拒否しました</translation>
+    </message>
+    <message>
+        <source>the text has a NUL character</source>
+        <translation>文字列にNUL文字が含まれています</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::FeatureStream</name>
@@ -246,6 +262,29 @@
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
         <translation>%1：%3枚中%2枚の画像が転送中に破損したため、破棄しました（欠落パケット数：%4）。パケットサイズを大きくするか、パケット遅延を設定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::GenICam::LibraryLog</name>
+    <message>
+        <source>The camera library reports: %1.</source>
+        <translation>カメラライブラリからの通知：%1。</translation>
+    </message>
+    <message>
+        <source>The camera library reports of the camera &quot;%1&quot;: %2.</source>
+        <translation>カメラ「%1」に関するカメラライブラリからの通知：%2。</translation>
+    </message>
+    <message>
+        <source>The description of the camera &quot;%1&quot; is faulty: %2.</source>
+        <translation>カメラ「%1」の機能記述に誤りがあります：%2。</translation>
+    </message>
+    <message>
+        <source>The description of the camera &quot;%1&quot; is faulty at the feature &quot;%2&quot;: %3.</source>
+        <translation>カメラ「%1」の機能記述の機能「%2」に誤りがあります：%3。</translation>
+    </message>
+    <message>
+        <source>The camera library has much to complain of; no more of it is shown.</source>
+        <translation>カメラライブラリからの通知が多すぎるため、以降は表示しません。</translation>
     </message>
 </context>
 <context>

@@ -179,6 +179,22 @@
         <source>has no value</source>
         <translation>값이 없습니다</translation>
     </message>
+    <message>
+        <source>There is no node map &quot;%1&quot;.</source>
+        <translation>노드 맵 &quot;%1&quot;이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>the camera has not finished the command yet</source>
+        <translation>카메라가 아직 명령을 완료하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>the camera refuses the access</source>
+        <translation>카메라가 액세스를 거부했습니다</translation>
+    </message>
+    <message>
+        <source>the text has a NUL character</source>
+        <translation>텍스트에 NUL 문자가 포함되어 있습니다</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::FeatureStream</name>
@@ -246,6 +262,29 @@
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
         <translation>%1: 이미지 %3장 중 %2장이 전송 중에 손상되어 제외되었습니다(누락된 패킷 %4개). 패킷 크기를 늘리거나 패킷 지연을 설정하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::GenICam::LibraryLog</name>
+    <message>
+        <source>The camera library reports: %1.</source>
+        <translation>카메라 라이브러리 보고: %1.</translation>
+    </message>
+    <message>
+        <source>The camera library reports of the camera &quot;%1&quot;: %2.</source>
+        <translation>&quot;%1&quot; 카메라에 대한 카메라 라이브러리 보고: %2.</translation>
+    </message>
+    <message>
+        <source>The description of the camera &quot;%1&quot; is faulty: %2.</source>
+        <translation>&quot;%1&quot; 카메라의 기능 설명 파일에 오류가 있습니다: %2.</translation>
+    </message>
+    <message>
+        <source>The description of the camera &quot;%1&quot; is faulty at the feature &quot;%2&quot;: %3.</source>
+        <translation>&quot;%1&quot; 카메라의 기능 설명 파일에서 &quot;%2&quot; 기능에 오류가 있습니다: %3.</translation>
+    </message>
+    <message>
+        <source>The camera library has much to complain of; no more of it is shown.</source>
+        <translation>카메라 라이브러리 보고가 너무 많아 더 이상 표시하지 않습니다.</translation>
     </message>
 </context>
 <context>

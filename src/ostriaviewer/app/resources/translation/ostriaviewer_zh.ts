@@ -179,6 +179,22 @@
         <source>has no value</source>
         <translation>没有值</translation>
     </message>
+    <message>
+        <source>There is no node map &quot;%1&quot;.</source>
+        <translation>没有节点映射“%1”。</translation>
+    </message>
+    <message>
+        <source>the camera has not finished the command yet</source>
+        <translation>相机尚未完成该命令</translation>
+    </message>
+    <message>
+        <source>the camera refuses the access</source>
+        <translation>相机拒绝访问</translation>
+    </message>
+    <message>
+        <source>the text has a NUL character</source>
+        <translation>文本包含 NUL 字符</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::FeatureStream</name>
@@ -246,6 +262,29 @@
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
         <translation>%1：%3 帧图像中有 %2 帧在传输中损坏并被丢弃（缺少 %4 个数据包）。请增大数据包大小或设置数据包延迟。</translation>
+    </message>
+</context>
+<context>
+    <name>Cameras::GenICam::LibraryLog</name>
+    <message>
+        <source>The camera library reports: %1.</source>
+        <translation>相机库报告：%1。</translation>
+    </message>
+    <message>
+        <source>The camera library reports of the camera &quot;%1&quot;: %2.</source>
+        <translation>相机库关于相机“%1”的报告：%2。</translation>
+    </message>
+    <message>
+        <source>The description of the camera &quot;%1&quot; is faulty: %2.</source>
+        <translation>相机“%1”的功能描述文件有误：%2。</translation>
+    </message>
+    <message>
+        <source>The description of the camera &quot;%1&quot; is faulty at the feature &quot;%2&quot;: %3.</source>
+        <translation>相机“%1”的功能描述文件中功能“%2”有误：%3。</translation>
+    </message>
+    <message>
+        <source>The camera library has much to complain of; no more of it is shown.</source>
+        <translation>相机库的报告过多，之后的报告不再显示。</translation>
     </message>
 </context>
 <context>

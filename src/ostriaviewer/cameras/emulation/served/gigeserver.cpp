@@ -8,6 +8,7 @@
 #include <array>
 #include <atomic>
 #include <cstdio>
+#include <random>
 #include <stdexcept>
 #include <thread>
 #include <utility>
@@ -84,18 +85,25 @@ public:
     Worker& operator=(const Worker&) = delete;
 
     FrameSender& sender() { return *m_sender; }
+    void loseControlPackets(double share) { m_controlLoss = share; }
 
 private:
     void answerRequests()
     {
         while (!m_isEnding) {
-            if (const auto datagram = m_socket->receive(pollTime)) {
+            const auto datagram = m_socket->receive(pollTime);
+            if (datagram && !isLost()) {
                 const Gvcp::Bytes answer = m_channel.handle(datagram->bytes, datagram->sender);
-                if (!answer.empty())
+                if (!answer.empty() && !isLost())
                     m_socket->send(answer, datagram->sender);
             }
             m_channel.checkHeartbeat();
         }
+    }
+
+    bool isLost()
+    {
+        return std::uniform_real_distribution<double>(0.0, 1.0)(m_chance) < m_controlLoss;
     }
 
     void answerDiscoveries()
@@ -118,6 +126,8 @@ private:
     const std::shared_ptr<FrameSender> m_sender;
     ControlChannel m_channel;
     std::atomic<bool> m_isEnding = false;
+    std::atomic<double> m_controlLoss = 0.0;
+    std::minstd_rand m_chance; // of the thread that answers requests
     std::thread m_control;
     std::thread m_discovery;
 };
@@ -127,6 +137,11 @@ GigeServer::GigeServer(std::shared_ptr<IServedDevice> device, const std::string&
 {}
 
 GigeServer::~GigeServer() = default;
+
+void GigeServer::loseControlPackets(double share)
+{
+    m_worker->loseControlPackets(share);
+}
 
 void GigeServer::losePackets(double share)
 {

@@ -27,6 +27,9 @@ public:
     /// Lets that share of all image packets vanish, from 0 to 1.
     void losePackets(double share);
 
+    /// Lets that share of the requests vanish, and of the answers to the others, from 0 to 1.
+    void loseControlPackets(double share);
+
 private:
     class Worker;
     const std::unique_ptr<Worker> m_worker;

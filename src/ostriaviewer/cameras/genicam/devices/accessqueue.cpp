@@ -62,6 +62,12 @@ void AccessQueue::abandon()
     m_changed.notify_all();
 }
 
+bool AccessQueue::isAbandoned() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_isAbandoned;
+}
+
 void AccessQueue::finish()
 {
     if (m_thread.joinable())

@@ -42,6 +42,8 @@ public:
     /// Lets everybody return who waits or will ask. Work that has not begun is dropped.
     void abandon();
 
+    bool isAbandoned() const;
+
     /// Waits for the work that has begun. Only after abandon.
     void finish();
 
@@ -56,7 +58,7 @@ private:
     void giveUp(std::uint64_t number);
     void loop();
 
-    std::mutex m_mutex; // guards all below
+    mutable std::mutex m_mutex; // guards all below
     std::condition_variable m_changed;
     std::deque<Job> m_jobs;
     std::uint64_t m_asked = 0;

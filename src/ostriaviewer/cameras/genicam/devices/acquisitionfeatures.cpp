@@ -6,11 +6,13 @@
 #include "genicamexception.h"
 #include "logging.h"
 #include "nodemap_p.h"
+#include "patience.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
 #include <exception>
+#include <optional>
 #include <utility>
 
 namespace Cameras::GenICam {
@@ -136,11 +138,14 @@ void AcquisitionFeatures::startAgain() noexcept
     });
 }
 
+// Whoever writes a feature after that finds it as it is between acquisitions.
 void AcquisitionFeatures::stop() noexcept
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_nodeMap->isConnected())
+    if (!m_nodeMap->isConnected() || (!m_isStarted && m_previousMode.isEmpty()))
         return;
+    const Patience asLongAsItTakes(std::nullopt);
+    const WriteLock together(m_nodeMap->d());
     if (std::exchange(m_isStarted, false)) {
         tryStep(Texts::tr("The camera could not be stopped."),
                 [this] { execute("AcquisitionStop"); });

@@ -121,13 +121,14 @@ std::shared_ptr<Device> Device::open(const QString& id, const TransportSettings&
         fail(Texts::tr("The camera is being used by another application."));
     }
     applySettings(device, settings);
-    std::shared_ptr<Device> result(new Device(device));
+    std::shared_ptr<Device> result(new Device(device, id));
     result->watch();
     return result;
 }
 
-Device::Device(ArvDevice* device)
+Device::Device(ArvDevice* device, QString id)
     : m_device(device)
+    , m_id(std::move(id))
     , m_accesses(std::make_shared<AccessQueue>())
 {}
 
@@ -153,7 +154,9 @@ Device::~Device()
     if (m_watch)
         m_watch->end();
     m_accesses->abandon();
-    runAside([device = m_device, watch = m_watch, accesses = m_accesses, released] {
+    runAside([device = m_device, id = m_id, watch = m_watch, accesses = m_accesses, released] {
+        const QString noFeature;
+        const LibraryScope scope(id, noFeature, LibraryTask::Transfer);
         if (watch)
             watch->wait();
         accesses->finish();
@@ -218,17 +221,29 @@ using Bytes = std::vector<std::uint8_t>;
 
 } // namespace
 
-void Device::access(Access access)
+void Device::access(Access access, Repetition repetition)
 {
     const auto answer = std::make_shared<Answer>();
+    const LibraryScope* const place = LibraryScope::current();
+    const QString camera = place ? place->camera() : m_id;
     const auto outcome = m_accesses->run(
-        [weak = weak_from_this(), device = m_device, access = std::move(access), answer] {
-            GErrorSlot error;
-            answer->hasSucceeded = access(device, error);
-            answer->reason = error.reason();
+        [weak = weak_from_this(), device = m_device, access = std::move(access), repetition, answer,
+         camera] {
+            const QString noFeature;
+            const LibraryScope scope(camera, noFeature, LibraryTask::Transfer);
+            int attempts = repetition == Repetition::Harmless ? 3 : 1;
+            bool isTimeOver = true;
+            auto self = weak.lock();
+            for (; isTimeOver && self && attempts > 0; --attempts) {
+                GErrorSlot error;
+                answer->hasSucceeded = access(device, error);
+                answer->reason = error.reason();
+                isTimeOver = error.isTimeout();
+                if (self->m_accesses->isAbandoned())
+                    return;
+            }
             // The library has asked several times before it says that time is over.
-            const auto self = weak.lock();
-            if (self && error.isTimeout())
+            if (self && isTimeOver)
                 self->becomeLost();
         },
         Patience::ofThisThread());
@@ -273,13 +288,17 @@ ArvStream* Device::createStream()
     return stream;
 }
 
+// On a bad line the answer to another question may get through; a camera that has gone is noticed
+// meanwhile.
 void Device::read(std::uint64_t address, void* data, std::size_t size)
 {
     const auto bytes = std::make_shared<Bytes>(size);
-    access([address, bytes](ArvDevice* device, GErrorSlot& error) {
-        return arv_device_read_memory(device, address, static_cast<guint32>(bytes->size()),
-                                      bytes->data(), error) != FALSE;
-    });
+    access(
+        [address, bytes](ArvDevice* device, GErrorSlot& error) {
+            return arv_device_read_memory(device, address, static_cast<guint32>(bytes->size()),
+                                          bytes->data(), error) != FALSE;
+        },
+        Repetition::Harmless);
     std::copy(bytes->begin(), bytes->end(), static_cast<std::uint8_t*>(data));
 }
 

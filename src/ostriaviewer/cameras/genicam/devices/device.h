@@ -57,7 +57,7 @@ public:
     void write(std::uint64_t address, const void* data, std::size_t size) override;
 
 private:
-    explicit Device(ArvDevice* device);
+    Device(ArvDevice* device, QString id);
 
     void watch();
     static void onControlLost(ArvDevice* device, const std::weak_ptr<Device>* weak);
@@ -65,9 +65,11 @@ private:
 
     /// Works on the device; returns whether that succeeded.
     using Access = std::function<bool(ArvDevice* device, GErrorSlot& error)>;
-    void access(Access access);
+    enum class Repetition { Harmful, Harmless };
+    void access(Access access, Repetition repetition = Repetition::Harmful);
 
     ArvDevice* const m_device;
+    const QString m_id;
     std::shared_ptr<DeviceWatch> m_watch; // null if it could not be made
     const std::shared_ptr<AccessQueue> m_accesses;
     mutable std::mutex m_lostMutex; // guards all below; taken before the accesses' own

@@ -28,12 +28,16 @@ UdpAddress addressOf(ArvDevice* device)
 }
 
 /// Reads the version register, which every client may. The library's own accesses wait for each
-/// other, so that a lost camera would be noticed after several of them alone.
+/// other, so that a lost camera would be noticed after several of them alone. Many questions follow
+/// each other, as on a bad line most of them get lost.
 bool answers(UdpSocket& socket, const UdpAddress& camera)
 {
-    constexpr int attempts = 4;
-    constexpr std::chrono::milliseconds patience(600);
+    constexpr int attempts = 24;
+    constexpr std::chrono::milliseconds patience(100);
     const std::vector<std::uint8_t> request = {0x42, 0x01, 0, 0x80, 0, 4, 0x4f, 0x53, 0, 0, 0, 0};
+    // What came late says nothing about now.
+    while (socket.receive(std::chrono::milliseconds(0))) {
+    }
     for (int attempt = 0; attempt < attempts; ++attempt) {
         socket.send(request, camera);
         if (socket.receive(patience))

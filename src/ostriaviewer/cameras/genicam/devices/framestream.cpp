@@ -202,7 +202,7 @@ FrameStream::~FrameStream()
         const std::lock_guard lock(m_state->mutex);
         isDelivering = m_state->delivery.isUnderWay();
     }
-    if (isDelivering || m_thread.get_id() == std::this_thread::get_id()) {
+    if (isDelivering || isOwnThread()) {
         m_state->release();
         m_thread.detach();
     } else {

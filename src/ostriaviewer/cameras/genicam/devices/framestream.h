@@ -61,6 +61,9 @@ public:
     /// Whether nothing more comes: stopped, the one image was delivered, or its time is over.
     bool isFinished() const;
 
+    /// Whether this is the thread that delivers.
+    bool isOwnThread() const { return m_thread.get_id() == std::this_thread::get_id(); }
+
     StreamStatistics statistics() const;
 
     static constexpr std::chrono::milliseconds longestWait = Delivery::longestWait;

@@ -2,15 +2,19 @@
 // A camera on the network or on USB.
 #include "genicamcamera.h"
 
-#include "acquisitionfeatures.h"
+#include "acquisition_p.h"
 #include "aside_p.h"
+#include "cameraprobe_p.h"
 #include "genicamexception.h"
+#include "librarylog_p.h"
 #include "logging.h"
 #include "nodemap_p.h"
 #include "parametercollection.h"
+#include "patience.h"
 #include "textfeature_p.h"
 
 #include <QCoreApplication>
+#include <QThread>
 
 #include <algorithm>
 #include <atomic>
@@ -26,21 +30,43 @@ struct GenicamCamera::Connection
     Core::ParameterCollection::ParameterCollectionPtr parameters;
 };
 
-struct GenicamCamera::Acquisition
-{
-    std::shared_ptr<AcquisitionFeatures> features;
-    std::unique_ptr<FrameStream> stream;
-    bool isContinuous = false;
-    std::atomic<bool> isReported = false; ///< what was lost is in the log
-};
-
 namespace {
+
+/// What an application's windows can wait for.
+constexpr std::chrono::milliseconds longestStep(400);
+
+/// Within a delivery: the end of a stream waits for that.
+constexpr std::optional noPatience(std::chrono::milliseconds(0));
+
+/// Other threads than that of the windows wait as long as it takes.
+std::optional<std::chrono::milliseconds> stepPatience()
+{
+    if (const auto own = Patience::ofThisThread())
+        return own;
+    const QCoreApplication* const application = QCoreApplication::instance();
+    if (application && application->thread() == QThread::currentThread())
+        return longestStep;
+    return {};
+}
+
+void log(const QString& text)
+{
+    static const auto category = Core::Logging::getCatId(QStringLiteral("Cameras"));
+    Core::Logging::createLogEntry(Core::Logging::Warning, category, text);
+}
+
+QString noAnswer(const QString& id)
+{
+    return QCoreApplication::translate("Cameras::GenICam::Device",
+                                       "The camera \"%1\" does not answer%2.")
+        .arg(id, QString());
+}
 
 /// The text of a feature; empty if it cannot be read.
 QString textOf(NodeMap& nodeMap, const char* name)
 {
     try {
-        const ReadLock lock(nodeMap.d().mutex());
+        const ReadLock lock(nodeMap.d());
         const Feature feature = Feature::find(nodeMap.d(), QString::fromLatin1(name));
         return feature.kind() == FeatureKind::Text ? featureText(feature) : QString();
     } catch (const std::exception&) {
@@ -90,19 +116,25 @@ std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connection() const
     return m_connection;
 }
 
-std::shared_ptr<GenicamCamera::Acquisition> GenicamCamera::acquisition() const
+std::shared_ptr<Acquisition> GenicamCamera::acquisition() const
 {
     const std::lock_guard lock(m_mutex);
     return m_acquisition;
 }
 
-// The one before ends without the mutex, as it waits for its thread.
-std::shared_ptr<GenicamCamera::Acquisition>
-GenicamCamera::exchangeAcquisition(std::shared_ptr<Acquisition> next)
+QSharedPointer<GenicamCamera> GenicamCamera::strongSelf()
 {
-    const std::lock_guard lock(m_mutex);
-    return std::exchange(m_acquisition, std::move(next));
+    return sharedFromThis().staticCast<GenicamCamera>();
 }
+
+/// One wish to open a camera; the camera's mutex guards all.
+struct GenicamCamera::Opening
+{
+    bool isGivenUp = false; ///< nobody waits for it
+    bool isDone = false;
+    bool isNew = false; ///< it was closed before
+    QString error;      ///< empty: the camera is open
+};
 
 bool GenicamCamera::open()
 {
@@ -110,26 +142,62 @@ bool GenicamCamera::open()
         return true;
     if (const auto lost = connection())
         lose(lost->device.get());
-    if (!openDevice())
-        return false;
-    emit stateChanged();
-    return true;
+    const auto opening = std::make_shared<Opening>();
+    waitWhileItAnswers(m_steps.add([self = strongSelf(), opening] { self->carryOut(*opening); }));
+    {
+        const std::lock_guard lock(m_mutex);
+        opening->isGivenUp = !opening->isDone;
+    }
+    if (opening->isGivenUp)
+        opening->error = noAnswer(target().first);
+    if (!opening->error.isEmpty())
+        setLastError(opening->error);
+    if (opening->isNew)
+        emit stateChanged();
+    return opening->error.isEmpty();
 }
 
-bool GenicamCamera::openDevice()
+// The library waits for each answer for seconds. A step cannot wait for the next one.
+void GenicamCamera::waitWhileItAnswers(const StepQueue::StepPtr& step) const
 {
-    const std::lock_guard step(m_stepMutex);
-    if (isOpen())
-        return true;
-    try {
-        auto opened = connect();
-        exchangeAcquisition({});
+    constexpr std::chrono::milliseconds pause(20);
+    CameraProbe probe(target().first);
+    while (!m_steps.isOwnThread() && !m_steps.wait(step, pause))
+        if (!probe.answers())
+            return;
+}
+
+void GenicamCamera::carryOut(Opening& opening)
+{
+    std::shared_ptr<Connection> opened;
+    QString error;
+    {
         const std::lock_guard lock(m_mutex);
-        m_connection = std::move(opened);
-        return true;
-    } catch (const std::exception& error) {
-        setLastError(QString::fromUtf8(error.what()));
-        return false;
+        opening.isDone = opening.isGivenUp || (m_connection && !m_connection->device->isLost());
+        if (opening.isDone)
+            return;
+    }
+    try {
+        opened = connect();
+    } catch (const std::exception& refusal) {
+        error = QString::fromUtf8(refusal.what());
+    }
+    std::shared_ptr<Acquisition> past;
+    {
+        const std::lock_guard lock(m_mutex);
+        opening.isDone = !opening.isGivenUp;
+        if (opening.isDone && opened) {
+            opening.isNew = true;
+            past = std::exchange(m_acquisition, {});
+            m_connection = std::exchange(opened, {});
+        }
+        if (opening.isDone)
+            opening.error = error;
+    }
+    // Whoever was told that it does not open is not to find it open.
+    if (opened) {
+        opened->device->setLostHandler({});
+        opened->nodeMap->disconnect();
     }
 }
 
@@ -138,6 +206,13 @@ std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connect()
 {
     auto result = std::make_shared<Connection>();
     const auto [id, settings] = target();
+    const QString name = displayName();
+    const QString wholeCamera;
+    const LibraryScope scope(name, wholeCamera);
+    // A camera that has gone is not to stop the opening of others, of which the library does one at
+    // a time.
+    if (!CameraProbe(id).answers())
+        throw ::GenICam::RuntimeException(noAnswer(id).toStdString());
     result->device = Device::open(id, settings);
     result->nodeMap = NodeMap::create(result->device, result->device->description());
     completeIdentity(*result);
@@ -149,6 +224,8 @@ std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connect()
                 self->lose(device);
         });
     });
+    if (result->device->isLost())
+        throw ::GenICam::RuntimeException(noAnswer(id).toStdString());
     return result;
 }
 
@@ -194,27 +271,34 @@ void GenicamCamera::completeIdentity(Connection& connection)
     m_identity.serialNumber = serial;
 }
 
+// The camera is told by a step, which does not need this object.
 void GenicamCamera::close()
 {
-    if (closeDevice())
-        emit stateChanged();
-}
-
-bool GenicamCamera::closeDevice()
-{
-    const std::lock_guard step(m_stepMutex);
     std::shared_ptr<Connection> closed;
+    std::shared_ptr<Acquisition> running;
     {
         const std::lock_guard lock(m_mutex);
         closed = std::exchange(m_connection, {});
+        if (!closed)
+            return;
+        running = std::exchange(m_acquisition, {});
     }
-    if (!closed)
-        return false;
     closed->device->setLostHandler({});
-    end();
-    closed->nodeMap->disconnect();
-    exchangeAcquisition({});
-    return true;
+    closed->nodeMap->refuseAccesses();
+    const bool isDelivering = running && running->isDelivering();
+    if (running)
+        running->silence();
+    const QString name = displayName();
+    const auto step = m_steps.add([closed = std::move(closed), running = std::move(running), name] {
+        closed->nodeMap->disconnect([&running] {
+            if (running)
+                running->finish();
+        });
+        if (running)
+            reportLosses(*running, name);
+    });
+    m_steps.wait(step, isDelivering ? noPatience : stepPatience());
+    emit stateChanged();
 }
 
 void GenicamCamera::lose(const Device* device)
@@ -229,9 +313,11 @@ void GenicamCamera::lose(const Device* device)
         running = std::exchange(m_acquisition, {});
     }
     if (running)
-        running->stream->stop();
+        running->silence();
     emit stateChanged();
     announceConnectionLost();
+    if (running)
+        reportLosses(*running, displayName());
     lost->nodeMap->disconnect();
 }
 
@@ -245,8 +331,13 @@ bool GenicamCamera::isOpen() const
 bool GenicamCamera::isGrabbing() const
 {
     const std::lock_guard lock(m_mutex);
+    return isGrabbingNow();
+}
+
+bool GenicamCamera::isGrabbingNow() const
+{
     return m_connection && !m_connection->device->isLost() && m_acquisition &&
-           m_acquisition->isContinuous && !m_acquisition->stream->isFinished();
+           m_acquisition->isGrabbing();
 }
 
 Core::ParameterCollection::ParameterCollectionPtr GenicamCamera::parameterCollection()
@@ -257,21 +348,12 @@ Core::ParameterCollection::ParameterCollectionPtr GenicamCamera::parameterCollec
 
 bool GenicamCamera::doStartGrabbing()
 {
-    {
-        const std::lock_guard step(m_stepMutex);
-        if (isGrabbing())
-            return true;
-        if (!begin(false, {}))
-            return false;
-    }
-    emit stateChanged();
-    return true;
+    return begin({});
 }
 
 bool GenicamCamera::doGrabSingle(int timeoutMs)
 {
-    const std::lock_guard step(m_stepMutex);
-    return !isGrabbing() && begin(true, std::chrono::milliseconds(timeoutMs));
+    return begin(std::chrono::milliseconds(timeoutMs));
 }
 
 int GenicamCamera::defaultTimeoutMs() const
@@ -288,95 +370,100 @@ int GenicamCamera::defaultTimeoutMs() const
     return static_cast<int>(std::clamp(exposureMs, 0.0, longestMs) + reserveMs);
 }
 
-// The stream is ready before the camera sends.
-bool GenicamCamera::begin(bool single, std::chrono::milliseconds timeout)
+/// One wish for images.
+struct GenicamCamera::Beginning
 {
-    end();
-    exchangeAcquisition({});
-    const auto opened = connection();
-    if (!opened)
-        return false;
-    const auto features =
-        std::make_shared<AcquisitionFeatures>(opened->nodeMap, opened->parameters);
-    const QWeakPointer<HostCamera> weak = sharedFromThis();
-    const auto receive = [weak](const Ostria::CGrabResultPtr& result) {
-        if (const auto self = weak.toStrongRef().staticCast<GenicamCamera>())
-            self->deliver(result);
-    };
-    std::optional<FrameStream::Single> onlyOne;
-    if (single)
-        onlyOne = FrameStream::Single{timeout, [features] { features->startAgain(); },
-                                      [features] {
-                                          features->stop();
-                                      }};
-    try {
-        features->prepare(single);
-        auto begun = std::make_shared<Acquisition>();
-        begun->features = features;
-        begun->isContinuous = !single;
-        begun->stream = std::make_unique<FrameStream>(opened->device, features->payloadSize(),
-                                                      receive, std::move(onlyOne));
-        features->start();
-        if (!keep(std::move(begun), *opened))
-            throw ::GenICam::RuntimeException(
-                QCoreApplication::translate("Cameras::GenICam::Device",
-                                            "the connection to the camera is lost")
-                    .toStdString());
-        return true;
-    } catch (const std::exception& error) {
-        features->stop();
-        setLastError(QString::fromUtf8(error.what()));
-        return false;
-    }
-}
+    std::shared_ptr<Connection> connection;
+    std::shared_ptr<Acquisition> previous; ///< perhaps null
+    std::shared_ptr<Acquisition> begun;
+    std::atomic<bool> hasFailed = false;
+};
 
-// The camera may have been lost meanwhile, and what was begun is nothing to its next connection.
-bool GenicamCamera::keep(std::shared_ptr<Acquisition> begun, const Connection& opened)
+// Whoever does not wait until the camera has answered is told that images will come; if they do
+// not, that is told later.
+bool GenicamCamera::begin(std::optional<std::chrono::milliseconds> timeout)
 {
-    const std::lock_guard lock(m_mutex);
-    if (m_connection.get() != &opened)
+    const auto beginning = std::make_shared<Beginning>();
+    const bool isSingle = timeout.has_value();
+    {
+        const std::lock_guard lock(m_mutex);
+        if (isGrabbingNow())
+            return !isSingle;
+        if (!m_connection)
+            return false;
+        beginning->connection = m_connection;
+        beginning->begun =
+            std::make_shared<Acquisition>(m_connection->nodeMap, m_connection->parameters, timeout);
+        beginning->previous = std::exchange(m_acquisition, beginning->begun);
+    }
+    const bool isDelivering = beginning->previous && beginning->previous->isDelivering();
+    if (beginning->previous)
+        beginning->previous->silence();
+    const auto step = m_steps.add([self = strongSelf(), beginning] { self->carryOut(*beginning); });
+    const bool isDone = m_steps.wait(step, isDelivering ? noPatience : stepPatience());
+    if (isDone && beginning->hasFailed)
         return false;
-    m_acquisition.swap(begun);
+    if (!isSingle)
+        emit stateChanged();
+    if (!isDone)
+        StepQueue::whenDone(step, [self = strongSelf(), beginning, isSingle] {
+            if (beginning->hasFailed)
+                log(QStringLiteral("%1: %2").arg(self->displayName(), self->lastErrorText()));
+            if (beginning->hasFailed && !isSingle)
+                emit self->stateChanged();
+        });
     return true;
 }
 
-// Who looks at the picture does not see what is missing.
-void GenicamCamera::reportLosses(Acquisition& ended) const
+void GenicamCamera::carryOut(Beginning& beginning)
 {
-    static const auto category = Core::Logging::getCatId(QStringLiteral("Cameras"));
-    const StreamStatistics statistics = ended.stream->statistics();
+    const auto opened = std::exchange(beginning.connection, {});
+    if (const auto previous = std::exchange(beginning.previous, {})) {
+        previous->finish();
+        reportLosses(*previous, displayName());
+    }
+    const QWeakPointer<HostCamera> weak = sharedFromThis();
+    try {
+        beginning.begun->begin(opened->device, [weak](const Ostria::CGrabResultPtr& result) {
+            if (const auto receiver = weak.toStrongRef().staticCast<GenicamCamera>())
+                receiver->deliver(result);
+        });
+    } catch (const std::exception& error) {
+        beginning.begun->silence();
+        beginning.begun->finish();
+        setLastError(QString::fromUtf8(error.what()));
+        beginning.hasFailed = true;
+    }
+}
+
+// Who looks at the picture does not see what is missing.
+void GenicamCamera::reportLosses(Acquisition& ended, const QString& name)
+{
+    const StreamStatistics statistics = ended.statistics();
     const std::uint64_t lost = statistics.damaged + statistics.overrun;
-    if (lost == 0 || ended.isReported.exchange(true))
+    if (lost == 0 || !ended.mayReport())
         return;
-    Core::Logging::createLogEntry(
-        Core::Logging::Warning, category,
-        tr("%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). "
+    log(tr("%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). "
            "Set a larger packet size or a packet delay.")
-            .arg(displayName())
+            .arg(name)
             .arg(lost)
             .arg(lost + statistics.delivered)
             .arg(statistics.missingPackets));
 }
 
 // The acquisition stays for its statistics.
-void GenicamCamera::end()
+void GenicamCamera::stopGrabbing()
 {
     const auto running = acquisition();
     if (!running)
         return;
-    running->features->stop();
-    running->stream->stop();
-    reportLosses(*running);
-}
-
-void GenicamCamera::stopGrabbing()
-{
-    bool wasGrabbing = false;
-    {
-        const std::lock_guard step(m_stepMutex);
-        wasGrabbing = isGrabbing();
-        end();
-    }
+    const bool wasGrabbing = isGrabbing();
+    running->silence();
+    const auto step = m_steps.add([running, name = displayName()] {
+        running->finish();
+        reportLosses(*running, name);
+    });
+    m_steps.wait(step, stepPatience());
     if (wasGrabbing)
         emit stateChanged();
 }
@@ -384,7 +471,7 @@ void GenicamCamera::stopGrabbing()
 StreamStatistics GenicamCamera::statistics() const
 {
     const auto last = acquisition();
-    return last ? last->stream->statistics() : StreamStatistics();
+    return last ? last->statistics() : StreamStatistics();
 }
 
 } // namespace Cameras::GenICam

@@ -5,15 +5,20 @@
 #include "cameraidentity.h"
 #include "framestream.h"
 #include "hostcamera.h"
+#include "stepqueue_p.h"
 #include "transportsettings.h"
 
 #include <QSharedPointer>
 
+#include <chrono>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 namespace Cameras::GenICam {
+
+class Acquisition;
 
 /// A GigE Vision or USB3 Vision camera of the host.
 ///
@@ -22,6 +27,17 @@ namespace Cameras::GenICam {
 /// open that finds it first; open brings it back once it answers again. Images come on a thread of
 /// the camera's own; damaged ones are left out. After grabbing, the acquisition mode is as it was
 /// before.
+///
+/// What the camera is told to start, stop and close it happens in that order, and holds up the
+/// thread of the application object for less than half a second, another one until it is done; if
+/// Patience says how long, that holds. What is not done by then still is:
+/// - A start answers true, and the camera counts as grabbing. If it fails after all, the log and
+///   stateChanged tell.
+/// - After stopGrabbing nothing more is delivered, after close the camera is closed and parameters
+///   throw, whatever the camera still has to do.
+///
+/// open waits for a network camera as long as that answers anything. What answers later is given
+/// back.
 ///
 /// stopGrabbing and close wait for a delivery that has begun, but not for long
 /// (FrameStream::longestWait); on the delivering thread they do not wait. Thread-safe.
@@ -49,7 +65,6 @@ public:
     /// What counts from the next opening on.
     void setTransportSettings(const TransportSettings& settings);
 
-    /// Takes seconds if nobody answers at a network camera's address.
     bool open() override;
     void close() override;
     bool isOpen() const override;
@@ -62,7 +77,8 @@ public:
 
 private:
     struct Connection;
-    struct Acquisition;
+    struct Opening;
+    struct Beginning;
 
     GenicamCamera(const CameraIdentity& identity, const TransportSettings& settings);
 
@@ -70,21 +86,23 @@ private:
     bool doGrabSingle(int timeoutMs) override;
     int defaultTimeoutMs() const override;
 
+    QSharedPointer<GenicamCamera> strongSelf();
     std::shared_ptr<Connection> connection() const;
     std::shared_ptr<Acquisition> acquisition() const;
-    std::shared_ptr<Acquisition> exchangeAcquisition(std::shared_ptr<Acquisition> next);
-    bool openDevice();
-    bool closeDevice();
+    bool isGrabbingNow() const; // with the mutex
+    void waitWhileItAnswers(const StepQueue::StepPtr& step) const;
     std::pair<QString, TransportSettings> target() const;
+    bool begin(std::optional<std::chrono::milliseconds> timeout);
+    void lose(const Device* device);
+    static void reportLosses(Acquisition& ended, const QString& name);
+
+    // Steps, on their thread.
+    void carryOut(Opening& opening);
+    void carryOut(Beginning& beginning);
     std::shared_ptr<Connection> connect();
     void completeIdentity(Connection& connection);
-    bool begin(bool single, std::chrono::milliseconds timeout);
-    bool keep(std::shared_ptr<Acquisition> begun, const Connection& opened);
-    void end();
-    void reportLosses(Acquisition& ended) const;
-    void lose(const Device* device);
 
-    std::mutex m_stepMutex; // one opening, start or end at a time; taken before m_mutex
+    StepQueue m_steps;
 
     mutable std::mutex m_mutex; // guards all below; never held while the device is used
     TransportSettings m_settings;

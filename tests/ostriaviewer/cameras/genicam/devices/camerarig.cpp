@@ -69,8 +69,8 @@ void NetworkRig::vanish()
 
 void NetworkRig::comeBack()
 {
-    m_server =
-        std::make_unique<Emulation::GigeServer>(Emulation::serveEmulation(m_served), address());
+    m_device = std::make_shared<HeldDevice>(Emulation::serveEmulation(m_served));
+    m_server = std::make_unique<Emulation::GigeServer>(m_device, address());
 }
 
 void NetworkRig::takeByAnother()

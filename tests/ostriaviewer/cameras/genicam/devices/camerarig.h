@@ -5,6 +5,7 @@
 #include "emulatedcamera.h"
 #include "genicamcamera.h"
 #include "gigeserver.h"
+#include "helddevice.h"
 #include "hostcamera.h"
 
 #include <QTemporaryDir>
@@ -56,6 +57,7 @@ class NetworkRig final : public CameraRig
 public:
     explicit NetworkRig(const Cameras::Emulation::CameraModel& model,
                         const QStringList& missingFeatures = {});
+    ~NetworkRig() override { letGo(); }
 
     Cameras::HostCameraPtr camera() const override { return m_camera; }
     void vanish() override;
@@ -67,6 +69,10 @@ public:
     Cameras::Emulation::EmulatedCamera& served() { return *m_served; }
     Cameras::Emulation::GigeServer& server() { return *m_server; }
 
+    /// The camera answers nothing from its next access on, until it is let go.
+    void hold() { m_device->hold(); }
+    void letGo() { m_device->letGo(); }
+
     /// Packets as large as the loopback interface takes without fragments of the sockets' buffers.
     static Cameras::GenICam::TransportSettings settings();
     static const char* address() { return "127.0.0.1"; }
@@ -74,6 +80,7 @@ public:
 private:
     QTemporaryDir m_folder;
     QSharedPointer<Cameras::Emulation::EmulatedCamera> m_served;
+    std::shared_ptr<HeldDevice> m_device;
     std::unique_ptr<Cameras::Emulation::GigeServer> m_server;
     QSharedPointer<Cameras::GenICam::GenicamCamera> m_camera;
     QSharedPointer<Cameras::GenICam::GenicamCamera> m_other;

@@ -7,7 +7,8 @@
 namespace Cameras::GenICam {
 
 /// Runs work on a thread of its own, such as giving up a camera that has gone, which waits seconds
-/// for answers. What the work throws is lost. The program's end waits for it. Thread-safe.
+/// for answers. What the work throws is lost. The end of the application object waits for it, that
+/// of a program without one after main. Thread-safe.
 void runAside(std::function<void()> work);
 
 } // namespace Cameras::GenICam

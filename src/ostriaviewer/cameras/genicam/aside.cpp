@@ -2,7 +2,10 @@
 // Work that nobody is to wait for.
 #include "aside_p.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <future>
 #include <iterator>
@@ -22,7 +25,7 @@ public:
     Workers& operator=(const Workers&) = delete;
 
     /// Work that ends may still add some, such as when it held the last of a camera.
-    ~Workers()
+    void waitForAll()
     {
         for (;;) {
             std::vector<std::future<void>> waited;
@@ -59,12 +62,40 @@ private:
     std::vector<std::future<void>> m_workers;
 };
 
+/// Is never destroyed, as work may add some whenever it ends.
+Workers& workers()
+{
+    static auto* const all = new Workers;
+    return *all;
+}
+
+struct WaitAfterMain
+{
+    ~WaitAfterMain() { workers().waitForAll(); }
+};
+
+std::atomic<bool> isApplicationToWait = false;
+
+void waitWithApplication()
+{
+    isApplicationToWait = false;
+    workers().waitForAll();
+}
+
+/// While the application object goes, all that the work may use still is there.
+void waitAtTheEnd()
+{
+    static const WaitAfterMain afterMain;
+    if (QCoreApplication::instance() && !isApplicationToWait.exchange(true))
+        qAddPostRoutine(waitWithApplication);
+}
+
 } // namespace
 
 void runAside(std::function<void()> work)
 {
-    static Workers workers;
-    workers.add(std::move(work));
+    waitAtTheEnd();
+    workers().add(std::move(work));
 }
 
 } // namespace Cameras::GenICam

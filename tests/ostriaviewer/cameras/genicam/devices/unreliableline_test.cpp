@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a camera's user notices of a line that loses requests and answers: nothing, or a reason.
+#include "camerarig.h"
+#include "emulationtest.h"
+#include "genicamexception.h"
+
+using namespace Cameras;
+using Emulation::smallModel;
+
+namespace {
+
+constexpr double half = 0.5;
+
+class UnreliableLine : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!hasLoopback())
+            GTEST_SKIP() << "the system gives no network of its own";
+        rig = std::make_unique<NetworkRig>(smallModel());
+        camera = rig->camera();
+    }
+
+    auto gain() const
+    {
+        return camera->parameterCollection()->floatParameter(QStringLiteral("Gain"));
+    }
+
+    /// The line is good again, and so is the camera.
+    void expectUsable()
+    {
+        rig->server().loseControlPackets(0.0);
+        EXPECT_TRUE(becomes([this] { return camera->open(); }))
+            << camera->lastErrorText().toStdString();
+        gain()->setValue(2.0);
+        EXPECT_DOUBLE_EQ(gain()->value(), 2.0);
+    }
+
+    std::unique_ptr<NetworkRig> rig;
+    HostCameraPtr camera;
+};
+
+bool isClear(const std::string& reason)
+{
+    return reason.find("lost") != std::string::npos || reason.find("answer") != std::string::npos ||
+           reason.find("description") != std::string::npos ||
+           reason.find("another application") != std::string::npos;
+}
+
+} // namespace
+
+TEST_F(UnreliableLine, OpensACameraOrSaysWhyNot)
+{
+    rig->server().loseControlPackets(half);
+    if (!camera->open()) {
+        EXPECT_TRUE(isClear(camera->lastErrorText().toStdString()))
+            << camera->lastErrorText().toStdString();
+    }
+    expectUsable();
+}
+
+TEST_F(UnreliableLine, ReadsAndWritesOrSaysWhyNot)
+{
+    ASSERT_TRUE(camera->open());
+    const auto opened = gain();
+    rig->server().loseControlPackets(half);
+    try {
+        for (const double value : {1.0, 3.0}) {
+            opened->setValue(value);
+            EXPECT_DOUBLE_EQ(opened->value(), value);
+        }
+    } catch (const ::GenICam::RuntimeException& refusal) {
+        EXPECT_TRUE(isClear(refusal.what())) << refusal.what();
+    }
+    expectUsable();
+}
+
+// One of five requests or answers: each feature needs some of them.
+TEST_F(UnreliableLine, GetsThroughWhatIsAskedAgain)
+{
+    ASSERT_TRUE(camera->open());
+    rig->server().loseControlPackets(0.1);
+    for (const double value : {1.0, 3.0, 5.0, 7.0}) {
+        gain()->setValue(value);
+        EXPECT_DOUBLE_EQ(gain()->value(), value);
+    }
+    EXPECT_TRUE(camera->isOpen());
+}
