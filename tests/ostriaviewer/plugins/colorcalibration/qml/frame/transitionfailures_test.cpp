@@ -71,7 +71,11 @@ TEST_P(FailureOfABackup, StaysOnTheGrid)
                                "createSettingsBackup(true)"};
     EXPECT_EQ(takeCalls(), calls.mid(0, GetParam().after + 1) + QStringList{"startGrab()"});
     EXPECT_EQ(m_model.activeStep(), 1);
-    EXPECT_TRUE(onlyMessage().text.contains("couldn’t be backed up"));
+    const auto message = onlyMessage();
+    EXPECT_EQ(message.title, "Color Calibrator");
+    EXPECT_EQ(message.text, "The camera's settings couldn’t be backed up. Check the connection of "
+                            "the camera and try again, or cancel.");
+    EXPECT_EQ(message.icon, Icon::Critical);
 }
 
 INSTANTIATE_TEST_SUITE_P(Wizard, FailureOfABackup,
