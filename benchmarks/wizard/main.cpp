@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Runs the benchmarks with a screen.
+#include "drawing.h"
+
 #include <QApplication>
 
 #include <benchmark/benchmark.h>
@@ -9,6 +11,7 @@ int main(int argc, char** argv)
     QCoreApplication::setOrganizationName(QStringLiteral("ostria-benchmarks"));
     QCoreApplication::setApplicationName(QStringLiteral("wizard"));
     benchmark::Initialize(&argc, argv);
+    Viewer::drawScenesQuickly();
     const QApplication application(argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

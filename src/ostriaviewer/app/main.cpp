@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Entry of the viewer.
+#include "drawing.h"
 #include "emulatedcameras.h"
 #include "terminationwatch.h"
 #include "viewerapplication.h"
@@ -55,6 +56,7 @@ int main(int argc, char** argv)
                      "set. Start it from a desktop, or use colorcalibrate in the terminal.\n";
         return 1;
     }
+    Viewer::drawScenesQuickly();
     const QApplication application(argc, argv);
     const ParsedArguments parsed = Viewer::parseArguments(QCoreApplication::arguments());
     if (parsed.action != ParsedArguments::Run)

@@ -195,7 +195,7 @@ Rectangle {
             implicitWidth: 13
             implicitHeight: 13
             color: control.enabled ? "white" : cTavrinLightGrey
-            border.width: 1
+            border.width: control.activeFocus ? 2 : 1
             border.color: control.activeFocus ? cTouchPointColor : cTavrinBorderGrey
 
             Image {

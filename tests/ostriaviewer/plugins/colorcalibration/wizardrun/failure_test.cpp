@@ -1,40 +1,126 @@
 // SPDX-License-Identifier: Apache-2.0
-// A camera that refuses a setting on the way to a step: what the user reads, and what the camera
-// has.
+// A camera that fails on the way to a step: what the user reads, and what the camera has.
 #include "wizardrun.h"
 
+#include <QApplication>
 #include <QTest>
 
 namespace {
 
-/// A feature of one of the groups that are made neutral, each later than the one before.
-class Refusal : public WizardRun, public testing::WithParamInterface<const char*>
+constexpr auto neutralText = "Unable to set neutral settings.";
+constexpr auto exposureText =
+    "No initial parameters (min, max, value) <br> for exposure time available.";
+constexpr auto gainText = "No initial parameters (min, max, value) <br> for gain value available.";
+constexpr auto preneutralText = "Couldn't restore preneutral camera settings.";
+constexpr auto imageText =
+    "Couldn't apply initial camera image or set original patch color values.";
+constexpr auto eitherOr = "The calibration process failed because the image is either too bright "
+                          "or too dark. Adjust the brightness and try again.";
+
+class Failure : public WizardRun
+{
+protected:
+    /// Clicks Next, and waits until the boxes have been opened that it leads to.
+    void expectErrors(QStringList texts)
+    {
+        click("nextButton");
+        ASSERT_TRUE(waitFor([] { return box() != nullptr; }));
+        QStringList told;
+        for (const auto* open : openBoxes()) {
+            EXPECT_EQ(open->windowTitle(), "Color Calibrator");
+            EXPECT_EQ(open->icon(), QMessageBox::Critical);
+            told << open->text();
+        }
+        told.sort();
+        texts.sort();
+        EXPECT_EQ(told, texts) << told.join("; ").toStdString();
+    }
+
+    void closeBoxes()
+    {
+        // The end of the wizard closes the others too.
+        for (auto* open = box(); open; open = box())
+            QTest::keyClick(open, Qt::Key_Escape);
+    }
+
+    static QVector<QMessageBox*> openBoxes()
+    {
+        QVector<QMessageBox*> open;
+        for (auto* widget : QApplication::topLevelWidgets()) {
+            auto* found = qobject_cast<QMessageBox*>(widget);
+            if (found && found->isVisible())
+                open << found;
+        }
+        return open;
+    }
+};
+
+/// A feature that refuses to be written on the way from a step, and what is told of it.
+struct RefusedFeature
+{
+    const char* feature;
+    int step;
+    const char* text;
+};
+
+class Refusal : public Failure, public testing::WithParamInterface<RefusedFeature>
 {};
 
-TEST_P(Refusal, OfANeutralSettingIsToldAndLeavesTheCameraAsItWas)
+TEST_P(Refusal, IsToldAndLeavesTheCameraAsItWas)
 {
+    const RefusedFeature& refused = GetParam();
     ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
     const QStringList before = settings();
     run([&] {
-        ASSERT_NO_FATAL_FAILURE(goTo(1));
-        m_camera->refuseWrites(GetParam());
-        click("nextButton");
-        ASSERT_TRUE(waitFor([] { return box() != nullptr; }));
-        EXPECT_EQ(box()->windowTitle(), "Color Calibrator");
-        EXPECT_EQ(box()->text(), "Unable to set neutral settings.");
-        EXPECT_EQ(box()->icon(), QMessageBox::Critical);
-        EXPECT_EQ(m_data->activeStep(), 1);
-        EXPECT_EQ(settings(), before);
-        // The restore that was refused in part is made again when the wizard ends.
-        m_camera->refuseWrites(GetParam(), -1);
-        QTest::keyClick(box(), Qt::Key_Escape);
+        ASSERT_NO_FATAL_FAILURE(goTo(refused.step));
+        m_camera->refuseWrites(refused.feature);
+        ASSERT_NO_FATAL_FAILURE(expectErrors({refused.text}));
+        EXPECT_EQ(m_data->activeStep(), refused.step);
+        if (refused.step == 1) {
+            EXPECT_EQ(settings(), before);
+        }
+        // What the camera refused in part is made good when the wizard ends.
+        m_camera->refuseWrites(refused.feature, -1);
+        closeBoxes();
         click("cancelButton");
+        if (refused.step > 1)
+            confirm();
     });
     EXPECT_EQ(settings(), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(WizardRun, Refusal, testing::Values("Gamma", "BalanceRatio"),
-                         [](const auto& feature) { return std::string(feature.param); });
+INSTANTIATE_TEST_SUITE_P(WizardRun, Refusal,
+                         testing::Values(RefusedFeature{"Gamma", 1, neutralText},
+                                         RefusedFeature{"BalanceRatio", 1, neutralText},
+                                         RefusedFeature{"ExposureTime", 1, exposureText},
+                                         RefusedFeature{"Gain", 1, gainText},
+                                         RefusedFeature{"Gamma", 2, preneutralText}),
+                         [](const auto& refusal) {
+                             return refusal.param.feature + std::to_string(refusal.param.step);
+                         });
+
+/// Without an image there is no white balance, and without that no way on.
+class NoImage : public Failure, public testing::WithParamInterface<int>
+{};
+
+TEST_P(NoImage, EndsTheWizardWithTheCameraAsItWas)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    const QStringList before = settings();
+    run([&] {
+        ASSERT_NO_FATAL_FAILURE(goTo(GetParam()));
+        m_camera->faults().failFrames(-1);
+        const QStringList texts =
+            GetParam() == 1 ? QStringList{eitherOr} : QStringList{imageText, eitherOr};
+        ASSERT_NO_FATAL_FAILURE(expectErrors(texts));
+        EXPECT_EQ(m_data->activeStep(), GetParam());
+        m_camera->faults().failFrames(0);
+        closeBoxes();
+    });
+    EXPECT_EQ(settings(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(WizardRun, NoImage, testing::Values(1, 2));
 
 /// A feature that is refused from a write on, and what is told of it on the way to step 3.
 struct LaterRefusal

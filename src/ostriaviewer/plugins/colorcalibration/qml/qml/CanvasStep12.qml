@@ -13,7 +13,7 @@ Item {
     function onShowGridChanged() {
         if (showGrid.checked)
             qmlModelInterface.updateTrapezoidList()
-        canvasStep12.requestPaint()
+        Utility.repaint(canvasStep12)
     }
 
     VideoOutput {
@@ -113,7 +113,7 @@ Item {
                 return
             gridOutline[handle.objectName] = Qt.point(newX, newY)
             qmlModelInterface.updateTrapezoidList()
-            requestPaint()
+            Utility.repaint(canvasStep12)
         }
 
         function resetGrid() {
@@ -126,7 +126,7 @@ Item {
             resetCorner(lowerRight, right, bottom)
             resetCorner(lowerLeft, left, bottom)
             qmlModelInterface.updateTrapezoidList()
-            requestPaint()
+            Utility.repaint(canvasStep12)
         }
 
         function resetCorner(handle, x, y) {
@@ -137,7 +137,7 @@ Item {
 
         function fitToSize() {
             videoOutput.fitTransformation()
-            requestPaint()
+            Utility.repaint(canvasStep12)
             fitDragPointsToOutlines()
         }
 
@@ -307,7 +307,7 @@ Item {
                 qmlModelInterface.updateTrapezoidList()
             canvasStep12.fitDragPointsToOutlines()
             canvasStep12.initial = false
-            canvasStep12.requestPaint()
+            Utility.repaint(canvasStep12)
         }
         function onImageFailed() {
             showGrid.enabled = false
@@ -326,7 +326,7 @@ Item {
         function onAutoChartFindFinished(valid) {
             qmlModelInterface.getGridPosition()
             canvasStep12.fitDragPointsToOutlines()
-            canvasStep12.requestPaint()
+            Utility.repaint(canvasStep12)
         }
         function onCleanupQML() {
             checkTimerKeyDragging.stop()

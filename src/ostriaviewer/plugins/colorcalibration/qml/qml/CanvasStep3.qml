@@ -54,7 +54,7 @@ Item {
 
         function fit() {
             videoOutput.fitTransformation()
-            requestPaint()
+            Utility.repaint(canvasStep3)
         }
 
         onWidthChanged: fit()
@@ -127,7 +127,7 @@ Item {
     Connections {
         target: qmlModelInterface
         function onCalibrationFinished() {
-            canvasStep3.requestPaint()
+            Utility.repaint(canvasStep3)
         }
         function onCleanupQML() {
             Utility.cleanUpQml()

@@ -24,7 +24,7 @@ Item {
     function moveDivider(x) {
         dragLine.x = x
         imageSlider.x = x - imageSlider.width / 2
-        canvasLeft.requestPaint()
+        Utility.repaint(canvasLeft)
     }
 
     // The border is tested where the handle stands, so the divider may pass it by half a handle.
@@ -41,7 +41,7 @@ Item {
 
     function fit() {
         videoOutput.fitTransformation()
-        canvasLeft.requestPaint()
+        Utility.repaint(canvasLeft)
     }
 
     VideoOutput {
@@ -92,7 +92,7 @@ Item {
         onImageLoaded: {
             imageWidth = 0
             imageHeight = 0
-            requestPaint()
+            Utility.repaint(canvasLeft)
         }
 
         onPaint: {

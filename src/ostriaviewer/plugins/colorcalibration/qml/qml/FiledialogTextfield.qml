@@ -30,6 +30,13 @@ MouseArea {
         border.color: "lightgray"
         clip: true
 
+        // The cursor blinks, and is away half of the time.
+        FocusFrame {
+            radius: 0
+            border.width: 1
+            control: input
+        }
+
         TextInput {
             id: input
             objectName: "textInput"

@@ -90,6 +90,10 @@ Item {
                 Accessible.name: tExposureTime
                 onValueChanged: page.takeValue(exposureTime, exposureSlider)
                 onHoveredChanged: page.showSliderToolTip(exposureSlider, tExposureTimeTooltip)
+
+                FocusFrame {
+                    anchors.margins: -0.3 * margin
+                }
             }
         }
 
@@ -113,6 +117,10 @@ Item {
                 Accessible.name: tGain
                 onValueChanged: page.takeValue(gainValue, gainSlider)
                 onHoveredChanged: page.showSliderToolTip(gainSlider, tGainTooltip)
+
+                FocusFrame {
+                    anchors.margins: -0.3 * margin
+                }
             }
         }
     }

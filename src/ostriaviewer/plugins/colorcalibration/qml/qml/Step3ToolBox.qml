@@ -91,6 +91,8 @@ Item {
         onHoveredChanged: hovered ? Utility.showToolTip(page, reports, width / 2, height / 2,
                                                         tValueSummariesTooltip)
                                   : Utility.hideToolTip()
+
+        FocusFrame {}
     }
 
     Text {

@@ -173,6 +173,8 @@ Item {
             onHoveredChanged: hovered ? Utility.showToolTip(page, userSets, width / 2, height / 2,
                                                             tSaveSettingsAsUserSetTooltip)
                                       : Utility.hideToolTip()
+
+            FocusFrame {}
         }
 
         CheckBox {

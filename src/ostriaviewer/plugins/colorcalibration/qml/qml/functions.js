@@ -42,6 +42,13 @@ function fitTransformation(canvas) {
     transformer.setY(canvas.transformedOffsetY)
 }
 
+// Paints a canvas anew in the next picture. A canvas that is known to be changed asks for no picture
+// more while it is painted in this one, which would keep the picture after it waiting.
+function repaint(canvas) {
+    canvas.update()
+    canvas.requestPaint()
+}
+
 function drawTrapezoid(ctx, t) {
     drawTrapezoidMoved(ctx, t, 0, 0)
 }

@@ -3,6 +3,7 @@
 // spans (100, 100) to (300, 250), so that its handles stand at 92 and 292, and at 92 and 242.
 #include "wizardwindow.h"
 
+#include <QAbstractEventDispatcher>
 #include <QAccessible>
 #include <QQmlProperty>
 #include <QTest>
@@ -171,6 +172,24 @@ TEST_F(GridHandles, LeaveTheirCornerForAWhileWhereAKeyIsRefused)
     QMetaObject::invokeMethod(object("checkTimerKeyDragging"), "triggered");
     EXPECT_EQ(handle("upperLeft"), QPoint(-7, 92));
     EXPECT_FALSE(property("checkTimerKeyDragging", "isKeyDragging").toBool());
+}
+
+TEST_F(GridHandles, AskForOnePictureAMove)
+{
+    openGrid();
+    focus("upperLeft");
+    const auto isAskedFor = [this] {
+        return !QAbstractEventDispatcher::instance()->registeredTimers(m_view.get()).isEmpty();
+    };
+    ASSERT_TRUE(waitFor([&] { return !isAskedFor(); }));
+    const QObject context;
+    QVector<bool> askedAgain;
+    QObject::connect(m_view.get(), &QQuickWindow::afterAnimating, &context,
+                     [&] { askedAgain << isAskedFor(); });
+    press(Qt::Key_Right);
+    ASSERT_TRUE(isAskedFor());
+    ASSERT_TRUE(waitFor([&] { return !askedAgain.isEmpty(); }));
+    EXPECT_FALSE(askedAgain.first()) << "while it painted this one";
 }
 
 TEST_F(GridHandles, ShowTheirFocusAndTheHandCursor)

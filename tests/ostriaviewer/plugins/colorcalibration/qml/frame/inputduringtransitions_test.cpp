@@ -242,53 +242,6 @@ TEST_F(DuringATransition, TheFirstImageStartsNoLiveImage)
     EXPECT_TRUE(takeCalls().contains("startGrab()"));
 }
 
-class OwedBackup : public WizardWindow
-{};
-
-TEST_F(OwedBackup, IsKeptUntilItIsBackInTheCamera)
-{
-    openAt(2);
-    m_log.failing = {"restoreSettingsBackup(false)"};
-    click("backButton");
-    EXPECT_EQ(m_model.activeStep(), 1);
-    takeCalls();
-    click("nextButton");
-    EXPECT_EQ(m_model.activeStep(), 1);
-    EXPECT_TRUE(takeCalls().filter("createSettingsBackup").isEmpty());
-    EXPECT_EQ(onlyMessage().text, "not restored");
-    answer(QMessageBox::Ok);
-
-    m_log.failing.clear();
-    click("nextButton");
-    EXPECT_EQ(m_model.activeStep(), 2);
-    EXPECT_EQ(takeCalls().mid(0, 4),
-              (QStringList{"stopGrab()", "restoreSettingsBackup(false)",
-                           "createSettingsBackup(false)", "createSettingsBackup(true)"}));
-}
-
-TEST_F(OwedBackup, ThatIsBackIsNotRestoredAgain)
-{
-    openAt(2);
-    click("backButton");
-    takeCalls();
-    click("nextButton");
-    EXPECT_TRUE(takeCalls().filter("restoreSettingsBackup").isEmpty());
-}
-
-TEST_F(OwedBackup, IsKeptAfterACalibrationThatFailed)
-{
-    openAt(2);
-    m_model.setHitRate(100);
-    m_log.failing = {"storeDetectedExposureAndGain()", "restoreSettingsBackup(false)"};
-    click("nextButton");
-    answer(QMessageBox::Ok);
-    m_log.failing = {"restoreSettingsBackup(false)"};
-    click("backButton");
-    takeCalls();
-    click("nextButton");
-    EXPECT_EQ(takeCalls().count("createSettingsBackup(false)"), 0);
-}
-
 class Keys : public WizardWindow
 {
 protected:

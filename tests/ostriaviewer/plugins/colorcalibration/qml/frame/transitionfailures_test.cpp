@@ -71,7 +71,10 @@ TEST_P(FailureOfABackup, StaysOnTheGrid)
                                "createSettingsBackup(true)"};
     EXPECT_EQ(takeCalls(), calls.mid(0, GetParam().after + 1) + QStringList{"startGrab()"});
     EXPECT_EQ(m_model.activeStep(), 1);
-    EXPECT_EQ(onlyMessage().text, "not backed up");
+    const auto message = onlyMessage();
+    EXPECT_EQ(message.title, "Color Calibrator");
+    EXPECT_EQ(message.text, "not backed up");
+    EXPECT_EQ(message.icon, Icon::Critical);
 }
 
 INSTANTIATE_TEST_SUITE_P(Wizard, FailureOfABackup,

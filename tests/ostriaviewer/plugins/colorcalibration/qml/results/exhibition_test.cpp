@@ -168,6 +168,18 @@ TEST_P(Exhibition, TheMessageOfAFailureGoesWithTheCamera)
     EXPECT_FALSE(message->property("visible").toBool());
 }
 
+TEST_P(Exhibition, TellsWhatFailedAlsoWhereTheCameraCannotBeRestored)
+{
+    openPageWithoutLiveImage();
+    disablePage();
+    m_log.failing = {sequence[3], "restoreSettingsBackup(false)"};
+    emit m_model.autoAdjustGray80PercentPatchFinished();
+    EXPECT_EQ(m_log.made, sequence + QStringList({"restoreSettingsBackup(false)", "singleGrab()"}));
+    EXPECT_TRUE(m_model.isBackupOwed());
+    EXPECT_TRUE(isEnabled());
+    EXPECT_EQ(takeMessage(), "Calibration process failed.");
+}
+
 TEST_P(Exhibition, StartsTheLiveImageAgainAfterAFailure)
 {
     openPage();

@@ -157,6 +157,17 @@ TEST_F(Keyboard, AsksBeforeItGivesUp)
     }
 }
 
+TEST_F(Keyboard, ChoosesAUserSetByArrows)
+{
+    openPage(4);
+    auto* sets = item("userSets");
+    sets->forceActiveFocus();
+    press(Qt::Key_Up);
+    EXPECT_EQ(sets->property("currentIndex"), 0);
+    press(Qt::Key_Down);
+    EXPECT_EQ(sets->property("currentText"), "User Set 1");
+}
+
 TEST_F(Keyboard, ChoosesTheDefaultBySpace)
 {
     openPage(4);
