@@ -35,6 +35,9 @@ namespace {
 /// What an application's windows can wait for.
 constexpr std::chrono::milliseconds longestStep(400);
 
+/// A part of that, for what has to be known before a step.
+constexpr std::chrono::milliseconds longestReading(100);
+
 /// Within a delivery: the end of a stream waits for that.
 constexpr std::optional noPatience(std::chrono::milliseconds(0));
 
@@ -356,18 +359,31 @@ bool GenicamCamera::doGrabSingle(int timeoutMs)
     return begin(std::chrono::milliseconds(timeoutMs));
 }
 
+// A camera that does not answer now may have a long exposure; if it has gone, its loss ends the
+// wait.
 int GenicamCamera::defaultTimeoutMs() const
 {
     constexpr double reserveMs = 5000.0;
     constexpr double longestMs = 3600000.0;
+    constexpr int unknownMs = 60000;
     const auto opened = connection();
     if (!opened)
         return static_cast<int>(reserveMs);
-    const double exposureMs =
-        opened->parameters->floatParameter(QStringLiteral("ExposureTime|ExposureTimeAbs"))
-            ->valueOrDefault(0.0) /
-        1000.0;
-    return static_cast<int>(std::clamp(exposureMs, 0.0, longestMs) + reserveMs);
+    auto patience = stepPatience();
+    if (patience)
+        patience = std::min(*patience, longestReading);
+    const Patience limited(patience);
+    const std::uint64_t failures = Patience::failures();
+    try {
+        const double microseconds =
+            opened->parameters->floatParameter(QStringLiteral("ExposureTime|ExposureTimeAbs"))
+                ->valueOrDefault(0.0);
+        if (Patience::failures() == failures)
+            return static_cast<int>(std::clamp(microseconds / 1000.0, 0.0, longestMs) + reserveMs);
+    } catch (const ::GenICam::RuntimeException&) {
+        return unknownMs; // somebody else is using the camera
+    }
+    return unknownMs;
 }
 
 /// One wish for images.

@@ -57,15 +57,15 @@ TEST(StepQueue, TellsOnceWhenAStepIsDone)
     HeldStep held;
     StepQueue queue;
     std::atomic<int> told = 0;
-    std::promise<std::thread::id> teller;
+    const auto teller = std::make_shared<std::promise<std::thread::id>>();
     const auto step = queue.add(held.work());
-    StepQueue::whenDone(step, [&] {
+    StepQueue::whenDone(step, [&told, teller] {
         ++told;
-        teller.set_value(std::this_thread::get_id());
+        teller->set_value(std::this_thread::get_id());
     });
     EXPECT_EQ(told, 0);
     held.letGo();
-    EXPECT_NE(teller.get_future().get(), std::this_thread::get_id());
+    EXPECT_NE(teller->get_future().get(), std::this_thread::get_id());
     EXPECT_EQ(told, 1);
     StepQueue::whenDone(step, [&] { ++told; });
     EXPECT_EQ(told, 2) << "done already";
@@ -98,12 +98,12 @@ TEST(StepQueue, LetsGoOfAllBeforeAStepCountsAsDone)
 TEST(StepQueue, MayGoBeforeItsSteps)
 {
     HeldStep held;
-    std::promise<void> done;
+    const auto done = std::make_shared<std::promise<void>>();
     {
         StepQueue queue;
         queue.add(held.work());
-        queue.add([&done] { done.set_value(); });
+        queue.add([done] { done->set_value(); });
     }
     held.letGo();
-    done.get_future().wait();
+    done->get_future().wait();
 }
