@@ -2,6 +2,7 @@
 // How Qt draws the scenes of plugins.
 #include "drawing.h"
 
+#include <QByteArray>
 #include <QSurfaceFormat>
 
 namespace Viewer {
@@ -12,7 +13,7 @@ void drawScenesQuickly()
     // come far less often, so that they would only be seen later.
     constexpr auto idleTime = "QT_QPA_UPDATE_IDLE_TIME";
     if (!qEnvironmentVariableIsSet(idleTime))
-        qputenv(idleTime, "0");
+        qputenv(idleTime, QByteArrayLiteral("0"));
     // A scene needs them only where it clips aslant. Where the processor draws, they cost a third
     // of each picture.
     QSurfaceFormat format = QSurfaceFormat::defaultFormat();

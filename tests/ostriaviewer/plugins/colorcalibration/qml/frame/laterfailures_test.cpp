@@ -3,6 +3,8 @@
 // and when, and what is still owed to the camera.
 #include "wizardwindow.h"
 
+#include <QAbstractButton>
+
 namespace {
 
 using Icon = QMessageBox::Icon;
