@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // Lets ThreadSanitizer see how a thread pool of a Qt that is not instrumented hands work over.
 //
-// The work is queued inside of the library, so that whatever it was made of may look like a race.
-// This definition stands before the library's, and adds what the sanitizer must know.
+// The work is queued inside of the library, and so is the word that it is done, so that whatever it
+// was made of, or worked on, may look like a race. These definitions stand before the library's,
+// and add what the sanitizer must know.
+#include <QFutureInterface>
 #include <QRunnable>
 #include <QThreadPool>
 
@@ -33,12 +35,34 @@ private:
     QRunnable* m_work;
 };
 
+template <typename Function>
+Function libraryFunction(const char* name)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
 } // namespace
 
 void QThreadPool::start(QRunnable* runnable, int priority)
 {
-    static const auto inLibrary =
-        reinterpret_cast<Start>(dlsym(RTLD_NEXT, "_ZN11QThreadPool5startEP9QRunnablei"));
+    static const auto inLibrary = libraryFunction<Start>("_ZN11QThreadPool5startEP9QRunnablei");
     __tsan_release(runnable);
     inLibrary(this, new HandedOver(runnable), priority);
+}
+
+// All futures of one piece of work share its mutex.
+void QFutureInterfaceBase::reportFinished()
+{
+    static const auto inLibrary = libraryFunction<void (*)(QFutureInterfaceBase*)>(
+        "_ZN20QFutureInterfaceBase14reportFinishedEv");
+    __tsan_release(mutex());
+    inLibrary(this);
+}
+
+void QFutureInterfaceBase::waitForFinished()
+{
+    static const auto inLibrary = libraryFunction<void (*)(QFutureInterfaceBase*)>(
+        "_ZN20QFutureInterfaceBase15waitForFinishedEv");
+    inLibrary(this);
+    __tsan_acquire(mutex());
 }

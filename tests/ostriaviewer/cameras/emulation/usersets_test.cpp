@@ -232,6 +232,35 @@ TEST_F(UserSetsTest, ADamagedFileIsKeptAsideWhenASetIsSaved)
     }
 }
 
+TEST_F(UserSetsTest, ProgramsThatSaveAndChooseAtOnceLoseNothing)
+{
+    constexpr int rounds = 15;
+    const auto table = std::make_shared<FeatureTable>(modelFeatures(smallModel()));
+    const QString path = file(smallModel());
+    int chosen = 0;
+    std::thread other([&] {
+        UserSets sets(table, path);
+        for (int round = 0; round < rounds; ++round) {
+            const QString set = QLatin1String(round % 2 == 0 ? "UserSet1" : "UserSet3");
+            sets.setStartUpSet(set);
+            chosen += UserSets(table, path).startUpSet() == set ? 1 : 0;
+        }
+    });
+    int saved = 0;
+    UserSets sets(table, path);
+    FeatureValues values(table);
+    for (int round = 1; round <= rounds; ++round) {
+        values.set(QStringLiteral("Gain"), 0.5 * round);
+        sets.save(QStringLiteral("UserSet2"), values);
+        FeatureValues loaded(table);
+        UserSets(table, path).load(QStringLiteral("UserSet2"), loaded);
+        saved += loaded.value(QStringLiteral("Gain")) == values.value(QStringLiteral("Gain"));
+    }
+    other.join();
+    EXPECT_EQ(chosen, rounds);
+    EXPECT_EQ(saved, rounds);
+}
+
 TEST_F(UserSetsTest, DamagedFilesHarmNothing)
 {
     for (const QByteArray& text :

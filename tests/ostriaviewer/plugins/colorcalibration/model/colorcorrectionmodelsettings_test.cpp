@@ -201,6 +201,23 @@ TEST_F(ModelTest, ASettingThatDidNotComeBackComesWithALaterBackup)
     EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 7.0) << "nothing is owed now";
 }
 
+TEST_F(ModelTest, ALaterBackupBringsWhatTheOwedOneDoesNotKnow)
+{
+    ASSERT_TRUE(open());
+    m_camera->features().remove("TvrHue");
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    m_camera->features().remove("Gamma");
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    ASSERT_TRUE(m_model.IsBackupOwed());
+    m_camera->parameters().addFloat("Gamma", 7.0);
+    m_camera->parameters().addFloat("TvrHue", 5.0);
+    ASSERT_TRUE(m_model.CreateSettingsBackup(false));
+    m_camera->parameters().addFloat("TvrHue", 9.0);
+    EXPECT_TRUE(m_model.RestoreSettingsBackup(false));
+    EXPECT_EQ(m_camera->features().get("TvrHue").value.toDouble(), 5.0);
+    EXPECT_EQ(m_camera->features().get("Gamma").value.toDouble(), 0.25);
+}
+
 TEST_F(ModelTest, ABackupIsOwedUntilItIsBackWhole)
 {
     ASSERT_TRUE(open());
