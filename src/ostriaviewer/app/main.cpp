@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Entry of the viewer.
 #include "emulatedcameras.h"
+#include "largememory.h"
 #include "terminationwatch.h"
 #include "viewerapplication.h"
 #include "viewerarguments.h"
@@ -37,6 +38,7 @@ bool hasScreen()
 
 int main(int argc, char** argv)
 {
+    Viewer::giveLargeMemoryBack();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
