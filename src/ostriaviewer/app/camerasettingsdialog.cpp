@@ -9,12 +9,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QNetworkInterface>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace Viewer {
 namespace {
@@ -187,7 +189,31 @@ void CameraSettingsDialog::accept()
 {
     if (m_addressGroup->isEnabled() && !m_address->text().trimmed().isEmpty() && !addAddress())
         return;
-    QDialog::accept();
+    const QString question = m_question ? m_question(settings()) : QString();
+    if (question.isEmpty())
+        QDialog::accept();
+    else
+        ask(question);
+}
+
+void CameraSettingsDialog::setQuestion(Question question)
+{
+    m_question = std::move(question);
+}
+
+void CameraSettingsDialog::ask(const QString& question)
+{
+    auto* box =
+        new QMessageBox(QMessageBox::Question, windowTitle(), question, QMessageBox::Cancel, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    const auto* agreed = box->addButton(tr("&Close Cameras"), QMessageBox::AcceptRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    connect(box, &QDialog::finished, this, [this, box, agreed] {
+        if (box->clickedButton() == agreed)
+            QDialog::accept();
+    });
+    box->open();
 }
 
 bool CameraSettingsDialog::addAddress()

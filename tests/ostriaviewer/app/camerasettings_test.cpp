@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSpinBox>
 
 namespace Viewer {
@@ -190,6 +191,117 @@ TEST_F(CameraSettingsDialogTest, AsksAboutNoNetworkWhereOnlyEmulatedCamerasAreWa
 }
 
 using CameraSettingsInTheViewer = ViewerTest;
+
+class CameraSettingsInUse : public ViewerTest
+{
+protected:
+    /// Chooses other cameras than the emulated ones, and presses OK.
+    void chooseRealCameras()
+    {
+        // The dialog before has the same name.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        child<QAction>("editCameraSettings")->trigger();
+        auto* backends = child<QComboBox>("backends");
+        backends->setCurrentIndex(backends->findData("genicam"));
+        child<QGroupBox>("search")->setChecked(false);
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    }
+
+    static bool isClosed(const QDialog* dialog)
+    {
+        return waitUntil([dialog] { return QApplication::activeModalWidget() != dialog; });
+    }
+};
+
+TEST_F(CameraSettingsInUse, AskBeforeTheyCloseACameraAndLeaveAllAsItWas)
+{
+    startViewer();
+    clickCamera(0);
+    window().commands().startAction()->trigger();
+    ASSERT_TRUE(m_first->isGrabbing());
+    chooseRealCameras();
+    auto* dialog = child<QDialog>("cameraSettings");
+    QMessageBox* box = messageBox();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->text(), "These settings close cameras that are in use:\n\n" +
+                               m_first->displayName() +
+                               " (acquiring)\n\nDo you want to close them and use the settings?");
+    // Whoever presses Return without reading keeps his camera.
+    QTest::keyClick(box, Qt::Key_Return);
+    ASSERT_TRUE(isClosed(box));
+    EXPECT_TRUE(dialog->isVisible());
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    ASSERT_TRUE(isClosed(dialog));
+    EXPECT_TRUE(m_first->isGrabbing());
+    EXPECT_EQ(m_viewer->pool().cameras().size(), 2);
+    EXPECT_FALSE(QSettings().contains("Viewer/Cameras/Backends"));
+}
+
+TEST_F(CameraSettingsInUse, CloseCamerasOnceTheUserAgrees)
+{
+    ViewerSettings().setValue("RecordingFolder", folder());
+    startViewer();
+    clickCamera(1);
+    window().commands().openAction()->trigger();
+    clickCamera(0);
+    child<QAction>("record")->trigger();
+    chooseRealCameras();
+    auto* dialog = child<QDialog>("cameraSettings");
+    QMessageBox* box = messageBox();
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->text().contains(m_first->displayName() + " (recording)\n" +
+                                     m_second->displayName() + " (open)\n"));
+    for (QAbstractButton* button : box->buttons())
+        if (button->text() == "&Close Cameras")
+            QTest::mouseClick(button, Qt::LeftButton);
+    ASSERT_TRUE(isClosed(box) && isClosed(dialog));
+    EXPECT_FALSE(m_first->isOpen());
+    EXPECT_FALSE(m_second->isOpen());
+    EXPECT_TRUE(m_viewer->pool().cameras().isEmpty());
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded "); }));
+    EXPECT_EQ(readCameraSettings(ViewerSettings()).backends, Backends::GenICam);
+}
+
+TEST_F(CameraSettingsInUse, AskNothingWhereNoOpenCameraGoes)
+{
+    startViewer();
+    clickCamera(0);
+    window().commands().startAction()->trigger();
+    child<QAction>("editCameraSettings")->trigger();
+    child<QGroupBox>("search")->setChecked(false);
+    child<QSpinBox>("packetSize")->setValue(1500);
+    QDialog* dialog = child<QDialog>("cameraSettings");
+    QTest::keyClick(dialog, Qt::Key_Return);
+    ASSERT_TRUE(isClosed(dialog));
+    EXPECT_FALSE(messageBox());
+    EXPECT_TRUE(m_first->isGrabbing());
+
+    window().commands().closeAction()->trigger();
+    chooseRealCameras();
+    EXPECT_FALSE(messageBox());
+    EXPECT_TRUE(waitUntil([this] { return m_viewer->pool().cameras().isEmpty(); }));
+}
+
+TEST_F(CameraSettingsInUse, CountAgainOnlyWhereTheyAskForOtherCameras)
+{
+    Cameras::CameraPool pool({});
+    const DeviceSelectorService selector;
+    CameraSources sources(pool, selector, {m_first, m_second});
+    QSignalSpy applied(&sources, &CameraSources::applied);
+    CameraSettings settings;
+    settings.backends = Backends::Emulation;
+    sources.apply(settings);
+    EXPECT_EQ(pool.cameras().size(), 2);
+    EXPECT_EQ(applied.count(), 1);
+    sources.apply(settings);
+    settings.transport.packetSize = 1500;
+    sources.apply(settings);
+    EXPECT_EQ(applied.count(), 1);
+    EXPECT_EQ(sources.settings().transport.packetSize, 1500);
+    settings.transport.isSearching = false;
+    sources.apply(settings);
+    EXPECT_EQ(applied.count(), 2);
+}
 
 TEST_F(CameraSettingsInTheViewer, CountAtOnceAndAreKept)
 {
