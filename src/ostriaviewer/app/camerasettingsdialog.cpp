@@ -2,6 +2,8 @@
 // Lets the user say which cameras there are and how they are reached.
 #include "camerasettingsdialog.h"
 
+#include "checkoutline.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
@@ -87,6 +89,8 @@ QWidget* CameraSettingsDialog::makeSearch(const QStringList& interfaces)
     m_search->setObjectName(QStringLiteral("search"));
     m_search->setCheckable(true);
     m_interfaces = makeList("interfaces", tr("Network interfaces"));
+    CheckOutline::install(*m_search);
+    CheckOutline::install(*m_interfaces);
     for (const QString& name : interfaces) {
         auto* item = new QListWidgetItem(name, m_interfaces);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);

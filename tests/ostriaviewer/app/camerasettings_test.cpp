@@ -13,6 +13,9 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 
+#include <algorithm>
+#include <cmath>
+
 namespace Viewer {
 namespace {
 
@@ -189,6 +192,47 @@ TEST_F(CameraSettingsDialogTest, AsksAboutNoNetworkWhereOnlyEmulatedCamerasAreWa
     EXPECT_FALSE(child<QGroupBox>("search")->isEnabled());
     EXPECT_FALSE(child<QSpinBox>("packetSize")->isEnabled());
 }
+
+/// Relative luminance, WCAG 2.1.
+double luminance(const QColor& color)
+{
+    const auto linear = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+class CameraSettingsChecks : public CameraSettingsDialogTest,
+                             public testing::WithParamInterface<Theme>
+{
+protected:
+    CameraSettingsChecks() { applyTheme(GetParam()); }
+    ~CameraSettingsChecks() override { applyTheme(Theme::Desktop); }
+};
+
+// WCAG 2.1, 1.4.11: what shows a control contrasts with what is beside it by 3 to 1.
+TEST_P(CameraSettingsChecks, StandOutFromTheirList)
+{
+    open({});
+    auto* list = child<QListWidget>("interfaces");
+    QRect box = list->visualItemRect(list->item(1));
+    box.setWidth(list->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 2);
+    const QImage picture = list->viewport()->grab(box).toImage();
+    const double ground = luminance(list->palette().color(QPalette::Base));
+    double best = 1.0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const double drawn = luminance(picture.pixelColor(x, y));
+            best =
+                std::max(best, (std::max(drawn, ground) + 0.05) / (std::min(drawn, ground) + 0.05));
+        }
+    }
+    EXPECT_GE(best, 3.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Viewer, CameraSettingsChecks, testing::Values(Theme::Light, Theme::Dark),
+                         [](const auto& theme) { return nameOf(theme.param).toStdString(); });
 
 using CameraSettingsInTheViewer = ViewerTest;
 
