@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Runs the benchmarks with a screen.
+#include "largememory.h"
 #include "start.h"
 
 #include <QApplication>
@@ -8,6 +9,7 @@
 
 int main(int argc, char** argv)
 {
+    Viewer::giveLargeMemoryBack();
     QCoreApplication::setOrganizationName(QStringLiteral("ostria-benchmarks"));
     QCoreApplication::setApplicationName(QStringLiteral("viewer"));
     const int exitCode = runMeasuredStart(argc, argv);

@@ -4,12 +4,16 @@
 
 #include "camerasettingsdialog.h"
 
+#include <QStringList>
+
 namespace Viewer {
 
-CameraSettingsCommands::CameraSettingsCommands(CameraSources& sources, ViewerSettings& settings,
-                                               QWidget& window, QObject* parent)
+CameraSettingsCommands::CameraSettingsCommands(CameraSources& sources, const CameraList& cameras,
+                                               ViewerSettings& settings, QWidget& window,
+                                               QObject* parent)
     : QObject(parent)
     , m_sources(sources)
+    , m_cameras(cameras)
     , m_settings(settings)
     , m_window(window)
     , m_search(new QAction(&window))
@@ -30,20 +34,38 @@ void CameraSettingsCommands::edit()
     auto* dialog =
         new CameraSettingsDialog(kept, CameraSettingsDialog::systemInterfaces(), &m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this,
-            [this, dialog, kept] { take(dialog->settings(), kept.backends); });
+    dialog->setQuestion(
+        [this, kept](const CameraSettings& chosen) { return question(applied(chosen, kept)); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog, kept] {
+        const CameraSettings chosen = dialog->settings();
+        writeCameraSettings(m_settings, chosen);
+        m_sources.apply(applied(chosen, kept));
+    });
     dialog->open();
 }
 
 // The kind of cameras that this start alone was asked to show stays until another one is chosen,
 // and is not kept.
-void CameraSettingsCommands::take(const CameraSettings& chosen, Backends before)
+CameraSettings CameraSettingsCommands::applied(const CameraSettings& chosen,
+                                               const CameraSettings& kept) const
 {
-    writeCameraSettings(m_settings, chosen);
     CameraSettings applied = chosen;
-    if (chosen.backends == before)
+    if (chosen.backends == kept.backends)
         applied.backends = m_sources.settings().backends;
-    m_sources.apply(applied);
+    return applied;
+}
+
+QString CameraSettingsCommands::question(const CameraSettings& settings) const
+{
+    QStringList lines;
+    for (const Cameras::HostCameraPtr& camera : m_sources.closedBy(settings))
+        lines.append(tr("%1 (%2)").arg(camera->displayName(),
+                                       CameraList::stateName(m_cameras.state(camera))));
+    if (lines.isEmpty())
+        return {};
+    return tr("These settings close cameras that are in use:\n\n%1\n\nDo you want to close them "
+              "and use the settings?")
+        .arg(lines.join(QLatin1Char('\n')));
 }
 
 void CameraSettingsCommands::retranslate()

@@ -2,6 +2,7 @@
 // The commands around where cameras come from.
 #pragma once
 
+#include "cameralist.h"
 #include "camerasources.h"
 #include "viewersettings.h"
 
@@ -20,8 +21,8 @@ class CameraSettingsCommands final : public QObject
 public:
     /// All are lent as long as the commands live.
     /// \param window  the parent of actions and dialog
-    CameraSettingsCommands(CameraSources& sources, ViewerSettings& settings, QWidget& window,
-                           QObject* parent = nullptr);
+    CameraSettingsCommands(CameraSources& sources, const CameraList& cameras,
+                           ViewerSettings& settings, QWidget& window, QObject* parent = nullptr);
 
     QAction* searchAction() const { return m_search; }
     QAction* settingsAction() const { return m_edit; }
@@ -30,9 +31,11 @@ public:
 
 private:
     void edit();
-    void take(const CameraSettings& chosen, Backends before);
+    CameraSettings applied(const CameraSettings& chosen, const CameraSettings& kept) const;
+    QString question(const CameraSettings& settings) const;
 
     CameraSources& m_sources;
+    const CameraList& m_cameras;
     ViewerSettings& m_settings;
     QWidget& m_window;
     QAction* m_search;

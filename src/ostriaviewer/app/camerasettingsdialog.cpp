@@ -3,6 +3,7 @@
 #include "camerasettingsdialog.h"
 
 #include "cameraaddress.h"
+#include "checkoutline.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -11,12 +12,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QNetworkInterface>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace Viewer {
 namespace {
@@ -87,6 +90,8 @@ QWidget* CameraSettingsDialog::makeSearch(const QStringList& interfaces)
     m_search->setObjectName(QStringLiteral("search"));
     m_search->setCheckable(true);
     m_interfaces = makeList("interfaces", tr("Network interfaces"));
+    CheckOutline::install(*m_search);
+    CheckOutline::install(*m_interfaces);
     for (const QString& name : interfaces) {
         auto* item = new QListWidgetItem(name, m_interfaces);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
@@ -189,7 +194,31 @@ void CameraSettingsDialog::accept()
 {
     if (m_addressGroup->isEnabled() && !m_address->text().trimmed().isEmpty() && !addAddress())
         return;
-    QDialog::accept();
+    const QString question = m_question ? m_question(settings()) : QString();
+    if (question.isEmpty())
+        QDialog::accept();
+    else
+        ask(question);
+}
+
+void CameraSettingsDialog::setQuestion(Question question)
+{
+    m_question = std::move(question);
+}
+
+void CameraSettingsDialog::ask(const QString& question)
+{
+    auto* box =
+        new QMessageBox(QMessageBox::Question, windowTitle(), question, QMessageBox::Cancel, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    const auto* agreed = box->addButton(tr("&Close Cameras"), QMessageBox::AcceptRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    connect(box, &QDialog::finished, this, [this, box, agreed] {
+        if (box->clickedButton() == agreed)
+            QDialog::accept();
+    });
+    box->open();
 }
 
 bool CameraSettingsDialog::addAddress()

@@ -6,6 +6,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class QComboBox;
 class QGroupBox;
 class QLabel;
@@ -32,7 +34,12 @@ public:
     /// The network interfaces of this machine that have an IPv4 address.
     static QStringList systemInterfaces();
 
-    /// Takes an address with it that was typed but not added; stays open if it is none.
+    /// What the user is asked before these settings are taken; empty if nothing.
+    using Question = std::function<QString(const CameraSettings& settings)>;
+    void setQuestion(Question question);
+
+    /// Takes an address with it that was typed but not added; stays open if it is none, and while
+    /// the user is asked.
     void accept() override;
 
 private:
@@ -43,8 +50,10 @@ private:
     void fill(const CameraSettings& settings);
     bool addAddress();
     void removeAddress();
+    void ask(const QString& question);
     void follow();
 
+    Question m_question;
     QComboBox* m_backends;
     QGroupBox* m_search;
     QListWidget* m_interfaces;

@@ -2,7 +2,6 @@
 // Where the viewer's cameras come from.
 #include "camerasources.h"
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -21,10 +20,12 @@ constexpr std::chrono::seconds pause(4);
 /// An answer may get lost.
 constexpr int patience = 2;
 
-bool isSameDevice(const CameraIdentity& known, const CameraIdentity& found)
+/// The packet size counts for cameras that are opened later, and for nothing else.
+bool asksForOthers(const CameraSettings& settings, const CameraSettings& before)
 {
-    return known.modelName.isEmpty() ||
-           (known.modelName == found.modelName && known.serialNumber == found.serialNumber);
+    Cameras::GenICam::TransportSettings transport = settings.transport;
+    transport.packetSize = before.transport.packetSize;
+    return settings.backends != before.backends || transport != before.transport;
 }
 
 } // namespace
@@ -46,9 +47,11 @@ CameraSources::~CameraSources() = default;
 
 void CameraSources::apply(const CameraSettings& settings)
 {
-    m_settings = settings;
-    for (const Known& known : qAsConst(m_known))
+    const CameraSettings before = std::exchange(m_settings, settings);
+    for (const KnownCamera& known : m_known.all())
         known.camera->setTransportSettings(settings.transport);
+    if (std::exchange(m_isApplied, true) && !asksForOthers(settings, before))
+        return;
     listEmulated();
     m_isOutdated = m_isSearching;
     m_isFirstSearch = wantsReal();
@@ -60,6 +63,18 @@ void CameraSources::apply(const CameraSettings& settings)
         unlistReal();
     }
     emit applied();
+}
+
+QList<HostCameraPtr> CameraSources::closedBy(const CameraSettings& settings) const
+{
+    QList<HostCameraPtr> closed;
+    for (const HostCameraPtr& camera : m_pool.cameras()) {
+        const Backends withoutIt =
+            m_emulated.contains(camera) ? Backends::GenICam : Backends::Emulation;
+        if (settings.backends == withoutIt && camera->isOpen())
+            closed.append(camera);
+    }
+    return closed;
 }
 
 void CameraSources::listEmulated()
@@ -80,7 +95,7 @@ void CameraSources::listFixed()
 
 void CameraSources::unlistReal()
 {
-    for (Known& known : m_known)
+    for (KnownCamera& known : m_known.all())
         list(known, false);
 }
 
@@ -101,13 +116,14 @@ void CameraSources::onFound(const QVector<CameraIdentity>& identities)
         return;
     if (isOutdated)
         return search();
-    for (Known& known : m_known)
+    for (KnownCamera& known : m_known.all())
         ++known.missed;
     for (const CameraIdentity& identity : identities)
         greet(identity);
-    for (Known& known : m_known)
+    for (KnownCamera& known : m_known.all())
         if (known.missed > 0)
             miss(known);
+    m_known.forgetLongAway();
     m_isFirstSearch = false;
     m_timer.start();
     emit searched();
@@ -119,22 +135,16 @@ bool CameraSources::isFixed(const QString& id) const
 }
 
 // Whatever stands at an address of the settings is the camera that they mean.
-CameraSources::Known& CameraSources::know(const CameraIdentity& identity)
+KnownCamera& CameraSources::know(const CameraIdentity& identity)
 {
-    const auto known = std::find_if(m_known.begin(), m_known.end(), [&](const Known& each) {
-        const CameraIdentity other = each.camera->identity();
-        return other.id == identity.id && (isFixed(other.id) || isSameDevice(other, identity));
-    });
-    if (known != m_known.end())
-        return *known;
-    m_known.append({GenicamCamera::create(identity, m_settings.transport), 0, false});
-    return m_known.last();
+    return m_known.know(identity, isFixed(identity.id),
+                        [&] { return GenicamCamera::create(identity, m_settings.transport); });
 }
 
 // What was only known by its address learns its name.
 void CameraSources::greet(const CameraIdentity& identity)
 {
-    Known& known = know(identity);
+    KnownCamera& known = know(identity);
     known.missed = 0;
     known.camera->setIdentity(identity);
     if (known.isListed)
@@ -143,7 +153,7 @@ void CameraSources::greet(const CameraIdentity& identity)
     emit found(known.camera);
 }
 
-void CameraSources::miss(Known& known)
+void CameraSources::miss(KnownCamera& known)
 {
     const bool isSelected = m_selector.selected() == known.camera;
     if (!known.isListed || known.missed < patience || isSelected || known.camera->isOpen() ||
@@ -153,7 +163,7 @@ void CameraSources::miss(Known& known)
     emit vanished(known.camera);
 }
 
-void CameraSources::list(Known& known, bool isListed)
+void CameraSources::list(KnownCamera& known, bool isListed)
 {
     known.isListed = isListed;
     if (isListed)

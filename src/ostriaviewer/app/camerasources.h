@@ -6,7 +6,7 @@
 #include "camerapool.h"
 #include "camerasettings.h"
 #include "deviceselectorservice.h"
-#include "genicamcamera.h"
+#include "knowncameras.h"
 
 #include <QList>
 #include <QObject>
@@ -30,8 +30,13 @@ public:
                   QList<Cameras::HostCameraPtr> emulated, QObject* parent = nullptr);
     ~CameraSources() override;
 
-    /// Changes the pool to what the settings ask for. Returns at once; what is found comes later.
+    /// Changes the pool to what the settings ask for, where they ask for something else than
+    /// before. Returns at once; what is found comes later.
     void apply(const CameraSettings& settings);
+
+    /// The open cameras that apply would close.
+    QList<Cameras::HostCameraPtr> closedBy(const CameraSettings& settings) const;
+
     const CameraSettings& settings() const { return m_settings; }
 
     /// Whether the first search since apply is still under way.
@@ -41,32 +46,23 @@ public:
     void search();
 
 signals:
-    /// Other settings count from now on.
+    /// Other cameras are wanted from now on.
     void applied();
     void searched();
     void found(const Cameras::HostCameraPtr& camera);
     void vanished(const Cameras::HostCameraPtr& camera);
 
 private:
-    using RealCamera = QSharedPointer<Cameras::GenICam::GenicamCamera>;
-
-    struct Known
-    {
-        RealCamera camera;
-        int missed = 0; ///< searches in a row that did not find it
-        bool isListed = false;
-    };
-
     bool wantsReal() const { return m_settings.backends != Backends::Emulation; }
     bool isFixed(const QString& id) const;
-    Known& know(const Cameras::GenICam::CameraIdentity& identity);
-    void list(Known& known, bool isListed);
+    KnownCamera& know(const Cameras::GenICam::CameraIdentity& identity);
+    void list(KnownCamera& known, bool isListed);
     void listEmulated();
     void listFixed();
     void unlistReal();
     void onFound(const QVector<Cameras::GenICam::CameraIdentity>& identities);
     void greet(const Cameras::GenICam::CameraIdentity& identity);
-    void miss(Known& known);
+    void miss(KnownCamera& known);
 
     Cameras::CameraPool& m_pool;
     const DeviceSelectorService& m_selector;
@@ -74,7 +70,8 @@ private:
     CameraSettings m_settings;
     Cameras::GenICam::CameraFinder m_finder;
     QTimer m_timer;
-    QList<Known> m_known;
+    KnownCameras m_known;
+    bool m_isApplied = false; // settings have come
     bool m_isFirstSearch = false;
     bool m_isOutdated = false; // the search that runs asks for what is not wanted any more
     bool m_isSearching = false;

@@ -2,6 +2,7 @@
 // The features of the selected camera, to be read and changed.
 #include "featurepanel.h"
 
+#include "checkoutline.h"
 #include "featuredelegate.h"
 #include "featuremodel.h"
 
@@ -88,6 +89,7 @@ void FeaturePanel::makeView()
     layout->addWidget(m_view);
     layout->addWidget(m_hint, 1);
 
+    CheckOutline::install(*m_view);
     connect(m_view, &QTreeView::clicked, this, &FeaturePanel::use);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         m_model->setWatched(m_shown->mapToSource(index), true);

@@ -2,6 +2,7 @@
 // Entry of the viewer.
 #include "drawing.h"
 #include "emulatedcameras.h"
+#include "largememory.h"
 #include "terminationwatch.h"
 #include "viewerapplication.h"
 #include "viewerarguments.h"
@@ -38,6 +39,7 @@ bool hasScreen()
 
 int main(int argc, char** argv)
 {
+    Viewer::giveLargeMemoryBack();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);

@@ -81,13 +81,17 @@ QString nameOf(Theme theme)
     return QStringLiteral("desktop");
 }
 
-// The same style everywhere, as others do not follow a palette in all their parts. A default
-// palette is the desktop's.
+// The same everywhere, as others do not follow a palette in all their parts.
+QString styleName()
+{
+    return QStringLiteral("fusion");
+}
+
+// A default palette is the desktop's.
 void applyTheme(Theme theme)
 {
-    const auto style = QStringLiteral("fusion");
-    if (QApplication::style()->objectName() != style)
-        QApplication::setStyle(style);
+    if (QApplication::style()->objectName() != styleName())
+        QApplication::setStyle(styleName());
     QPalette palette;
     if (theme == Theme::Light)
         palette = paletteOf(lightColors());

@@ -12,6 +12,9 @@ enum class Theme { Desktop, Light, Dark };
 Theme themeFromName(const QString& name);
 QString nameOf(Theme theme);
 
+/// The style of all windows.
+QString styleName();
+
 /// Gives all windows the theme's colors. Thread-bound: GUI thread.
 void applyTheme(Theme theme);
 

@@ -42,7 +42,8 @@ ViewerApplication::ViewerApplication(ViewerArguments arguments,
         MainWindowParts{m_cameras, *m_selector, *m_menus, m_messages, m_settings});
     m_window->menu().showTheme(theme);
     m_window->menu().showLanguage(m_language);
-    m_cameraSettings = std::make_unique<CameraSettingsCommands>(m_sources, m_settings, *m_window);
+    m_cameraSettings =
+        std::make_unique<CameraSettingsCommands>(m_sources, m_cameras, m_settings, *m_window);
     auto* line = new QAction(m_window.get());
     line->setSeparator(true);
     m_window->menu().addToCamera(line);
@@ -132,9 +133,9 @@ void ViewerApplication::selectCamera()
 {
     const auto cameras = m_cameras.cameras();
     if (m_arguments.camera.isEmpty()) {
-        if (!cameras.isEmpty())
-            m_window->selectorPanel().select(cameras.constFirst());
-        return;
+        if (cameras.isEmpty())
+            return waitForFirstCamera();
+        return m_window->selectorPanel().select(cameras.constFirst());
     }
     if (selectNamedCamera())
         return;
@@ -153,6 +154,17 @@ void ViewerApplication::waitForCamera()
     connect(&m_sources, &CameraSources::searched, wait, [this, wait] {
         wait->deleteLater();
         selectCamera();
+    });
+}
+
+void ViewerApplication::waitForFirstCamera()
+{
+    auto* wait = new QObject(this);
+    connect(m_selector.data(), &DeviceSelectorService::selectionChanged, wait,
+            &QObject::deleteLater);
+    connect(&m_cameras, &CameraList::added, wait, [this](const HostCameraPtr& camera) {
+        if (!m_selector->selected())
+            m_window->selectorPanel().select(camera);
     });
 }
 

@@ -60,6 +60,7 @@ private:
     void loadPlugins();
     void selectCamera();
     void waitForCamera();
+    void waitForFirstCamera();
     bool selectNamedCamera();
     void chooseTheme(Theme theme);
     void chooseLanguage(const QString& code);

@@ -10,7 +10,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSpinBox>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Viewer {
 namespace {
@@ -181,7 +185,159 @@ TEST_F(CameraSettingsDialogTest, AsksAboutNoNetworkWhereOnlyEmulatedCamerasAreWa
     EXPECT_FALSE(child<QSpinBox>("packetSize")->isEnabled());
 }
 
+/// Relative luminance, WCAG 2.1.
+double luminance(const QColor& color)
+{
+    const auto linear = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+class CameraSettingsChecks : public CameraSettingsDialogTest,
+                             public testing::WithParamInterface<Theme>
+{
+protected:
+    CameraSettingsChecks() { applyTheme(GetParam()); }
+    ~CameraSettingsChecks() override { applyTheme(Theme::Desktop); }
+};
+
+// WCAG 2.1, 1.4.11: what shows a control contrasts with what is beside it by 3 to 1.
+TEST_P(CameraSettingsChecks, StandOutFromTheirList)
+{
+    open({});
+    auto* list = child<QListWidget>("interfaces");
+    QRect box = list->visualItemRect(list->item(1));
+    box.setWidth(list->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 2);
+    const QImage picture = list->viewport()->grab(box).toImage();
+    const double ground = luminance(list->palette().color(QPalette::Base));
+    double best = 1.0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const double drawn = luminance(picture.pixelColor(x, y));
+            best =
+                std::max(best, (std::max(drawn, ground) + 0.05) / (std::min(drawn, ground) + 0.05));
+        }
+    }
+    EXPECT_GE(best, 3.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Viewer, CameraSettingsChecks, testing::Values(Theme::Light, Theme::Dark),
+                         [](const auto& theme) { return nameOf(theme.param).toStdString(); });
+
 using CameraSettingsInTheViewer = ViewerTest;
+
+class CameraSettingsInUse : public ViewerTest
+{
+protected:
+    /// Chooses other cameras than the emulated ones, and presses OK.
+    void chooseRealCameras()
+    {
+        // The dialog before has the same name.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        child<QAction>("editCameraSettings")->trigger();
+        auto* backends = child<QComboBox>("backends");
+        backends->setCurrentIndex(backends->findData("genicam"));
+        child<QGroupBox>("search")->setChecked(false);
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    }
+
+    static bool isClosed(const QDialog* dialog)
+    {
+        return waitUntil([dialog] { return QApplication::activeModalWidget() != dialog; });
+    }
+};
+
+TEST_F(CameraSettingsInUse, AskBeforeTheyCloseACameraAndLeaveAllAsItWas)
+{
+    startViewer();
+    clickCamera(0);
+    window().commands().startAction()->trigger();
+    ASSERT_TRUE(m_first->isGrabbing());
+    chooseRealCameras();
+    auto* dialog = child<QDialog>("cameraSettings");
+    QMessageBox* box = messageBox();
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->text(), "These settings close cameras that are in use:\n\n" +
+                               m_first->displayName() +
+                               " (acquiring)\n\nDo you want to close them and use the settings?");
+    // Whoever presses Return without reading keeps his camera.
+    QTest::keyClick(box, Qt::Key_Return);
+    ASSERT_TRUE(isClosed(box));
+    EXPECT_TRUE(dialog->isVisible());
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    ASSERT_TRUE(isClosed(dialog));
+    EXPECT_TRUE(m_first->isGrabbing());
+    EXPECT_EQ(m_viewer->pool().cameras().size(), 2);
+    EXPECT_FALSE(QSettings().contains("Viewer/Cameras/Backends"));
+}
+
+TEST_F(CameraSettingsInUse, CloseCamerasOnceTheUserAgrees)
+{
+    ViewerSettings().setValue("RecordingFolder", folder());
+    startViewer();
+    clickCamera(1);
+    window().commands().openAction()->trigger();
+    clickCamera(0);
+    child<QAction>("record")->trigger();
+    chooseRealCameras();
+    auto* dialog = child<QDialog>("cameraSettings");
+    QMessageBox* box = messageBox();
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->text().contains(m_first->displayName() + " (recording)\n" +
+                                     m_second->displayName() + " (open)\n"));
+    for (QAbstractButton* button : box->buttons())
+        if (button->text() == "&Close Cameras")
+            QTest::mouseClick(button, Qt::LeftButton);
+    ASSERT_TRUE(isClosed(box) && isClosed(dialog));
+    EXPECT_FALSE(m_first->isOpen());
+    EXPECT_FALSE(m_second->isOpen());
+    EXPECT_TRUE(m_viewer->pool().cameras().isEmpty());
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded "); }));
+    EXPECT_EQ(readCameraSettings(ViewerSettings()).backends, Backends::GenICam);
+}
+
+TEST_F(CameraSettingsInUse, AskNothingWhereNoOpenCameraGoes)
+{
+    startViewer();
+    clickCamera(0);
+    window().commands().startAction()->trigger();
+    child<QAction>("editCameraSettings")->trigger();
+    child<QGroupBox>("search")->setChecked(false);
+    child<QSpinBox>("packetSize")->setValue(1500);
+    QDialog* dialog = child<QDialog>("cameraSettings");
+    QTest::keyClick(dialog, Qt::Key_Return);
+    ASSERT_TRUE(isClosed(dialog));
+    EXPECT_FALSE(messageBox());
+    EXPECT_TRUE(m_first->isGrabbing());
+
+    window().commands().closeAction()->trigger();
+    chooseRealCameras();
+    EXPECT_FALSE(messageBox());
+    EXPECT_TRUE(waitUntil([this] { return m_viewer->pool().cameras().isEmpty(); }));
+}
+
+TEST_F(CameraSettingsInUse, CountAgainOnlyWhereTheyAskForOtherCameras)
+{
+    Cameras::CameraPool pool({});
+    const DeviceSelectorService selector;
+    CameraSources sources(pool, selector, {m_first, m_second});
+    QSignalSpy applied(&sources, &CameraSources::applied);
+    CameraSettings settings;
+    settings.backends = Backends::Emulation;
+    sources.apply(settings);
+    EXPECT_EQ(pool.cameras().size(), 2);
+    EXPECT_EQ(applied.count(), 1);
+    sources.apply(settings);
+    settings.transport.packetSize = 1500;
+    sources.apply(settings);
+    EXPECT_EQ(applied.count(), 1);
+    EXPECT_EQ(sources.settings().transport.packetSize, 1500);
+    settings.transport.isSearching = false;
+    sources.apply(settings);
+    EXPECT_EQ(applied.count(), 2);
+}
 
 TEST_F(CameraSettingsInTheViewer, CountAtOnceAndAreKept)
 {

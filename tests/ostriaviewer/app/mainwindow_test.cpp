@@ -229,6 +229,48 @@ TEST_F(MainWindowTest, StartsWithTheCameraThatIsNamed)
     EXPECT_TRUE(m_second->isGrabbing());
 }
 
+class EmptyAtStart : public ViewerTest
+{
+protected:
+    EmptyAtStart()
+    {
+        ViewerSettings().setValue("Cameras/Search", false);
+        m_backends = Backends::GenICam;
+    }
+
+    void startEmpty()
+    {
+        startViewer();
+        ASSERT_TRUE(m_viewer->pool().cameras().isEmpty());
+    }
+
+    void appear(const EmulatedCameraPtr& camera) { m_viewer->pool().add(camera); }
+    bool isSelected(const EmulatedCameraPtr& camera) { return selected() == camera; }
+    Cameras::HostCameraPtr selected() { return window().commands().camera(); }
+};
+
+TEST_F(EmptyAtStart, SelectsTheFirstCameraThatAppearsAndNoOther)
+{
+    ASSERT_NO_FATAL_FAILURE(startEmpty());
+    EXPECT_FALSE(selected());
+    appear(m_second);
+    EXPECT_TRUE(isSelected(m_second));
+    appear(m_first);
+    EXPECT_TRUE(isSelected(m_second));
+}
+
+TEST_F(EmptyAtStart, LeavesTheSelectionToTheUserFromThenOn)
+{
+    ASSERT_NO_FATAL_FAILURE(startEmpty());
+    appear(m_first);
+    ASSERT_TRUE(isSelected(m_first));
+    m_viewer->pool().remove(m_first);
+    EXPECT_FALSE(selected());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    appear(m_second);
+    EXPECT_FALSE(selected());
+}
+
 TEST_F(MainWindowTest, TellsOfACameraThatIsNotThere)
 {
     startViewer({}, "no such camera");

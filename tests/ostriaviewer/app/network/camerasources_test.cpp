@@ -20,6 +20,16 @@ TEST_F(CameraSourcesTest, AreFoundAfterTheStartAndStandBesideTheEmulatedOnes)
     EXPECT_TRUE(hasMessage(m_rig.served().displayName() + " was found."));
 }
 
+TEST_F(CameraSourcesTest, SelectTheFirstOneWhereThereIsNoOther)
+{
+    m_backends = Backends::GenICam;
+    startViewer();
+    EXPECT_FALSE(window().commands().camera());
+    ASSERT_TRUE(waitUntil([this] { return networkItem() != nullptr; }));
+    EXPECT_TRUE(networkItem()->isSelected());
+    EXPECT_EQ(window().commands().camera(), m_viewer->pool().cameras().constFirst());
+}
+
 TEST_F(CameraSourcesTest, GoWithTheCameraAndComeBackWithIt)
 {
     startViewer();
@@ -74,6 +84,24 @@ TEST_F(CameraSourcesTest, AtAFixedAddressAreListedAtOnceAndLearnTheirName)
         [this] { return networkItem()->text(0) == m_rig.served().displayName(); }));
     EXPECT_EQ(networkItem()->parent()->child(1)->text(0), "127.0.0.9");
     EXPECT_EQ(m_viewer->pool().cameras().size(), 4);
+}
+
+TEST_F(CameraSourcesTest, AreAskedForBeforeTheSettingsCloseThem)
+{
+    startViewer();
+    ASSERT_TRUE(isFound());
+    openNetworkCamera();
+    const auto camera = window().commands().camera();
+    child<QAction>("editCameraSettings")->trigger();
+    auto* backends = child<QComboBox>("backends");
+    backends->setCurrentIndex(backends->findData("emulation"));
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    ASSERT_TRUE(messageBox());
+    EXPECT_TRUE(messageBox()->text().contains(m_rig.served().displayName() + " (open)"));
+    QTest::keyClick(messageBox(), Qt::Key_Escape);
+    EXPECT_TRUE(camera->isOpen());
+    EXPECT_TRUE(networkItem() != nullptr);
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
 }
 
 TEST_F(CameraSourcesTest, FollowTheSettingsAtOnce)

@@ -457,6 +457,22 @@ Model %2, %3</source>
         <source>Choose which cameras are shown and how they are reached</source>
         <translation>表示するカメラとその接続方法を選択します</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>These settings close cameras that are in use:
+
+%1
+
+Do you want to close them and use the settings?</source>
+        <translation>この設定を適用すると、使用中のカメラが閉じられます：
+
+%1
+
+カメラを閉じて、この設定を使用しますか？</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraSettingsDialog</name>
@@ -543,6 +559,10 @@ Model %2, %3</source>
     <message>
         <source>&quot;%1&quot; is no address of a camera. It consists of four numbers, such as 192.168.1.20.</source>
         <translation>「%1」はカメラのアドレスではありません。アドレスは4つの数字で指定します（例：192.168.1.20）。</translation>
+    </message>
+    <message>
+        <source>&amp;Close Cameras</source>
+        <translation>カメラを閉じる(&amp;C)</translation>
     </message>
 </context>
 <context>

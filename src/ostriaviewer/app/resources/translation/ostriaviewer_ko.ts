@@ -457,6 +457,22 @@ Model %2, %3</source>
         <source>Choose which cameras are shown and how they are reached</source>
         <translation>표시할 카메라와 연결 방법을 선택합니다</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1(%2)</translation>
+    </message>
+    <message>
+        <source>These settings close cameras that are in use:
+
+%1
+
+Do you want to close them and use the settings?</source>
+        <translation>이 설정을 사용하면 사용 중인 다음 카메라가 닫힙니다.
+
+%1
+
+카메라를 닫고 이 설정을 사용하시겠습니까?</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraSettingsDialog</name>
@@ -543,6 +559,10 @@ Model %2, %3</source>
     <message>
         <source>&quot;%1&quot; is no address of a camera. It consists of four numbers, such as 192.168.1.20.</source>
         <translation>&quot;%1&quot;은(는) 카메라 주소가 아닙니다. 주소는 192.168.1.20처럼 네 개의 숫자로 이루어집니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Close Cameras</source>
+        <translation>카메라 닫기(&amp;C)</translation>
     </message>
 </context>
 <context>

@@ -457,6 +457,22 @@ Model %2, %3</source>
         <source>Choose which cameras are shown and how they are reached</source>
         <translation>选择要显示的相机及其连接方式</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>These settings close cameras that are in use:
+
+%1
+
+Do you want to close them and use the settings?</source>
+        <translation>应用这些设置会关闭以下正在使用的相机：
+
+%1
+
+是否关闭这些相机并应用设置？</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraSettingsDialog</name>
@@ -543,6 +559,10 @@ Model %2, %3</source>
     <message>
         <source>&quot;%1&quot; is no address of a camera. It consists of four numbers, such as 192.168.1.20.</source>
         <translation>“%1”不是相机地址。地址由四个数字组成，例如 192.168.1.20。</translation>
+    </message>
+    <message>
+        <source>&amp;Close Cameras</source>
+        <translation>关闭相机(&amp;C)</translation>
     </message>
 </context>
 <context>

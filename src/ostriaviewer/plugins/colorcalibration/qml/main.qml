@@ -297,49 +297,53 @@ Rectangle {
         }
     }
 
-    MessageDialog {
-        id: modelError
-        objectName: "modelError"
-        modality: Qt.ApplicationModal
-        icon: StandardIcon.Critical
-        title: tMsgHeader
-        text: ""
-    }
-
-    MessageDialog {
-        id: modelWarning
-        objectName: "modelWarning"
-        modality: Qt.ApplicationModal
-        icon: StandardIcon.Warning
-        title: tMsgHeader
-        text: ""
-    }
-
-    MessageDialog {
-        id: criticalError
-        objectName: "criticalError"
-        modality: Qt.ApplicationModal
-        icon: StandardIcon.Critical
-        title: tMsgHeader
-        text: ""
-
-        // The box tells of one answer twice.
-        property bool answered: false
-
-        // There is no way on from here, so Escape is an answer as good as OK.
-        function endWizard() {
-            if (answered)
-                return
-            answered = true
-            qmlModelInterface.cancel()
+    // Not among the items: a box takes its item's window for its own parent, and the wizard's view,
+    // which stands in another window, can be none.
+    QtObject {
+        readonly property MessageDialog error: MessageDialog {
+            id: modelError
+            objectName: "modelError"
+            modality: Qt.ApplicationModal
+            icon: StandardIcon.Critical
+            title: tMsgHeader
+            text: ""
         }
 
-        onVisibleChanged: {
-            if (visible)
-                answered = false
+        readonly property MessageDialog warning: MessageDialog {
+            id: modelWarning
+            objectName: "modelWarning"
+            modality: Qt.ApplicationModal
+            icon: StandardIcon.Warning
+            title: tMsgHeader
+            text: ""
         }
-        onAccepted: endWizard()
-        onRejected: endWizard()
+
+        readonly property MessageDialog critical: MessageDialog {
+            id: criticalError
+            objectName: "criticalError"
+            modality: Qt.ApplicationModal
+            icon: StandardIcon.Critical
+            title: tMsgHeader
+            text: ""
+
+            // The box tells of one answer twice.
+            property bool answered: false
+
+            // There is no way on from here, so Escape is an answer as good as OK.
+            function endWizard() {
+                if (answered)
+                    return
+                answered = true
+                qmlModelInterface.cancel()
+            }
+
+            onVisibleChanged: {
+                if (visible)
+                    answered = false
+            }
+            onAccepted: endWizard()
+            onRejected: endWizard()
+        }
     }
 
     // A box that outlived the wizard would lock the viewer, and answer for a camera that is closed.

@@ -2,6 +2,8 @@
 // Starts the wizard, and finds and drives what is in it.
 #include "wizardrun.h"
 
+#include "qtwarnings.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QSettings>
@@ -18,8 +20,7 @@ constexpr int patience = 60000;
 
 void hear(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    const QByteArray file = context.file;
-    if (type == QtWarningMsg && (file.contains("ColCal") || text.contains("ColCal")))
+    if (isWarningOfQt(type, context))
         ADD_FAILURE() << text.toStdString();
 }
 

@@ -20,7 +20,7 @@ class WizardRun : public Cameras::Emulation::EmulationTest
 protected:
     using FeatureNames = Cameras::Emulation::FeatureNames;
 
-    /// No message of QML may go unseen: a test that meets one fails.
+    /// No warning of Qt or of its QML may go unseen: a test that meets one fails.
     WizardRun();
     ~WizardRun() override;
 

@@ -9,8 +9,10 @@
 #include "sceneproblem.h"
 
 #include <QApplication>
+#include <QOpenGLContext>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QSGRendererInterface>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QUrl>
@@ -47,6 +49,7 @@ QmlDataModelInterface::QmlDataModelInterface(ColorCorrectionModel* model)
     m_view->setResizeMode(QQuickView::SizeRootObjectToView);
     registerTypes();
     exposeToScene();
+    checkOpenGl();
     loadScene();
     connectModel();
 }
@@ -67,10 +70,15 @@ void QmlDataModelInterface::exposeToScene()
     QQmlEngine* engine = m_view->engine();
     engine->addImageProvider(QStringLiteral("cameraImageOriginal"), m_imageProvider);
     connect(engine, &QQmlEngine::warnings, this, &QmlDataModelInterface::onSceneWarnings);
-    connect(m_view, &QQuickWindow::sceneGraphError, this,
-            [this](QQuickWindow::SceneGraphError /*error*/, const QString& message) {
-                setSceneProblem(drawingProblemText(message));
-            });
+    // Not while it draws: whoever shows the problem hides the view.
+    connect(
+        m_view, &QQuickWindow::sceneGraphError, this,
+        [this](QQuickWindow::SceneGraphError /*error*/, const QString& message) {
+            setDrawingProblem(message);
+        },
+        Qt::QueuedConnection);
+    connect(m_view, &QQuickWindow::sceneGraphInitialized, this,
+            &QmlDataModelInterface::checkDrawing, Qt::QueuedConnection);
     QQmlContext* context = m_view->rootContext();
     context->setContextProperty(QStringLiteral("qmlModelInterface"), this);
     context->setContextProperty(QStringLiteral("gridOutline"), m_grid.outlineView());
@@ -101,7 +109,7 @@ void QmlDataModelInterface::connectModel()
 
 void QmlDataModelInterface::loadScene()
 {
-    setSceneProblem({});
+    setSceneProblem(m_drawingProblem);
     m_view->setSource(QUrl(QStringLiteral("qrc:/ColCal/main.qml")));
     if (m_view->status() == QQuickView::Error)
         setSceneProblem(sceneProblemText(m_view->errors()));
@@ -111,6 +119,29 @@ void QmlDataModelInterface::onSceneWarnings(const QList<QQmlError>& warnings)
 {
     if (std::any_of(warnings.begin(), warnings.end(), leavesSceneBlank))
         setSceneProblem(sceneProblemText(warnings));
+}
+
+// Where it draws on this thread, Qt tells of a context that it cannot make and then uses it all the
+// same.
+void QmlDataModelInterface::checkOpenGl()
+{
+    QOpenGLContext context;
+    context.setFormat(m_view->requestedFormat());
+    if (!context.create())
+        setDrawingProblem(QStringLiteral("OpenGL cannot be used."));
+}
+
+// Where it was told to do without OpenGL, Qt draws no video, and says nothing.
+void QmlDataModelInterface::checkDrawing()
+{
+    if (m_view && m_view->rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
+        setDrawingProblem(QStringLiteral("The camera's image cannot be drawn without OpenGL."));
+}
+
+void QmlDataModelInterface::setDrawingProblem(const QString& error)
+{
+    m_drawingProblem = drawingProblemText(error);
+    setSceneProblem(m_drawingProblem);
 }
 
 void QmlDataModelInterface::setSceneProblem(const QString& problem)

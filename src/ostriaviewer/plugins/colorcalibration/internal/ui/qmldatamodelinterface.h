@@ -212,6 +212,9 @@ private:
     void exposeToScene();
     void connectModel();
     void loadScene();
+    void checkOpenGl();
+    void checkDrawing();
+    void setDrawingProblem(const QString& error);
     void setSceneProblem(const QString& problem);
     void onSceneWarnings(const QList<QQmlError>& warnings);
     void giveSettingsBack();
@@ -242,6 +245,7 @@ private:
     QPointer<QQuickView> m_view;
     ColorCorrectionAutoChartFinder m_chartFinder;
     QString m_sceneProblem;
+    QString m_drawingProblem; // stays: graphics come back with the next start of the program alone
     QString m_restoreFailure;
     QVector<QFuture<void>> m_searches;
     int m_busyCursors = 0;

@@ -77,15 +77,18 @@ Row {
         onClicked: buttons.tryCancel()
     }
 
-    MessageDialog {
-        id: cancelWarningDialog
-        objectName: "cancelWarningDialog"
-        modality: Qt.ApplicationModal
-        icon: StandardIcon.Warning
-        title: tMsgHeader
-        text: tCancelWarning
-        standardButtons: StandardButton.Yes | StandardButton.No
-        onYes: buttons.cancel()
-        onNo: close()
+    // Not among the items, as in main.qml.
+    QtObject {
+        readonly property MessageDialog question: MessageDialog {
+            id: cancelWarningDialog
+            objectName: "cancelWarningDialog"
+            modality: Qt.ApplicationModal
+            icon: StandardIcon.Warning
+            title: tMsgHeader
+            text: tCancelWarning
+            standardButtons: StandardButton.Yes | StandardButton.No
+            onYes: buttons.cancel()
+            onNo: close()
+        }
     }
 }

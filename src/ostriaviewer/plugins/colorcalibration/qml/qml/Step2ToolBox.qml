@@ -226,13 +226,16 @@ Item {
         text: tSkalaTooltip
     }
 
-    MessageDialog {
-        id: autoAdjustGrayError
-        objectName: "autoAdjustGrayError"
-        modality: Qt.ApplicationModal
-        title: "autoadjust error"
-        text: tAutoAdjustValuesImpossible
-        width: 300
+    // Not among the items, as in main.qml.
+    QtObject {
+        readonly property MessageDialog error: MessageDialog {
+            id: autoAdjustGrayError
+            objectName: "autoAdjustGrayError"
+            modality: Qt.ApplicationModal
+            title: "autoadjust error"
+            text: tAutoAdjustValuesImpossible
+            width: 300
+        }
     }
 
     // A new image after a change, where no images come by themselves.

@@ -303,6 +303,8 @@ TEST_F(ColorCorrectionToolDlgTest, ASceneThatIsMissingIsNamedInsteadOfABlankWind
 TEST_F(ColorCorrectionToolDlgTest, AGraphicsProblemIsShownToo)
 {
     emit m_data->view()->sceneGraphError(QQuickWindow::ContextNotAvailable, "No GL here");
+    EXPECT_FALSE(m_dialog->findChild<QLabel*>("sceneProblem")) << "hides the view while it draws";
+    QCoreApplication::processEvents();
     const auto* label = m_dialog->findChild<QLabel*>("sceneProblem");
     ASSERT_TRUE(label);
     EXPECT_TRUE(label->text().contains("No GL here"));
