@@ -25,8 +25,16 @@ protected:
         serve({});
     }
 
+    // Else the delivery that is under way would do so, perhaps when the server has gone.
+    void TearDown() override
+    {
+        if (camera)
+            camera->close();
+    }
+
     void serve(const QStringList& missingFeatures)
     {
+        TearDown();
         rig.reset();
         rig = std::make_unique<NetworkRig>(smallModel(), missingFeatures);
         camera = rig->camera();
