@@ -73,6 +73,7 @@ TEST_F(SilentCamera, IsStoppedLaterAndDeliversNothingMeanwhile)
     EXPECT_TRUE(becomes([this] { return mode()->value() == single; }));
     EXPECT_FALSE(rig->served().isGrabbing());
     EXPECT_EQ(probe.count(), count);
+    EXPECT_EQ(rig->client()->statistics().overrun, 0U) << "sent when nobody wanted it any more";
     ASSERT_TRUE(camera->startGrabbing());
     EXPECT_TRUE(probe.waitFor(count + 1));
 }
