@@ -148,12 +148,13 @@ void giveBackOnFailure(SettingsGuard& guard, const QString& cameraName,
 Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera,
                  const SequenceOptions& options, SavingOptions saving, std::ostream& err)
 {
-    Report report;
-    report.camera = camera->displayName();
-    report.model = camera->modelName();
     // Reading the settings moves selectors, which must come to their places again.
     const Interruption interruption;
     SettingsGuard guard(camera);
+    // What was an address alone has its name since it is open.
+    Report report;
+    report.camera = camera->displayName();
+    report.model = camera->modelName();
     requireSupported(cameras, camera);
     resolveUserSet(camera, saving);
     if (!options.previousSettings.isEmpty())

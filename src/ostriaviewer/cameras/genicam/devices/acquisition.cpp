@@ -45,14 +45,23 @@ FrameStream* Acquisition::stream() const
     return m_stream.get();
 }
 
+// What the camera goes on sending until it is told is nobody's loss.
 void Acquisition::silence()
 {
+    bool isFirst = false;
     {
         const std::lock_guard lock(m_mutex);
-        m_isSilenced = true;
+        isFirst = !std::exchange(m_isSilenced, true);
     }
-    if (FrameStream* const silenced = stream())
-        silenced->stop();
+    FrameStream* const silenced = stream();
+    if (!silenced)
+        return;
+    silenced->stop();
+    if (!isFirst)
+        return;
+    const StreamStatistics last = silenced->statistics();
+    const std::lock_guard lock(m_mutex);
+    m_last = last;
 }
 
 bool Acquisition::isGrabbing() const
@@ -69,6 +78,11 @@ bool Acquisition::isDelivering() const
 
 StreamStatistics Acquisition::statistics() const
 {
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_last)
+            return *m_last;
+    }
     const FrameStream* const known = stream();
     return known ? known->statistics() : StreamStatistics();
 }

@@ -41,7 +41,7 @@ public:
     /// Whether this is the thread that delivers.
     bool isDelivering() const;
 
-    /// Zeros before there is a stream.
+    /// Zeros before there is a stream; does not change any more once it is silenced.
     StreamStatistics statistics() const;
 
     /// True for the first caller.
@@ -57,7 +57,8 @@ private:
 
     mutable std::mutex m_mutex; // guards all below
     bool m_isSilenced = false;
-    std::unique_ptr<FrameStream> m_stream; // null until it has begun; then never changed
+    std::optional<StreamStatistics> m_last; // when it was silenced
+    std::unique_ptr<FrameStream> m_stream;  // null until it has begun; then never changed
 };
 
 } // namespace Cameras::GenICam
