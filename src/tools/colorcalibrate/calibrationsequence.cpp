@@ -210,6 +210,13 @@ void CalibrationSequence::placeGrid(const SequenceOptions& options)
         return;
     }
     ExposureSearch search(m_model, options.adjustExposure);
+    const auto takeAnother = [&] {
+        imageStep("Taking an image of another exposure time", grab,
+                  "the camera delivered no image");
+    };
+    // In the dark, noise passes for a chart.
+    while (lightOf(image) == Light::TooDark && search.moveFrom(Light::TooDark))
+        takeAnother();
     for (;;) {
         try {
             step(
@@ -222,8 +229,7 @@ void CalibrationSequence::placeGrid(const SequenceOptions& options)
             if (!search.moveFrom(light))
                 throw CommandError(QString::fromUtf8(error.what()) + advice(light));
         }
-        imageStep("Taking an image of another exposure time", grab,
-                  "the camera delivered no image");
+        takeAnother();
     }
 }
 
@@ -380,10 +386,15 @@ void CalibrationSequence::calibrate()
     imageStep(
         "Measuring the patches", [this] { return m_model.ApplyInitialColorPatchValues(); },
         "couldn't apply initial values");
-    settingsStep(
-        "Calibrating", [this] { return m_model.ExecuteCalibrationAndApply(); },
-        "calibration process failed; is the grid on the chart, and the image neither too bright "
-        "nor too dark?");
+    try {
+        settingsStep(
+            "Calibrating", [this] { return m_model.ExecuteCalibrationAndApply(); },
+            "calibration process failed; is the grid on the chart, and the image neither too "
+            "bright nor too dark?");
+    } catch (const CommandError& error) {
+        stopIfCancelled();
+        throw CommandError(QString::fromUtf8(error.what()) + advice(lightOf(m_hitRate)));
+    }
 }
 
 SequenceResult CalibrationSequence::measureOutcome()

@@ -157,8 +157,14 @@ void Feature::requireWritable() const
     requireThere();
     if (!allowsWriting())
         fail(FeatureTexts::tr("cannot be written, only read"));
-    if (isLocked())
-        fail(FeatureTexts::tr("locked with the camera's present settings"));
+    // A camera that does not answer locks nothing.
+    for (ArvGcFeatureNode* node : m_chain) {
+        GErrorSlot error;
+        const bool isNodeLocked = arv_gc_feature_node_is_locked(node, error);
+        check(error);
+        if (isNodeLocked)
+            fail(FeatureTexts::tr("locked with the camera's present settings"));
+    }
 }
 
 void Feature::fail(const QString& reason) const

@@ -72,7 +72,7 @@ TEST(TextRoom, FindsATextThatItsFrameCutsOff)
     expectOne("Item { width: 30; height: 30; clip: true; Text { text: 'much too long' } }",
               "what it labels");
     expectOne("Button { width: 30; style: ButtonStyle { label: Text { text: 'much too long' } } }",
-              "larger than what it labels");
+              "larger than its room");
     expectOne("ComboBox { width: 60; model: ['much too long for it'] }", "wider than its box");
 }
 

@@ -61,8 +61,19 @@ void collect(QQuickItem* item, QVector<QQuickItem*>& areas)
         collect(child, areas);
 }
 
-bool belongTogether(const QQuickItem* area, const QQuickItem* control)
+/// A table hands the keys on to a part of itself.
+const QQuickItem* controlOf(const QQuickItem* focused)
 {
+    const QQuickItem* control = focused;
+    for (const auto* item = focused; item; item = item->parentItem())
+        if (item->activeFocusOnTab())
+            control = item;
+    return control;
+}
+
+bool belongTogether(const QQuickItem* area, const QQuickItem* focused)
+{
+    const auto* control = controlOf(focused);
     return area == control || area->isAncestorOf(control) || control->isAncestorOf(area);
 }
 
