@@ -114,7 +114,8 @@ TEST_P(CalibrationLight, MoreLightThanTheShortestExposureTakesIsCalledSo)
 {
     // 20 us would do; automatic exposure begins at 100 us.
     const std::string message = LitCamera(GetParam(), 20000.0, inLight(1000.0)).run(true);
-    EXPECT_TRUE(contains(message, "percent of its target brightness and could not be brought nearer"))
+    EXPECT_TRUE(
+        contains(message, "percent of its target brightness and could not be brought nearer"))
         << message;
     EXPECT_TRUE(contains(message, "the light neither too weak nor too strong")) << message;
 }
