@@ -235,7 +235,7 @@
     </message>
     <message>
         <source>The pixel format 0x%1 is not known; choose another one.</source>
-        <translation>ピクセルフォーマット 0x%1 には対応していません。別の形式を選択してください。</translation>
+        <translation>ピクセルフォーマット0x%1には対応していません。別の形式を選択してください。</translation>
     </message>
 </context>
 <context>
@@ -321,7 +321,7 @@
     <name>Core::CameraPoolComponents::CameraTexts</name>
     <message>
         <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
-        <translation>カメラを開けませんでした。ほかのプログラムでカメラを閉じ、ビューアーで開いてから、もう一度実行してください。</translation>
+        <translation>カメラを開けませんでした。ほかのアプリケーションでカメラを閉じ、ビューアーで開いてから、もう一度実行してください。</translation>
     </message>
     <message>
         <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
@@ -392,11 +392,11 @@
     </message>
     <message>
         <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
-        <translation>%1 はこのプログラム内の別の処理で使用されているため、撮影できません。しばらくしてからもう一度お試しください。</translation>
+        <translation>%1 はこのプログラム内の別の処理で使用されているため、画像を取り込めません。しばらくしてから、もう一度実行してください。</translation>
     </message>
     <message>
         <source>%1 takes no picture. %2</source>
-        <translation>%1 は撮影できません。%2</translation>
+        <translation>%1 の画像を取り込めません。%2</translation>
     </message>
 </context>
 <context>
@@ -467,11 +467,11 @@ Model %2, %3</source>
 %1
 
 Do you want to close them and use the settings?</source>
-        <translation>この設定を適用すると、使用中のカメラが閉じられます：
+        <translation>この設定を適用すると、使用中の次のカメラが閉じられます：
 
 %1
 
-カメラを閉じて、この設定を使用しますか？</translation>
+カメラを閉じて、この設定を適用しますか？</translation>
     </message>
 </context>
 <context>

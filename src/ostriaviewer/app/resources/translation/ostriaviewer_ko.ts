@@ -268,11 +268,11 @@
     <name>Cameras::GenICam::LibraryLog</name>
     <message>
         <source>The camera library reports: %1.</source>
-        <translation>카메라 라이브러리 보고: %1.</translation>
+        <translation>카메라 라이브러리 메시지: %1.</translation>
     </message>
     <message>
         <source>The camera library reports of the camera &quot;%1&quot;: %2.</source>
-        <translation>&quot;%1&quot; 카메라에 대한 카메라 라이브러리 보고: %2.</translation>
+        <translation>&quot;%1&quot; 카메라에 대한 카메라 라이브러리 메시지: %2.</translation>
     </message>
     <message>
         <source>The description of the camera &quot;%1&quot; is faulty: %2.</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>The camera library has much to complain of; no more of it is shown.</source>
-        <translation>카메라 라이브러리 보고가 너무 많아 더 이상 표시하지 않습니다.</translation>
+        <translation>카메라 라이브러리의 메시지가 너무 많아 더 이상 표시하지 않습니다.</translation>
     </message>
 </context>
 <context>
@@ -321,7 +321,7 @@
     <name>Core::CameraPoolComponents::CameraTexts</name>
     <message>
         <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
-        <translation>카메라를 열지 못했습니다. 다른 프로그램에서 카메라를 닫고 뷰어에서 연 다음 다시 시도하십시오.</translation>
+        <translation>카메라를 열지 못했습니다. 다른 응용 프로그램에서 카메라를 닫고 뷰어에서 연 다음 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
@@ -392,11 +392,11 @@
     </message>
     <message>
         <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
-        <translation>%1 카메라는 이 프로그램의 다른 작업에서 사용 중이므로 촬영할 수 없습니다. 잠시 후 다시 시도하십시오.</translation>
+        <translation>%1 카메라는 이 프로그램의 다른 작업에서 사용 중이므로 이미지를 획득할 수 없습니다. 잠시 후 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>%1 takes no picture. %2</source>
-        <translation>%1 카메라로 촬영할 수 없습니다. %2</translation>
+        <translation>%1 카메라에서 단일 이미지를 획득할 수 없습니다. %2</translation>
     </message>
 </context>
 <context>
@@ -467,11 +467,11 @@ Model %2, %3</source>
 %1
 
 Do you want to close them and use the settings?</source>
-        <translation>이 설정을 사용하면 사용 중인 다음 카메라가 닫힙니다.
+        <translation>이 설정을 적용하면 사용 중인 다음 카메라가 닫힙니다.
 
 %1
 
-카메라를 닫고 이 설정을 사용하시겠습니까?</translation>
+카메라를 닫고 이 설정을 적용하시겠습니까?</translation>
     </message>
 </context>
 <context>
@@ -1076,7 +1076,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>The settings file %1 cannot be written; what you change is forgotten at the end. Check the file&apos;s permissions and the room on its disk.</source>
-        <translation>설정 파일 %1에 쓸 수 없습니다. 변경한 내용은 종료할 때 사라집니다. 파일 권한과 디스크의 남은 공간을 확인하십시오.</translation>
+        <translation>설정 파일 %1에 쓸 수 없습니다. 변경한 내용은 종료할 때 사라집니다. 파일의 권한과 디스크의 여유 공간을 확인하십시오.</translation>
     </message>
 </context>
 </TS>

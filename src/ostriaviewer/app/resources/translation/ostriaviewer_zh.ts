@@ -321,7 +321,7 @@
     <name>Core::CameraPoolComponents::CameraTexts</name>
     <message>
         <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
-        <translation>无法打开相机。请在其他程序中关闭相机，在查看器中打开相机，然后重试。</translation>
+        <translation>无法打开相机。请在其他应用程序中关闭相机，在查看器中打开相机，然后重试。</translation>
     </message>
     <message>
         <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
@@ -392,11 +392,11 @@
     </message>
     <message>
         <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
-        <translation>%1 正被本程序的其他任务使用，无法拍摄。请稍后重试。</translation>
+        <translation>%1 正被本程序的其他任务使用，无法采集单帧图像。请稍后重试。</translation>
     </message>
     <message>
         <source>%1 takes no picture. %2</source>
-        <translation>%1 无法拍摄。%2</translation>
+        <translation>%1 无法采集单帧图像。%2</translation>
     </message>
 </context>
 <context>
@@ -1029,7 +1029,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>There is no plugin in %1, so the viewer runs without tools. Install it again, or start it with the option --plugins and the folder of its plugins.</source>
-        <translation>%1 中没有插件，查看器将在没有工具的情况下运行。请重新安装查看器，或使用选项 --plugins 指定插件文件夹来启动。</translation>
+        <translation>%1 中没有插件，查看器将在没有工具的情况下运行。请重新安装查看器，或在启动时使用选项 --plugins 指定插件文件夹。</translation>
     </message>
     <message>
         <source>Plugin %1 %2 is loaded.</source>
@@ -1076,7 +1076,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>The settings file %1 cannot be written; what you change is forgotten at the end. Check the file&apos;s permissions and the room on its disk.</source>
-        <translation>无法写入设置文件 %1。退出时所做的更改将会丢失。请检查文件权限和磁盘剩余空间。</translation>
+        <translation>无法写入设置文件 %1，您所做的更改在退出时会丢失。请检查该文件的权限和磁盘剩余空间。</translation>
     </message>
 </context>
 </TS>
