@@ -82,6 +82,9 @@ void runAfter(const QString& preparation, const QStringList& shell, const QStrin
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("REPORT_TEST_DISK", place.path());
+    // This process may run a share of the tests alone.
+    environment.remove("GTEST_TOTAL_SHARDS");
+    environment.remove("GTEST_SHARD_INDEX");
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     const QStringList arguments =
