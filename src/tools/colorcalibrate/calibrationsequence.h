@@ -47,10 +47,12 @@ public:
 
 /// Calibrates one camera from opening to the measurement of the outcome, in the wizard's order.
 ///
-/// One step differs. The wizard's sliders write exposure time and gain back where they begin; so
-/// does the sequence where it adjusts them. Where both are to be kept it does not: a camera whose
-/// exposure time is set from outside, as by a trigger's width, takes none, and a gain in raw steps
-/// would lose one more, as it is written from a hundredth of them.
+/// Two steps differ. The settings to be given back are kept before the first image already, as the
+/// search for the chart changes the exposure time. And the wizard's sliders write exposure time and
+/// gain back where they begin; so does the sequence where it adjusts them. Where both are to be
+/// kept it does not: a camera whose exposure time is set from outside, as by a trigger's width,
+/// takes none, and a gain in raw steps would lose one more, as it is written from a hundredth of
+/// them.
 ///
 /// Whatever ends it early, the settings that the camera had after it was opened are written back
 /// and the camera is given back. Thread-bound: a thread with an event dispatcher.

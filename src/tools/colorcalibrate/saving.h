@@ -40,7 +40,8 @@ struct SavingOutcome
 
 /// Saves in the wizard's order: settings, summary, user set; one that fails keeps none of the
 /// others from being tried. Nothing is saved any more once it was cancelled; a user set that is
-/// being stored is the end, and can be cancelled no more. \param model        open and calibrated
+/// being stored is the end, and can be cancelled no more.
+/// \param model        open and calibrated
 /// \param progress     is told each step as it begins
 /// \param isCancelled  is asked between the steps
 SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
