@@ -4,3 +4,5 @@
 find_path(DLIB_INCLUDE_DIR dlib/matrix.h REQUIRED)
 add_library(dlib_headers INTERFACE)
 target_include_directories(dlib_headers SYSTEM INTERFACE "${DLIB_INCLUDE_DIR}")
+# The one header of the project that includes it.
+set(OSTRIA_DLIB_DOOR "${PROJECT_SOURCE_DIR}/src/ostriaviewer/plugins/colorcalibration/internal/model/calibration/dlibmatrix.h")

@@ -10,9 +10,9 @@ function(_ostria_check_arguments prefix)
 endfunction()
 
 # A library, static unless SHARED. Its folder is its include directory, so headers are found by their
-# bare name.
+# bare name. WITHOUT_QT is for what must not even see Qt's headers.
 function(ostria_add_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SHARED" "" "SOURCES;PUBLIC_DEPS;PRIVATE_DEPS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SHARED;WITHOUT_QT" "" "SOURCES;PUBLIC_DEPS;PRIVATE_DEPS")
     _ostria_check_arguments(arg)
     set(kind STATIC)
     if(arg_SHARED)
@@ -22,6 +22,9 @@ function(ostria_add_library name)
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC_DEPS}
         PRIVATE $<BUILD_INTERFACE:ostria_compiler> ${arg_PRIVATE_DEPS})
+    if(TARGET ostria_prelude AND NOT arg_WITHOUT_QT)
+        target_precompile_headers(${name} REUSE_FROM ostria_prelude)
+    endif()
     set_target_properties(${name} PROPERTIES AUTOMOC "${arg_AUTOMOC}")
     if(arg_SHARED)
         install(TARGETS ${name} LIBRARY DESTINATION lib RUNTIME DESTINATION bin)
@@ -59,17 +62,25 @@ endfunction()
 # The graphics driver is unloaded before leaks are reported; loaded first, it stays, and what it leaks
 # has a name that tests/lsan.supp knows. The sanitizer's library must come before it.
 if(OSTRIA_SANITIZE MATCHES "address")
-    execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=libasan.so
-        OUTPUT_VARIABLE OSTRIA_ASAN_LIBRARY OUTPUT_STRIP_TRAILING_WHITESPACE)
+    # Clang links it into the program.
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=libasan.so
+            OUTPUT_VARIABLE OSTRIA_ASAN_LIBRARY OUTPUT_STRIP_TRAILING_WHITESPACE)
+    endif()
     file(GLOB OSTRIA_GRAPHICS_DRIVER "/usr/lib/*/dri/swrast_dri.so")
     set(OSTRIA_DISPLAY_PRELOAD "OSTRIA_PRELOAD=${OSTRIA_ASAN_LIBRARY} ${OSTRIA_GRAPHICS_DRIVER}")
 endif()
 
+# A test takes a core, which is two of the slots that ./test hands out, one that paces itself takes
+# one. Those come first: what is heavy would hold up a camera that has to be in time.
+set(OSTRIA_TEST_LOAD PROCESSORS 2 COST 0)
+set(OSTRIA_PACED_TEST_LOAD PROCESSORS 1 COST 1000)
+
 # One ctest entry for each test.
-function(_ostria_add_each_test name labels serial environment)
+function(_ostria_add_each_test name load environment)
     gtest_discover_tests(${name}
         DISCOVERY_TIMEOUT 120
-        PROPERTIES LABELS "${labels}" TIMEOUT 300 RUN_SERIAL "${serial}")
+        PROPERTIES TIMEOUT 300 ${load})
     # Of a list among the properties above only the first entry would arrive.
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
     file(WRITE "${script}"
@@ -79,14 +90,15 @@ function(_ostria_add_each_test name labels serial environment)
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${script}")
 endfunction()
 
-# A few ctest entries, each a share of the tests: a sanitizer's start takes longer than most tests.
-function(_ostria_add_shares name labels serial environment)
+# A few ctest entries, each a share of the tests: the start of a program, with a screen or a sanitizer,
+# takes longer than most tests.
+function(_ostria_add_shares name load environment)
     set(shares 4)
     foreach(share RANGE 1 ${shares})
         math(EXPR index "${share} - 1")
         add_test(NAME ${name}.${share}of${shares} COMMAND ${name})
         set_tests_properties(${name}.${share}of${shares} PROPERTIES
-            LABELS "${labels}" TIMEOUT 600 RUN_SERIAL "${serial}"
+            TIMEOUT 600 ${load}
             ENVIRONMENT "${environment};GTEST_TOTAL_SHARDS=${shares};GTEST_SHARD_INDEX=${index}")
     endforeach()
 endfunction()
@@ -101,11 +113,12 @@ else()
     set(OSTRIA_TEST_OPTIONS -O1 -UQT_NO_CAST_FROM_ASCII)
 endif()
 
-# A GoogleTest program. The label "realtime" keeps its tests out of runs under sanitizers, SERIAL lets
-# each ctest entry run alone, DISPLAY gives it a screen and settings of its own, for programs that open
-# windows, LOOPBACK a network of its own. WITHOUT_QT is for what must not even see Qt's headers.
+# A GoogleTest program. The label "realtime" keeps its tests out of runs under sanitizers, PACED is for
+# those that wait for the clock of a camera more than they compute, DISPLAY gives it a screen and
+# settings of its own, for programs that open windows, LOOPBACK a network of its own. WITHOUT_QT is for
+# what must not even see Qt's headers.
 function(ostria_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;SERIAL;DISPLAY;LOOPBACK;WITHOUT_QT" ""
+    cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;PACED;DISPLAY;LOOPBACK;WITHOUT_QT" ""
         "SOURCES;DEPS;LABELS;ENVIRONMENT")
     _ostria_check_arguments(arg)
     set(starters "")
@@ -141,10 +154,15 @@ function(ostria_add_test name)
         list(APPEND starters "${PROJECT_SOURCE_DIR}/scripts/with-loopback")
     endif()
     set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${starters}")
+    set(load ${OSTRIA_TEST_LOAD})
+    if(arg_PACED)
+        set(load ${OSTRIA_PACED_TEST_LOAD})
+    endif()
+    list(APPEND load LABELS "${arg_LABELS}")
     if(OSTRIA_TEST_SHARES)
-        _ostria_add_shares(${name} "${arg_LABELS}" "${arg_SERIAL}" "${environment}")
+        _ostria_add_shares(${name} "${load}" "${environment}")
     else()
-        _ostria_add_each_test(${name} "${arg_LABELS}" "${arg_SERIAL}" "${environment}")
+        _ostria_add_each_test(${name} "${load}" "${environment}")
     endif()
 endfunction()
 

@@ -12,19 +12,19 @@ QString CameraTexts::notOpened()
 
 QString CameraTexts::settingsNotRestored()
 {
-    return tr("The camera's original settings couldn’t be restored. Load them from a user set or a "
+    return tr("The camera's original settings couldn't be restored. Load them from a user set or a "
               "settings file.");
 }
 
 QString CameraTexts::settingsNotRestoredYet()
 {
-    return tr("The camera's original settings couldn’t be restored. Check the connection of the "
+    return tr("The camera's original settings couldn't be restored. Check the connection of the "
               "camera and try again, or cancel.");
 }
 
 QString CameraTexts::settingsNotBackedUp()
 {
-    return tr("The camera's settings couldn’t be backed up. Check the connection of the camera and "
+    return tr("The camera's settings couldn't be backed up. Check the connection of the camera and "
               "try again, or cancel.");
 }
 

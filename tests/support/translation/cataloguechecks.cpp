@@ -12,13 +12,27 @@
 
 namespace Translation {
 
+namespace {
+
+/// Signs and numbers are the same in every language, and so are the names of features.
+bool isSaidInWords(const QString& source)
+{
+    static const QRegularExpression name(QStringLiteral("Gain\\d\\d"));
+    static const QRegularExpression word(QStringLiteral("[a-z]{2}"));
+    return QString(source).remove(name).contains(word);
+}
+
+} // namespace
+
 void expectAllTranslated(const QVector<Message>& messages)
 {
     for (const Message& message : messages) {
         EXPECT_TRUE(message.isFinished) << "unfinished: " << message;
         EXPECT_FALSE(message.translations.isEmpty()) << message;
         for (const QString& translation : message.translations)
-            EXPECT_FALSE(translation.trimmed().isEmpty()) << "not translated: " << message;
+            EXPECT_TRUE(!translation.trimmed().isEmpty() &&
+                        (translation != message.source || !isSaidInWords(message.source)))
+                << "not translated: " << message;
     }
 }
 

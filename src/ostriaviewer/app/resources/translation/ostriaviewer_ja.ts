@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>%1 is not a multiple of %2 above %3</source>
-        <translation>%1は%3から%2刻みの値ではありません</translation>
+        <translation>%1は、%3を起点とする%2刻みの値ではありません</translation>
     </message>
     <message>
         <source>the camera keeps %1 instead of %2</source>
-        <translation>カメラの値が%2ではなく%1になっています</translation>
+        <translation>カメラの値が、設定した%2ではなく%1になっています</translation>
     </message>
     <message>
         <source>the value is not a finite number</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>the camera has not finished the command yet</source>
-        <translation>カメラのコマンドがまだ完了していません</translation>
+        <translation>カメラがまだコマンドを完了していません</translation>
     </message>
     <message>
         <source>the camera refuses the access</source>
@@ -235,7 +235,7 @@
     </message>
     <message>
         <source>The pixel format 0x%1 is not known; choose another one.</source>
-        <translation>ピクセルフォーマット0x%1には対応していません。別の形式を選択してください。</translation>
+        <translation>ピクセルフォーマット0x%1には対応していません。別のピクセルフォーマットを選択してください。</translation>
     </message>
 </context>
 <context>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>The description of the camera &quot;%1&quot; is faulty at the feature &quot;%2&quot;: %3.</source>
-        <translation>カメラ「%1」の機能記述の機能「%2」に誤りがあります：%3。</translation>
+        <translation>カメラ「%1」の機能記述で、機能「%2」に誤りがあります：%3。</translation>
     </message>
     <message>
         <source>The camera library has much to complain of; no more of it is shown.</source>
@@ -321,19 +321,19 @@
     <name>Core::CameraPoolComponents::CameraTexts</name>
     <message>
         <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
-        <translation>カメラを開けませんでした。ほかのアプリケーションでカメラを閉じ、ビューアーで開いてから、もう一度実行してください。</translation>
+        <translation>カメラを開けませんでした。カメラを使用しているほかのアプリケーションでカメラを閉じ、このビューアーで開いてから、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
-        <translation>カメラの元の設定を復元できませんでした。ユーザーセットまたは設定ファイルから読み込んでください。</translation>
+        <source>The camera&apos;s original settings couldn&apos;t be restored. Load them from a user set or a settings file.</source>
+        <translation>カメラの元の設定を復元できませんでした。ユーザーセットまたは設定ファイルから設定を読み込んでください。</translation>
     </message>
     <message>
-        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
-        <translation>カメラの元の設定を復元できませんでした。カメラの接続を確認して、もう一度実行するか、キャンセルしてください。</translation>
+        <source>The camera&apos;s original settings couldn&apos;t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>カメラの元の設定を復元できませんでした。カメラの接続を確認してから再試行するか、キャンセルしてください。</translation>
     </message>
     <message>
-        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
-        <translation>カメラの設定をバックアップできませんでした。カメラの接続を確認して、もう一度実行するか、キャンセルしてください。</translation>
+        <source>The camera&apos;s settings couldn&apos;t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>カメラの設定をバックアップできませんでした。カメラの接続を確認してから再試行するか、キャンセルしてください。</translation>
     </message>
 </context>
 <context>
@@ -392,11 +392,11 @@
     </message>
     <message>
         <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
-        <translation>%1 はこのプログラム内の別の処理で使用されているため、画像を取り込めません。しばらくしてから、もう一度実行してください。</translation>
+        <translation>%1 はこのプログラム内の別の処理で使用されているため、画像を取り込めません。しばらくしてから、もう一度お試しください。</translation>
     </message>
     <message>
         <source>%1 takes no picture. %2</source>
-        <translation>%1 の画像を取り込めません。%2</translation>
+        <translation>%1 から画像を1枚取り込むことができません。%2</translation>
     </message>
 </context>
 <context>
@@ -467,7 +467,7 @@ Model %2, %3</source>
 %1
 
 Do you want to close them and use the settings?</source>
-        <translation>この設定を適用すると、使用中の次のカメラが閉じられます：
+        <translation>この設定を適用すると、使用中の次のカメラを閉じます：
 
 %1
 
@@ -506,7 +506,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>Searches these network interfaces. If none is selected, all except loopback (lo).</source>
-        <translation>検索するネットワークインターフェースを選択します。何も選択しない場合は、このコンピューター内部（lo）を除くすべてで検索します。</translation>
+        <translation>検索するネットワークインターフェースを選択します。何も選択しない場合は、ループバック（lo）を除くすべてで検索します。</translation>
     </message>
     <message>
         <source>Cameras with a fixed &amp;address</source>
@@ -546,7 +546,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source> bytes</source>
-        <translation> バイト</translation>
+        <translation>バイト</translation>
     </message>
     <message>
         <source>&amp;Packet size:</source>
@@ -991,7 +991,7 @@ Do you want to close them and use the settings?</source>
     <message numerus="yes">
         <source>Recorded %n picture(s) of %1 in %2. %3 more came too fast to be written, %4 failed in the camera; the numbers of the files show where.</source>
         <translation>
-            <numerusform>%1 の画像%n枚を %2 に録画しました。ほかに%3枚は書き込みが間に合わず、%4枚はカメラ側で失敗しました。欠けた箇所はファイルの番号でわかります。</numerusform>
+            <numerusform>%1 の画像%n枚を %2 に録画しました。ほかに%3枚は書き込みが間に合わず、%4枚はカメラ側で取り込みに失敗しました。欠けた箇所はファイルの番号でわかります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">

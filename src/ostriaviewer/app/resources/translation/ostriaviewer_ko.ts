@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>The acquisition mode could not be put back; set AcquisitionMode to &quot;%1&quot;.</source>
-        <translation>획득 모드를 되돌리지 못했습니다. AcquisitionMode를 &quot;%1&quot;(으)로 설정하십시오.</translation>
+        <translation>획득 모드를 원래대로 되돌리지 못했습니다. AcquisitionMode를 &quot;%1&quot;(으)로 설정하십시오.</translation>
     </message>
 </context>
 <context>
@@ -321,19 +321,19 @@
     <name>Core::CameraPoolComponents::CameraTexts</name>
     <message>
         <source>The camera could not be opened. Close it in other programs, open it in the viewer, then try again.</source>
-        <translation>카메라를 열지 못했습니다. 다른 응용 프로그램에서 카메라를 닫고 뷰어에서 연 다음 다시 시도하십시오.</translation>
+        <translation>카메라를 열지 못했습니다. 다른 응용 프로그램에서 카메라를 닫고, 이 뷰어에서 카메라를 연 다음 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
-        <translation>카메라의 원래 설정을 복원하지 못했습니다. 사용자 세트 또는 설정 파일에서 불러오십시오.</translation>
+        <source>The camera&apos;s original settings couldn&apos;t be restored. Load them from a user set or a settings file.</source>
+        <translation>카메라의 원래 설정을 복원하지 못했습니다. 사용자 세트 또는 설정 파일에서 설정을 불러오십시오.</translation>
     </message>
     <message>
-        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
-        <translation>카메라의 원래 설정을 복원하지 못했습니다. 카메라 연결을 확인하고 다시 시도하거나 취소하십시오.</translation>
+        <source>The camera&apos;s original settings couldn&apos;t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <translation>카메라의 원래 설정을 복원하지 못했습니다. 카메라 연결을 확인한 후 다시 시도하거나, 취소하십시오.</translation>
     </message>
     <message>
-        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
-        <translation>카메라의 설정을 백업하지 못했습니다. 카메라 연결을 확인하고 다시 시도하거나 취소하십시오.</translation>
+        <source>The camera&apos;s settings couldn&apos;t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <translation>카메라의 설정을 백업하지 못했습니다. 카메라 연결을 확인한 후 다시 시도하거나, 취소하십시오.</translation>
     </message>
 </context>
 <context>
@@ -396,7 +396,7 @@
     </message>
     <message>
         <source>%1 takes no picture. %2</source>
-        <translation>%1 카메라에서 단일 이미지를 획득할 수 없습니다. %2</translation>
+        <translation>%1 카메라에서 이미지 한 장을 획득할 수 없습니다. %2</translation>
     </message>
 </context>
 <context>
@@ -506,7 +506,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>Searches these network interfaces. If none is selected, all except loopback (lo).</source>
-        <translation>검색할 네트워크 인터페이스를 선택하십시오. 선택하지 않으면 이 컴퓨터 내부(lo)를 제외한 모든 인터페이스에서 검색합니다.</translation>
+        <translation>검색할 네트워크 인터페이스를 선택하십시오. 선택하지 않으면 루프백(lo)을 제외한 모든 인터페이스에서 검색합니다.</translation>
     </message>
     <message>
         <source>Cameras with a fixed &amp;address</source>
@@ -991,7 +991,7 @@ Do you want to close them and use the settings?</source>
     <message numerus="yes">
         <source>Recorded %n picture(s) of %1 in %2. %3 more came too fast to be written, %4 failed in the camera; the numbers of the files show where.</source>
         <translation>
-            <numerusform>%1 카메라의 이미지 %n장을 %2 폴더에 녹화했습니다. 그 밖에 %3장은 쓰기 속도가 따라가지 못했고 %4장은 카메라에서 실패했습니다. 빠진 위치는 파일 번호로 알 수 있습니다.</numerusform>
+            <numerusform>%1 카메라의 이미지 %n장을 %2 폴더에 녹화했습니다. 그 밖에 %3장은 쓰기 속도가 따라가지 못했고 %4장은 카메라에서 획득에 실패했습니다. 빠진 위치는 파일 번호로 알 수 있습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1029,7 +1029,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>There is no plugin in %1, so the viewer runs without tools. Install it again, or start it with the option --plugins and the folder of its plugins.</source>
-        <translation>%1에 플러그인이 없어 뷰어가 도구 없이 실행됩니다. 뷰어를 다시 설치하거나 --plugins 옵션으로 플러그인 폴더를 지정하여 시작하십시오.</translation>
+        <translation>%1에 플러그인이 없어 뷰어가 도구 없이 실행됩니다. 뷰어를 다시 설치하거나, --plugins 옵션으로 플러그인 폴더를 지정하여 뷰어를 시작하십시오.</translation>
     </message>
     <message>
         <source>Plugin %1 %2 is loaded.</source>
@@ -1060,19 +1060,19 @@ Do you want to close them and use the settings?</source>
     <name>Viewer::ViewerSettings</name>
     <message>
         <source>The settings file %1 cannot be read; the viewer starts with defaults and remembers nothing. Check the file&apos;s permissions.</source>
-        <translation>설정 파일 %1을(를) 읽을 수 없어 기본값으로 시작합니다. 변경한 내용은 저장되지 않습니다. 파일의 권한을 확인하십시오.</translation>
+        <translation>설정 파일 %1을(를) 읽을 수 없어 기본 설정으로 시작합니다. 변경한 내용은 저장되지 않습니다. 파일의 권한을 확인하십시오.</translation>
     </message>
     <message>
         <source>The settings file is damaged; the viewer starts with defaults. The old file was kept as %1.</source>
-        <translation>설정 파일이 손상되어 기본값으로 시작합니다. 이전 파일은 %1(으)로 보관했습니다.</translation>
+        <translation>설정 파일이 손상되어 기본 설정으로 시작합니다. 이전 파일은 %1(으)로 보관했습니다.</translation>
     </message>
     <message>
         <source>The settings file %1 is damaged; the viewer starts with defaults and remembers nothing. Remove the file.</source>
-        <translation>설정 파일 %1이(가) 손상되어 기본값으로 시작합니다. 변경한 내용은 저장되지 않습니다. 이 파일을 삭제하십시오.</translation>
+        <translation>설정 파일 %1이(가) 손상되어 기본 설정으로 시작합니다. 변경한 내용은 저장되지 않습니다. 이 파일을 삭제하십시오.</translation>
     </message>
     <message>
         <source>The settings were written by a newer viewer; this one starts with defaults and leaves them as they are. What you change is forgotten at the end.</source>
-        <translation>설정이 더 새로운 버전의 뷰어에서 저장되었습니다. 이 뷰어는 기본값으로 시작하고 저장된 설정은 그대로 둡니다. 변경한 내용은 종료할 때 사라집니다.</translation>
+        <translation>설정이 더 새로운 버전의 뷰어에서 저장되었습니다. 이 뷰어는 기본 설정으로 시작하고 저장된 설정은 그대로 둡니다. 변경한 내용은 종료할 때 사라집니다.</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be written; what you change is forgotten at the end. Check the file&apos;s permissions and the room on its disk.</source>

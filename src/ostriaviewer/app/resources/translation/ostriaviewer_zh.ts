@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>There is no node map &quot;%1&quot;.</source>
-        <translation>没有节点映射“%1”。</translation>
+        <translation>节点映射“%1”不存在。</translation>
     </message>
     <message>
         <source>the camera has not finished the command yet</source>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>the camera refuses the access</source>
-        <translation>相机拒绝访问</translation>
+        <translation>相机拒绝了访问</translation>
     </message>
     <message>
         <source>the text has a NUL character</source>
@@ -272,7 +272,7 @@
     </message>
     <message>
         <source>The camera library reports of the camera &quot;%1&quot;: %2.</source>
-        <translation>相机库关于相机“%1”的报告：%2。</translation>
+        <translation>相机库针对相机“%1”报告：%2。</translation>
     </message>
     <message>
         <source>The description of the camera &quot;%1&quot; is faulty: %2.</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>The description of the camera &quot;%1&quot; is faulty at the feature &quot;%2&quot;: %3.</source>
-        <translation>相机“%1”的功能描述文件中功能“%2”有误：%3。</translation>
+        <translation>在相机“%1”的功能描述文件中，功能“%2”有误：%3。</translation>
     </message>
     <message>
         <source>The camera library has much to complain of; no more of it is shown.</source>
@@ -324,15 +324,15 @@
         <translation>无法打开相机。请在其他应用程序中关闭相机，在查看器中打开相机，然后重试。</translation>
     </message>
     <message>
-        <source>The camera&apos;s original settings couldn’t be restored. Load them from a user set or a settings file.</source>
-        <translation>无法恢复相机的原始设置。请从用户集或设置文件加载。</translation>
+        <source>The camera&apos;s original settings couldn&apos;t be restored. Load them from a user set or a settings file.</source>
+        <translation>无法恢复相机的原始设置。请从用户集或设置文件加载设置。</translation>
     </message>
     <message>
-        <source>The camera&apos;s original settings couldn’t be restored. Check the connection of the camera and try again, or cancel.</source>
+        <source>The camera&apos;s original settings couldn&apos;t be restored. Check the connection of the camera and try again, or cancel.</source>
         <translation>无法恢复相机的原始设置。请检查相机的连接，然后重试或取消。</translation>
     </message>
     <message>
-        <source>The camera&apos;s settings couldn’t be backed up. Check the connection of the camera and try again, or cancel.</source>
+        <source>The camera&apos;s settings couldn&apos;t be backed up. Check the connection of the camera and try again, or cancel.</source>
         <translation>无法备份相机的设置。请检查相机的连接，然后重试或取消。</translation>
     </message>
 </context>
@@ -392,7 +392,7 @@
     </message>
     <message>
         <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
-        <translation>%1 正被本程序的其他任务使用，无法采集单帧图像。请稍后重试。</translation>
+        <translation>%1 正被本程序的另一项任务使用，无法采集单帧图像。请稍后重试。</translation>
     </message>
     <message>
         <source>%1 takes no picture. %2</source>
@@ -471,7 +471,7 @@ Do you want to close them and use the settings?</source>
 
 %1
 
-是否关闭这些相机并应用设置？</translation>
+是否关闭上述相机并应用设置？</translation>
     </message>
 </context>
 <context>
@@ -506,7 +506,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>Searches these network interfaces. If none is selected, all except loopback (lo).</source>
-        <translation>在所选网络接口上搜索。如果未选择，则在除本机内部（lo）以外的所有接口上搜索。</translation>
+        <translation>在所选网络接口上搜索。如果未选择，则在除环回接口（lo）以外的所有接口上搜索。</translation>
     </message>
     <message>
         <source>Cameras with a fixed &amp;address</source>
@@ -733,7 +733,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>Like the &amp;Desktop</source>
-        <translation>跟随桌面(&amp;D)</translation>
+        <translation>跟随系统(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Light</source>
@@ -1029,7 +1029,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>There is no plugin in %1, so the viewer runs without tools. Install it again, or start it with the option --plugins and the folder of its plugins.</source>
-        <translation>%1 中没有插件，查看器将在没有工具的情况下运行。请重新安装查看器，或在启动时使用选项 --plugins 指定插件文件夹。</translation>
+        <translation>%1 中没有插件，查看器将不带工具运行。请重新安装查看器，或在启动时使用选项 --plugins 指定插件文件夹。</translation>
     </message>
     <message>
         <source>Plugin %1 %2 is loaded.</source>
@@ -1072,7 +1072,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>The settings were written by a newer viewer; this one starts with defaults and leaves them as they are. What you change is forgotten at the end.</source>
-        <translation>设置由更新版本的查看器保存。此查看器将以默认设置启动，并保留这些设置不变。您所做的更改在退出时会丢失。</translation>
+        <translation>这些设置是由较新版本的查看器保存的。此查看器将以默认设置启动，原有设置保持不变。您所做的更改在退出时会丢失。</translation>
     </message>
     <message>
         <source>The settings file %1 cannot be written; what you change is forgotten at the end. Check the file&apos;s permissions and the room on its disk.</source>

@@ -244,7 +244,7 @@ TEST_F(ModelResultsTest, ADefaultThatDoesNotComeBackIsTold)
 {
     m_camera->parameters().addEnumeration("UserSetDefault", {"Default", "UserSet1"});
     ASSERT_TRUE(open());
-    m_camera->features().beforeCall = [this](const QString& call) {
+    m_camera->features().beforeCall = [](const QString& call) {
         if (call.startsWith("UserSetDefault = Default") || call.startsWith("try UserSetDefault") ||
             call.startsWith("execute UserSetSave"))
             throw Core::Exception::BaseException("reason");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // In every language the wizard's texts are seen whole in the smallest window.
+#include "catalogue.h"
 #include "textroom.h"
 #include "wizardrun.h"
 
@@ -9,6 +10,27 @@
 #include <QTranslator>
 
 namespace {
+
+/// What stands in boxes over the wizard; the pages' own texts are seen on the pages.
+const QStringList BoxContexts = {"ColorCorrectionToolDlg",
+                                 "Core::CameraPoolComponents::CameraTexts",
+                                 "Plugin::ColorCalibration::CColorCalibrationPlugin",
+                                 "Progress",
+                                 "QMLExposureTime",
+                                 "QMLGainvalue"};
+
+/// The texts of boxes in a language. English stands in the sources, which every catalogue has.
+QStringList boxTexts(const QString& language)
+{
+    const bool isEnglish = language == "en";
+    QStringList texts;
+    for (const char* catalogue : {PLUGIN_CATALOGUE, VIEWER_CATALOGUE})
+        for (const auto& message :
+             Translation::readCatalogue(QString(catalogue).arg(isEnglish ? "ja" : language)))
+            if (BoxContexts.contains(message.context))
+                texts += isEnglish ? message.source : message.translations.value(0);
+    return texts;
+}
 
 class WizardLanguage : public WizardRun, public testing::WithParamInterface<const char*>
 {
@@ -108,6 +130,10 @@ TEST_P(WizardLanguage, ShowsEveryTextWhole)
               "tMsgWarningImageTooBrightOrTooDark"})
             expectWholeBox("modelError", text(message));
         expectWholeBox("cancelWarningDialog");
+        const QStringList texts = boxTexts(GetParam());
+        EXPECT_EQ(texts.size(), 22);
+        for (const QString& each : texts)
+            expectWholeBox("modelError", each);
         root->setProperty("autoRefreshChecked", true);
 
         ASSERT_NO_FATAL_FAILURE(next(2));

@@ -16,7 +16,7 @@ namespace {
 const QStringList told{
     "<p>The camera has been disconnected.<br/>Reconnect the camera to the computer and open it to "
     "continue using the Color Calibrator.</p>",
-    "The camera's original settings couldn’t be restored. Load them from a user set or a settings "
+    "The camera's original settings couldn't be restored. Load them from a user set or a settings "
     "file."};
 
 class LostCamera : public WizardRun

@@ -124,16 +124,16 @@ bool QmlDataModelInterface::saveSettingsToFilePath()
     if (m_calibrationFileToSave.isEmpty())
         return true;
     return tellOutcome(m_model->SaveSettingsToFile(m_calibrationFileToSave),
-                       QStringLiteral("Settings have been saved successfully in "),
-                       QStringLiteral("Settings couldn’t be saved in "), m_calibrationFileToSave);
+                       tr("Settings have been saved successfully in "),
+                       tr("Settings couldn’t be saved in "), m_calibrationFileToSave);
 }
 
 bool QmlDataModelInterface::storeSettingsInUserSet(QString userSetSelectorName, bool setAsDefault)
 {
     const BusyCursor busy;
     return tellOutcome(m_model->StoreSettingsInUserSet(userSetSelectorName, setAsDefault),
-                       QStringLiteral("Settings were saved successfully in "),
-                       QStringLiteral("Settings couldn’t be saved in "), userSetSelectorName);
+                       tr("Settings were saved successfully in "),
+                       tr("Settings couldn’t be saved in "), userSetSelectorName);
 }
 
 bool QmlDataModelInterface::saveSummaryToFilePath()
@@ -142,8 +142,8 @@ bool QmlDataModelInterface::saveSummaryToFilePath()
     if (m_summaryFileToSave.isEmpty())
         return true;
     return tellOutcome(m_model->SaveSummaryToFile(m_summaryFileToSave),
-                       QStringLiteral("Summary has been saved successfully in "),
-                       QStringLiteral("Summary couldn’t be saved in "), m_summaryFileToSave);
+                       tr("Summary has been saved successfully in "),
+                       tr("Summary couldn’t be saved in "), m_summaryFileToSave);
 }
 
 void QmlDataModelInterface::getGridPosition()

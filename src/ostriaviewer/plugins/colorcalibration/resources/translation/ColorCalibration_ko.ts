@@ -504,7 +504,7 @@ Do you really want to cancel?</source>
     </message>
     <message>
         <source>Recalibrate Camera</source>
-        <translation>다시 캘리브레이션</translation>
+        <translation>카메라 재캘리브레이션</translation>
     </message>
     <message>
         <source>Automatically recalibrate the camera.</source>

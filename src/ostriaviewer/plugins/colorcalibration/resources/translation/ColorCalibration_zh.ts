@@ -290,7 +290,7 @@
     </message>
     <message>
         <source>Review Calibration Results</source>
-        <translation>检查校准结果</translation>
+        <translation>查看校准结果</translation>
     </message>
     <message>
         <source>Save Calibration Results</source>

@@ -144,7 +144,7 @@ TEST_F(ColorCorrectionToolDlgTest, SettingsThatCannotBeGivenBackAreToldWhenTheWi
         box->button(QMessageBox::Ok)->click();
     });
     waiter.start(0);
-    const QString text = "The camera's original settings couldn’t be restored. Load them from a "
+    const QString text = "The camera's original settings couldn't be restored. Load them from a "
                          "user set or a settings file.";
     run([this] { m_data->cancel(); });
     EXPECT_EQ(told, QStringList{text});

@@ -92,14 +92,14 @@ TEST_F(QmlDataModelCallsTest, AnswersAreTheModels)
 TEST_F(QmlDataModelCallsTest, TellsInTheUsersLanguageWhatFailsWithTheSettings)
 {
     const InBrackets translator;
-    EXPECT_EQ(text("restoreProblem"), "[The camera's original settings couldn’t be restored. Check "
+    EXPECT_EQ(text("restoreProblem"), "[The camera's original settings couldn't be restored. Check "
                                       "the connection of the camera and try again, or cancel.]");
-    EXPECT_EQ(text("backupProblem"), "[The camera's settings couldn’t be backed up. Check the "
+    EXPECT_EQ(text("backupProblem"), "[The camera's settings couldn't be backed up. Check the "
                                      "connection of the camera and try again, or cancel.]");
     m_model.refused = {"CreateSettingsBackup", "RestoreSettingsBackup"};
     call("createSettingsBackup");
     callVoid("cancel");
-    const QString notRestored = "[The camera's original settings couldn’t be restored. Load them "
+    const QString notRestored = "[The camera's original settings couldn't be restored. Load them "
                                 "from a user set or a settings file.]";
     EXPECT_EQ(logTexts(), (QStringList{"3 " + text("backupProblem"), "3 " + notRestored}));
     EXPECT_EQ(m_data.takeRestoreFailure(), notRestored);
