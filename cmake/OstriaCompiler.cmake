@@ -32,6 +32,12 @@ else()
             -fsanitize=${OSTRIA_SANITIZE} -fno-sanitize-recover=all)
         target_link_options(ostria_compiler INTERFACE -fsanitize=${OSTRIA_SANITIZE})
     endif()
+    # Each compiler has its own way to say so.
+    if(OSTRIA_SANITIZE MATCHES "address")
+        target_compile_definitions(ostria_compiler INTERFACE OSTRIA_ADDRESS_SANITIZER)
+    elseif(OSTRIA_SANITIZE MATCHES "thread")
+        target_compile_definitions(ostria_compiler INTERFACE OSTRIA_THREAD_SANITIZER)
+    endif()
     if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
         # Qt's logging macros are called with an empty last argument, and its keys go with modifiers.
         target_compile_options(ostria_compiler INTERFACE

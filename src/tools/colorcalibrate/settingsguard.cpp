@@ -25,13 +25,14 @@ QStringList settingLines(const QString& text)
     return lines;
 }
 
-/// The first setting that is not as it was.
+/// The name of the first setting that is not as it was.
 QString firstDifference(const QStringList& wanted, const QStringList& found)
 {
+    const auto name = [](const QString& line) { return line.section(QLatin1Char('\t'), 0, 0); };
     for (int i = 0; i < wanted.size(); ++i)
         if (i >= found.size() || wanted.at(i) != found.at(i))
-            return wanted.at(i).section(QLatin1Char('\t'), 0, 0);
-    return found.size() > wanted.size() ? found.at(wanted.size()) : QString();
+            return name(wanted.at(i));
+    return found.size() > wanted.size() ? name(found.at(wanted.size())) : QString();
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 // A sanitizer brings a heap of its own.
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#if defined(__GLIBC__) && !defined(OSTRIA_ADDRESS_SANITIZER) && !defined(OSTRIA_THREAD_SANITIZER)
 
 #include <malloc.h>
 

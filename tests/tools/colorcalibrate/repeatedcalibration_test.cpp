@@ -14,7 +14,7 @@ using namespace ColorCalibrate;
 
 namespace {
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#if defined(OSTRIA_ADDRESS_SANITIZER) || defined(OSTRIA_THREAD_SANITIZER)
 constexpr bool isHeapCounted = false; // malloc is replaced
 #else
 constexpr bool isHeapCounted = true;

@@ -12,7 +12,7 @@
 #include <malloc.h>
 #endif
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef OSTRIA_ADDRESS_SANITIZER
 #include <sanitizer/lsan_interface.h>
 #endif
 
@@ -21,7 +21,7 @@ namespace {
 /// Qt's platform without a screen never deletes the one screen that it pretends to have.
 std::unique_ptr<QGuiApplication> makeApplication(int& argc, char** argv)
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef OSTRIA_ADDRESS_SANITIZER
     const __lsan::ScopedDisabler disabler;
 #endif
     return std::make_unique<QGuiApplication>(argc, argv);
