@@ -160,6 +160,12 @@ void RegisterStore::set(const QString& name, double value, int cell)
         store(*feature, cell, m_values.nearest(*feature, value));
 }
 
+bool RegisterStore::isConnected() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_reachable;
+}
+
 void RegisterStore::setReachable(bool reachable)
 {
     const std::lock_guard lock(m_mutex);

@@ -36,6 +36,7 @@ public:
 
     void read(std::uint64_t address, void* data, std::size_t size) override;
     void write(std::uint64_t address, const void* data, std::size_t size) override;
+    bool isConnected() const override;
 
     /// All values at one moment.
     FeatureValues values() const;
