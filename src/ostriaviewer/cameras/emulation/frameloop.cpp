@@ -133,11 +133,22 @@ bool FrameLoop::requestSingle(std::chrono::milliseconds timeout)
     return true;
 }
 
-void FrameLoop::stop()
+void FrameLoop::cancel()
 {
-    std::unique_lock lock(m_state->mutex);
+    const std::lock_guard lock(m_state->mutex);
     if (m_state->mode != Mode::Idle)
         m_state->ask(Mode::Idle);
+}
+
+void FrameLoop::stop()
+{
+    cancel();
+    wait();
+}
+
+void FrameLoop::wait() const
+{
+    std::unique_lock lock(m_state->mutex);
     m_state->taking.wait(lock);
     m_state->delivery.wait(lock);
 }

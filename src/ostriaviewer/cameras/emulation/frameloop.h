@@ -52,6 +52,12 @@ public:
     /// \return  false while frames are taken continuously
     bool requestSingle(std::chrono::milliseconds timeout);
 
+    /// Ends continuous and single frames, without waiting for anything.
+    void cancel();
+
+    /// The second half of stop: waits for what had begun before cancel.
+    void wait() const;
+
     /// Ends continuous and single frames: when it returns, no delivery begins any more.
     ///
     /// A frame that is being taken and a delivery that has begun are waited for, but not longer
