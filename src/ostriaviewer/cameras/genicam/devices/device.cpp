@@ -292,8 +292,10 @@ void Device::access(Access access, Repetition repetition)
                     return;
             }
             // The library has asked several times before it says that time is over.
-            if (self && isTimeOver)
+            if (self && isTimeOver) {
                 self->becomeLost();
+                answer->reason = self->lossReason();
+            }
         },
         Patience::ofThisThread());
     if (outcome == AccessQueue::Outcome::Abandoned)
