@@ -52,10 +52,10 @@ std::optional<std::chrono::milliseconds> stepPatience()
     return {};
 }
 
-void log(const QString& text)
+void log(const QString& text, Core::Logging::ELogLevel level = Core::Logging::Warning)
 {
     static const auto category = Core::Logging::getCatId(QStringLiteral("Cameras"));
-    Core::Logging::createLogEntry(Core::Logging::Warning, category, text);
+    Core::Logging::createLogEntry(level, category, text);
 }
 
 QString noAnswer(const QString& id)
@@ -485,12 +485,14 @@ void GenicamCamera::reportLosses(Acquisition& ended, const QString& name)
                 .arg(statistics.damaged)
                 .arg(all)
                 .arg(statistics.missingPackets));
+    // Whoever wants the newest image alone misses nothing.
     if (statistics.overrun > 0)
         log(tr("%1: %2 of %3 images came faster than this computer takes them and were left out. "
                "Set a lower frame rate or a smaller image.")
                 .arg(name)
                 .arg(statistics.overrun)
-                .arg(all));
+                .arg(all),
+            Core::Logging::Information);
 }
 
 // The acquisition stays for its statistics.

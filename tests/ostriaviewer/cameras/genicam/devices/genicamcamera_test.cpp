@@ -185,6 +185,7 @@ TEST_F(GenicamCameraTest, TellsImagesThatNobodyTookFromDamagedOnes)
                   std::to_string(statistics.overrun + statistics.delivered) +
                   " images came faster than this computer takes them and were left out. Set a "
                   "lower frame rate or a smaller image.");
+    EXPECT_EQ(log.entries().first().level, Core::Logging::Information);
 }
 
 TEST_F(GenicamCameraTest, EndsWhatWasUnderWayWhenItComesBack)
