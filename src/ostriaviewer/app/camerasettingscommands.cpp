@@ -30,7 +30,8 @@ CameraSettingsCommands::CameraSettingsCommands(CameraSources& sources, const Cam
 
 void CameraSettingsCommands::edit()
 {
-    const CameraSettings kept = readCameraSettings(m_settings);
+    const CameraSettings kept =
+        m_settings.isKept() ? readCameraSettings(m_settings) : m_sources.settings();
     auto* dialog =
         new CameraSettingsDialog(kept, CameraSettingsDialog::systemInterfaces(), &m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

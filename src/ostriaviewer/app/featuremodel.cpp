@@ -83,13 +83,29 @@ FeatureModel::~FeatureModel() = default;
 
 void FeatureModel::setFeatures(const ParameterCollectionPtr& features)
 {
+    m_features = features;
+    load();
+}
+
+// While another thread has the camera to itself there are no features; they come later.
+void FeatureModel::load()
+{
+    const Cameras::GenICam::Patience limited(patience);
     beginResetModel();
     m_watched.clear();
     m_pending.clear();
     m_root = std::make_unique<Node>();
-    if (features)
-        for (const FeatureCategory& category : features->categories())
-            fill(m_root->append(category.name, category.displayName), category, *features);
+    m_isLoaded = true;
+    try {
+        if (m_features)
+            for (const FeatureCategory& category : m_features->categories())
+                fill(m_root->append(category.name, category.displayName), category, *m_features);
+    } catch (const GenICam::RuntimeException&) {
+        m_pending.clear();
+        m_root = std::make_unique<Node>();
+        m_isLoaded = false;
+        m_readAgain.start();
+    }
     endResetModel();
 }
 
@@ -154,6 +170,8 @@ bool FeatureModel::read(Node& node)
 // The first that is not answered begins the next pause.
 void FeatureModel::readPending()
 {
+    if (!m_isLoaded)
+        return load();
     while (!m_pending.empty()) {
         Node& next = **m_pending.begin();
         if (!read(next))

@@ -58,6 +58,7 @@ signals:
 private:
     struct Node;
 
+    void load();
     Node* node(const QModelIndex& index) const;
     QModelIndex indexOf(const Node* node, int column) const;
     void fill(Node& into, const Core::ParameterCollection::FeatureCategory& category,
@@ -68,6 +69,8 @@ private:
     QVariant valueData(const Node& node, int role) const;
     QString toolTip(const Node& node) const;
 
+    Core::ParameterCollection::ParameterCollectionPtr m_features;
+    bool m_isLoaded = true; // else the camera could not be asked for its features yet
     std::unique_ptr<Node> m_root;
     std::set<Node*> m_watched;
     std::set<Node*> m_pending; // the camera has not answered yet

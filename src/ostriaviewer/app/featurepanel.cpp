@@ -90,6 +90,7 @@ void FeaturePanel::makeView()
     layout->addWidget(m_hint, 1);
 
     CheckOutline::install(*m_view);
+    connect(m_shown, &QAbstractItemModel::modelReset, this, &FeaturePanel::expand);
     connect(m_view, &QTreeView::clicked, this, &FeaturePanel::use);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         m_model->setWatched(m_shown->mapToSource(index), true);
@@ -130,9 +131,8 @@ void FeaturePanel::showFeatures()
     m_hint->setVisible(!isOpen);
     if (isOpen && features == m_features)
         return;
-    m_model->setFeatures(features);
     m_features = features;
-    expand();
+    m_model->setFeatures(features);
 }
 
 void FeaturePanel::applyFilter(const QString& text)

@@ -168,16 +168,20 @@ void ViewerApplication::waitForFirstCamera()
     });
 }
 
+/// \return  whether there is such a camera; which of several is meant the user has to say
 bool ViewerApplication::selectNamedCamera()
 {
-    for (const HostCameraPtr& camera : m_cameras.cameras())
-        if (camera->displayName() == m_arguments.camera ||
-            camera->modelName() == m_arguments.camera) {
-            m_window->selectorPanel().select(camera);
-            m_window->commands().start();
-            return true;
-        }
-    return false;
+    const auto named = Cameras::camerasNamed(m_cameras.cameras(), m_arguments.camera);
+    if (named.isEmpty())
+        return false;
+    if (named.size() > 1) {
+        warn(tr("There are several cameras \"%1\"; select one in the list.")
+                 .arg(m_arguments.camera));
+        return true;
+    }
+    m_window->selectorPanel().select(named.constFirst());
+    m_window->commands().start();
+    return true;
 }
 
 void ViewerApplication::loadPlugins()

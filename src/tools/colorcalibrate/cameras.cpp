@@ -74,18 +74,12 @@ QString ToolCameras::backendOf(const HostCameraPtr& camera)
 
 HostCameraPtr ToolCameras::find(const QString& name) const
 {
-    QList<HostCameraPtr> ofModel;
-    for (const HostCameraPtr& camera : all()) {
-        if (camera->displayName() == name)
-            return camera;
-        if (camera->modelName() == name)
-            ofModel.append(camera);
-    }
-    if (ofModel.size() == 1)
-        return ofModel.first();
-    if (ofModel.size() > 1)
+    const QList<HostCameraPtr> named = Cameras::camerasNamed(all(), name);
+    if (named.size() == 1)
+        return named.first();
+    if (named.size() > 1)
         throw CommandError(QStringLiteral("there are several cameras \"%1\"; name one of %2")
-                               .arg(name, namesOf(ofModel)));
+                               .arg(name, namesOf(named)));
     const QString names = namesOf(all());
     if (names.isEmpty())
         throw CommandError(QStringLiteral("there is no camera \"%1\"; none was found").arg(name));

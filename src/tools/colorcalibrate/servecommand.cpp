@@ -24,13 +24,15 @@ QSharedPointer<EmulatedCamera> findModel(const CommandLine& line)
     if (line.isSet(QStringLiteral("scene")))
         options.scene = readScene(line.value(QStringLiteral("scene")));
     const QString name = line.requiredValue(QStringLiteral("camera"));
+    QList<QSharedPointer<EmulatedCamera>> cameras;
     QStringList names;
     for (const auto& model : Cameras::Emulation::everydayModels()) {
-        const auto camera = EmulatedCamera::create(model, options);
-        if (camera->displayName() == name || camera->modelName() == name)
-            return camera;
-        names.append(QStringLiteral("\"%1\"").arg(camera->displayName()));
+        cameras.append(EmulatedCamera::create(model, options));
+        names.append(QStringLiteral("\"%1\"").arg(cameras.constLast()->displayName()));
     }
+    const auto named = Cameras::camerasNamed(cameras, name);
+    if (!named.isEmpty())
+        return named.first();
     throw CommandError(QStringLiteral("there is no emulated camera \"%1\"; there are %2")
                            .arg(name, names.join(QStringLiteral(", "))));
 }

@@ -354,6 +354,25 @@ TEST_F(CameraSettingsInTheViewer, CountAtOnceAndAreKept)
     EXPECT_FALSE(readCameraSettings(ViewerSettings()).transport.isSearching);
 }
 
+// As after a newer viewer, whose file is left as it is.
+TEST_F(CameraSettingsInTheViewer, AreShownAsTheyCountWhereTheyAreNotKept)
+{
+    QSettings().setValue("Viewer/Version", 1000);
+    startViewer();
+    child<QAction>("editCameraSettings")->trigger();
+    auto* dialog = child<QDialog>("cameraSettings");
+    child<QSpinBox>("packetSize")->setValue(1500);
+    child<QGroupBox>("search")->setChecked(false);
+    QTest::keyClick(dialog, Qt::Key_Return);
+    ASSERT_TRUE(waitUntil([] { return !QApplication::activeModalWidget(); }));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    child<QAction>("editCameraSettings")->trigger();
+    EXPECT_EQ(child<QSpinBox>("packetSize")->value(), 1500);
+    EXPECT_FALSE(child<QGroupBox>("search")->isChecked());
+    EXPECT_EQ(child<QComboBox>("backends")->currentData(), "emulation");
+    EXPECT_EQ(readCameraSettings(ViewerSettings()).transport.packetSize, 0);
+}
+
 TEST_F(CameraSettingsInTheViewer, DoNotKeepWhatOneStartWasAskedFor)
 {
     startViewer();

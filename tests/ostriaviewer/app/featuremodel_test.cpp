@@ -2,6 +2,7 @@
 // What a camera answers too late is shown when it has answered.
 #include "accessqueue_p.h"
 #include "featuremodel.h"
+#include "nodemap_p.h"
 #include "patience.h"
 #include "testcamera.h"
 
@@ -9,6 +10,7 @@
 
 #include <future>
 #include <optional>
+#include <thread>
 
 namespace Viewer {
 namespace {
@@ -102,6 +104,39 @@ TEST_F(LateAnswers, AreShownWhenTheyHaveCome)
     EXPECT_TRUE(shows("Width", "640"));
     EXPECT_TRUE(shows("LutIndex", "not available"));
     EXPECT_TRUE(value("Width").flags() & Qt::ItemIsEditable);
+}
+
+// Which features there are the camera may have to say itself.
+TEST_F(LateAnswers, ToWhatThereIsHoldNobodyUp)
+{
+    use(describe("<pFeature>F</pFeature><pFeature>Width</pFeature>",
+                 R"(<Integer Name="F"><pIsImplemented>Reg</pIsImplemented><Value>1</Value></Integer>
+<IntReg Name="Reg"><Address>0x124</Address><Length>4</Length><AccessMode>RO</AccessMode>
+<pPort>Device</pPort><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>
+<IntReg Name="Width"><Address>0x110</Address><Length>4</Length><AccessMode>RW</AccessMode>
+<pPort>Device</pPort><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>)"));
+    m_port->withhold();
+    m_model.setFeatures(camera);
+    EXPECT_EQ(text("Width"), "");
+    m_port->answer();
+    EXPECT_TRUE(shows("Width", "640"));
+}
+
+TEST_F(LateAnswers, AreWaitedForWhereAnotherThreadHasTheCamera)
+{
+    std::promise<void> isHeld;
+    std::promise<void> mayGo;
+    std::thread other([&] {
+        const Cameras::GenICam::ReadLock lock(map->d());
+        isHeld.set_value();
+        mayGo.get_future().wait();
+    });
+    isHeld.get_future().wait();
+    m_model.setFeatures(camera);
+    EXPECT_EQ(m_model.rowCount(), 0);
+    mayGo.set_value();
+    other.join();
+    EXPECT_TRUE(shows("Width", "640"));
 }
 
 TEST_F(LateAnswers, LeaveWhatIsShownAsItIsUntilThen)

@@ -65,6 +65,39 @@ TEST_F(MainWindowTest, ToolsMenuSaysWhenThereIsNoTool)
     QTest::keyClick(menu, Qt::Key_Escape);
 }
 
+// Which of two is meant must not be a matter of which comes first.
+TEST_F(MainWindowTest, LeavesTheChoiceAmongCamerasOfOneModelToTheUser)
+{
+    auto model = Cameras::Emulation::smallModel();
+    model.serialNumber = "00000099";
+    m_second = makeCamera(model);
+    startViewer({}, model.name);
+    EXPECT_TRUE(
+        hasMessage("There are several cameras \"" + model.name + "\"; select one in the list."));
+    EXPECT_FALSE(m_first->isOpen());
+    EXPECT_FALSE(m_second->isOpen());
+}
+
+TEST_F(MainWindowTest, TakesTheCameraThatIsShownByTheNameBeforeOthersOfThatModel)
+{
+    auto model = Cameras::Emulation::smallModel();
+    model.serialNumber = "00000099";
+    m_second = makeCamera(model);
+    startViewer({}, m_second->displayName());
+    EXPECT_FALSE(m_first->isOpen());
+    EXPECT_TRUE(m_second->isGrabbing());
+}
+
+TEST_F(MainWindowTest, TakesACamerasNameForNoMarkup)
+{
+    auto model = Cameras::Emulation::smallModel();
+    model.name = "<b>X</b>";
+    m_first = makeCamera(model);
+    startViewer();
+    EXPECT_EQ(cameraItem(0)->toolTip(0), "<qt>&lt;b&gt;X&lt;/b&gt; (" + model.serialNumber +
+                                             ")<br>Model &lt;b&gt;X&lt;/b&gt;, closed</qt>");
+}
+
 TEST_F(MainWindowTest, TellsPluginsOfSelectionOpeningAndLoss)
 {
     startViewer();

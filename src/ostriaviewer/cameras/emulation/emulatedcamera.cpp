@@ -169,11 +169,13 @@ void EmulatedCamera::shutDown()
     std::shared_ptr<Device> device;
     {
         const std::lock_guard lock(m_mutex);
-        device = std::move(m_device);
-        m_device.reset();
+        device = std::exchange(m_device, {});
+        // With the lock, so that what a later opening starts is not stopped.
+        if (m_loop)
+            m_loop->cancel();
     }
-    if (FrameLoop* running = loop())
-        running->stop();
+    if (const FrameLoop* running = loop())
+        running->wait();
     if (device)
         device->nodeMap->disconnect();
     updateAcquisitionLock();
@@ -308,7 +310,8 @@ FrameLoop::Frame EmulatedCamera::takeFrame(std::uint64_t number)
         return frame;
     frame.result = fate.failed ? failure(tr("The frame is incomplete.").toStdString(), number)
                                : render(*opened, values, number);
-    if (frame.result->GrabSucceeded() && isAnyAutoFunctionOn(values)) {
+    // The camera may have been closed meanwhile, and be open again for somebody else.
+    if (frame.result->GrabSucceeded() && isAnyAutoFunctionOn(values) && device() == opened) {
         runAutoFunctions(measureLevels(frame.result->image()), *m_store);
         opened->nodeMap->refresh();
     }

@@ -2,6 +2,8 @@
 // The thread on which an emulated camera takes its frames.
 #include "frameloop.h"
 
+#include "aside_p.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -24,6 +26,7 @@ struct FrameLoop::State
     std::uint64_t request = 0;  // counts what was asked for; a frame belongs to one request
     Clock::time_point deadline; // of a single frame
     Clock::time_point begin;    // of the next frame
+    Delivery taking;            // its source may hold what whoever stops wants to end
     Delivery delivery;
     std::uint64_t frameNumber = 0;
 
@@ -56,9 +59,8 @@ void FrameLoop::State::takeFrame(std::unique_lock<std::mutex>& lock)
     const bool isSingle = mode == Mode::Single;
     const Clock::time_point start = begin;
     const std::uint64_t number = frameNumber++;
-    lock.unlock();
-    const Frame frame = take(number);
-    lock.lock();
+    Frame frame;
+    taking.run(lock, [&] { frame = take(number); });
 
     const Clock::time_point end = start + frame.exposure;
     if (request != wanted)
@@ -92,7 +94,7 @@ FrameLoop::~FrameLoop()
         m_state->ask(Mode::Ended);
     }
     if (m_thread.get_id() == std::this_thread::get_id())
-        m_thread.detach();
+        GenICam::joinAside(std::move(m_thread));
     else
         m_thread.join();
 }
@@ -131,11 +133,23 @@ bool FrameLoop::requestSingle(std::chrono::milliseconds timeout)
     return true;
 }
 
-void FrameLoop::stop()
+void FrameLoop::cancel()
 {
-    std::unique_lock lock(m_state->mutex);
+    const std::lock_guard lock(m_state->mutex);
     if (m_state->mode != Mode::Idle)
         m_state->ask(Mode::Idle);
+}
+
+void FrameLoop::stop()
+{
+    cancel();
+    wait();
+}
+
+void FrameLoop::wait() const
+{
+    std::unique_lock lock(m_state->mutex);
+    m_state->taking.wait(lock);
     m_state->delivery.wait(lock);
 }
 

@@ -52,11 +52,17 @@ public:
     /// \return  false while frames are taken continuously
     bool requestSingle(std::chrono::milliseconds timeout);
 
+    /// Ends continuous and single frames, without waiting for anything.
+    void cancel();
+
+    /// The second half of stop: waits for what had begun before cancel.
+    void wait() const;
+
     /// Ends continuous and single frames: when it returns, no delivery begins any more.
     ///
-    /// A delivery that has begun is waited for, but not longer than longestWait: its receiver may
-    /// itself be waiting for a lock that the caller holds. Not at all on the loop's own thread,
-    /// where the delivery is the caller.
+    /// A frame that is being taken and a delivery that has begun are waited for, but not longer
+    /// than longestWait each: the source or the receiver may itself be waiting for a lock that the
+    /// caller holds. Not at all on the loop's own thread, where they are the caller.
     void stop();
 
     static constexpr std::chrono::milliseconds longestWait = Delivery::longestWait;

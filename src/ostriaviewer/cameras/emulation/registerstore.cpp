@@ -52,7 +52,8 @@ RegisterStore::RegisterStore(std::shared_ptr<const FeatureTable> table)
 
 void RegisterStore::setWriteHook(WriteHook hook)
 {
-    m_hook = std::move(hook);
+    const std::lock_guard lock(m_mutex);
+    m_hook.swap(hook);
 }
 
 RegisterLayout::Place RegisterStore::checkedPlace(std::uint64_t address, std::size_t size) const
@@ -111,11 +112,13 @@ void RegisterStore::write(std::uint64_t address, const void* data, std::size_t s
     const double before = m_values.value(feature.name, place.cell);
     if (feature.kind != FeatureKind::Command)
         store(feature, place.cell, m_values.nearest(feature, wanted));
+    // Another one may be set while this one is at work.
+    const WriteHook hook = m_hook;
     lock.unlock();
-    if (!m_hook)
+    if (!hook)
         return;
     try {
-        m_hook(feature, place.cell);
+        hook(feature, place.cell);
     } catch (...) {
         restoreCell(feature, place.cell, before);
         throw;
@@ -158,6 +161,12 @@ void RegisterStore::set(const QString& name, double value, int cell)
     const std::lock_guard lock(m_mutex);
     if (const FeatureDefinition* feature = m_table->find(name))
         store(*feature, cell, m_values.nearest(*feature, value));
+}
+
+bool RegisterStore::isConnected() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_reachable;
 }
 
 void RegisterStore::setReachable(bool reachable)

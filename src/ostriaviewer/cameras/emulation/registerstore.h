@@ -28,7 +28,7 @@ public:
 
     explicit RegisterStore(std::shared_ptr<const FeatureTable> table);
 
-    /// To be set while no client uses the store.
+    /// Counts for writes that begin after that.
     void setWriteHook(WriteHook hook);
 
     const std::shared_ptr<const FeatureTable>& table() const { return m_table; }
@@ -36,6 +36,7 @@ public:
 
     void read(std::uint64_t address, void* data, std::size_t size) override;
     void write(std::uint64_t address, const void* data, std::size_t size) override;
+    bool isConnected() const override;
 
     /// All values at one moment.
     FeatureValues values() const;
@@ -61,9 +62,9 @@ private:
 
     const std::shared_ptr<const FeatureTable> m_table;
     const RegisterLayout m_layout;
-    WriteHook m_hook;
 
     mutable std::mutex m_mutex; // guards all below
+    WriteHook m_hook;
     FeatureValues m_values;
     QHash<QString, int> m_refusals; // writes that are still taken, by feature
     bool m_reachable = true;

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <future>
 #include <iterator>
+#include <memory>
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -96,6 +97,11 @@ void runAside(std::function<void()> work)
 {
     waitAtTheEnd();
     workers().add(std::move(work));
+}
+
+void joinAside(std::thread thread)
+{
+    runAside([kept = std::make_shared<std::thread>(std::move(thread))] { kept->join(); });
 }
 
 } // namespace Cameras::GenICam

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <thread>
 
 namespace Cameras::GenICam {
 
@@ -10,5 +11,9 @@ namespace Cameras::GenICam {
 /// for answers. What the work throws is lost. The end of the application object waits for it, that
 /// of a program without one after main. Thread-safe.
 void runAside(std::function<void()> work);
+
+/// Waits aside for the end of a thread, such as one that ends what it belongs to itself.
+/// Thread-safe.
+void joinAside(std::thread thread);
 
 } // namespace Cameras::GenICam

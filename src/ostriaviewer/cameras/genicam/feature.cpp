@@ -82,26 +82,39 @@ Feature Feature::find(NodeMapPrivate& map, const QString& name)
     return Feature(map, ARV_GC_FEATURE_NODE(node));
 }
 
+bool Feature::askAvailable() const
+{
+    const LibraryScope scope(m_map->camera(), m_name);
+    return std::all_of(m_chain.begin(), m_chain.end(), [this](ArvGcFeatureNode* node) {
+        GErrorSlot implementedError;
+        const bool implemented = arv_gc_feature_node_is_implemented(node, implementedError) != 0;
+        check(implementedError);
+        GErrorSlot availableError;
+        const bool available = arv_gc_feature_node_is_available(node, availableError) != 0;
+        check(availableError);
+        return implemented && available;
+    });
+}
+
+bool Feature::askLocked() const
+{
+    return std::any_of(m_chain.begin(), m_chain.end(), [this](ArvGcFeatureNode* node) {
+        GErrorSlot error;
+        const bool isNodeLocked = arv_gc_feature_node_is_locked(node, error) != 0;
+        check(error);
+        return isNodeLocked;
+    });
+}
+
 bool Feature::isAvailable() const
 {
     if (isEmpty() || !m_map->isConnected())
         return false;
-    const LibraryScope scope(m_map->camera(), m_name);
-    return std::all_of(m_chain.begin(), m_chain.end(), [](ArvGcFeatureNode* node) {
-        GErrorSlot implementedError;
-        GErrorSlot availableError;
-        return arv_gc_feature_node_is_implemented(node, implementedError) &&
-               arv_gc_feature_node_is_available(node, availableError) &&
-               !implementedError.isSet() && !availableError.isSet();
-    });
-}
-
-bool Feature::isLocked() const
-{
-    return std::any_of(m_chain.begin(), m_chain.end(), [](ArvGcFeatureNode* node) {
-        GErrorSlot error;
-        return arv_gc_feature_node_is_locked(node, error) || error.isSet();
-    });
+    try {
+        return askAvailable();
+    } catch (const ::GenICam::RuntimeException&) {
+        return false;
+    }
 }
 
 bool Feature::allowsReading() const
@@ -122,7 +135,19 @@ bool Feature::isReadable() const
 
 bool Feature::isWritable() const
 {
-    return isAvailable() && allowsWriting() && !isLocked();
+    if (!isAvailable() || !allowsWriting())
+        return false;
+    try {
+        return !askLocked();
+    } catch (const ::GenICam::RuntimeException&) {
+        return false;
+    }
+}
+
+bool Feature::isSurelyReadWrite() const
+{
+    requireConnection();
+    return !isEmpty() && askAvailable() && allowsReading() && allowsWriting() && !askLocked();
 }
 
 bool Feature::isStreamable() const
@@ -158,13 +183,8 @@ void Feature::requireWritable() const
     if (!allowsWriting())
         fail(FeatureTexts::tr("cannot be written, only read"));
     // A camera that does not answer locks nothing.
-    for (ArvGcFeatureNode* node : m_chain) {
-        GErrorSlot error;
-        const bool isNodeLocked = arv_gc_feature_node_is_locked(node, error);
-        check(error);
-        if (isNodeLocked)
-            fail(FeatureTexts::tr("locked with the camera's present settings"));
-    }
+    if (askLocked())
+        fail(FeatureTexts::tr("locked with the camera's present settings"));
 }
 
 void Feature::fail(const QString& reason) const

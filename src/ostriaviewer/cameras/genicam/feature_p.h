@@ -58,6 +58,10 @@ public:
     bool isWritable() const;
     bool isStreamable() const;
 
+    /// As isReadable and isWritable together, for those whom a wrong answer would mislead.
+    /// \throws ::GenICam::RuntimeException  the camera does not tell
+    bool isSurelyReadWrite() const;
+
     /// Without the mutex. Of an empty one nothing is required.
     /// \throws ::GenICam::RuntimeException  the camera is lost or closed
     void requireConnection() const;
@@ -81,7 +85,8 @@ public:
 private:
     bool allowsReading() const;
     bool allowsWriting() const;
-    bool isLocked() const;
+    bool askAvailable() const; // throws if the camera does not tell
+    bool askLocked() const;
 
     NodeMapPrivate* m_map = nullptr;
     QString m_name;

@@ -4,10 +4,12 @@
 
 #include "enumerationfeature_p.h"
 #include "genicamexception.h"
+#include "logging.h"
 #include "nodemap_p.h"
 #include "numberfeature_p.h"
 #include "textfeature_p.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QSet>
 #include <QStringList>
@@ -19,6 +21,11 @@
 namespace Cameras::GenICam {
 
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::FeatureStream)
+};
 
 /// A selector with more positions is written at the present one alone.
 constexpr quint64 mostPositions = 4096;
@@ -139,8 +146,8 @@ public:
     {
         try {
             restore();
-        } catch (const ::GenICam::RuntimeException&) {
-            // The failure that brought us here is the one to report.
+        } catch (const ::GenICam::RuntimeException& refusal) {
+            tell(QString::fromStdString(refusal.what()));
         }
     }
     SelectorPosition(const SelectorPosition&) = delete;
@@ -164,6 +171,17 @@ public:
     }
 
 private:
+    /// The failure that brought us here is the one to report. That this is left behind is not said
+    /// by it.
+    void tell(const QString& reason) const
+    {
+        Core::Logging::createLogEntry(
+            Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
+            Texts::tr("%1: %2 could not be put back while settings were read; set it to \"%3\". "
+                      "(%4)")
+                .arg(m_selector.map().camera(), m_selector.name(), m_original, reason));
+    }
+
     const Feature& m_selector;
     QString m_original;
     bool m_isMoved = false;
@@ -172,8 +190,9 @@ private:
 class Writer
 {
 public:
-    Writer(const FeatureTree& tree, const FeatureStreamHead& head)
-        : m_tree(tree)
+    Writer(NodeMapPrivate& map, const FeatureStreamHead& head)
+        : m_map(map)
+        , m_tree(map.tree())
     {
         writeComment(QStringLiteral("Feature stream 1"));
         writeComment(QStringLiteral("Model: ") + head.modelName);
@@ -213,7 +232,7 @@ private:
 
     void writeFeature(const Feature& feature)
     {
-        if (!feature.isReadable() || !feature.isWritable())
+        if (!feature.isSurelyReadWrite())
             return;
         const QString value = featureText(feature);
         // A line could not hold it.
@@ -225,12 +244,15 @@ private:
     void writeBlock(const Block& block)
     {
         const Feature& selector = feature(block.selector);
-        if (!hasText(selector) || !selector.isReadable() || !selector.isWritable()) {
+        if (!hasText(selector) || !selector.isSurelyReadWrite()) {
             writeItems(block);
             return;
         }
         SelectorPosition position(selector);
-        for (const QString& next : positions(selector, position.original())) {
+        const QStringList all = positions(selector, position.original());
+        // Of a camera that does not answer no position can be taken.
+        m_map.requireConnection();
+        for (const QString& next : all) {
             position.moveTo(next);
             writeLine(selector, next);
             writeItems(block);
@@ -239,6 +261,7 @@ private:
         writeLine(selector, position.original());
     }
 
+    const NodeMapPrivate& m_map;
     const FeatureTree& m_tree;
     QString m_text;
 };
@@ -248,7 +271,7 @@ private:
 QString writeFeatureStream(NodeMapPrivate& map, const FeatureStreamHead& head)
 {
     map.requireConnection();
-    Writer writer(map.tree(), head);
+    Writer writer(map, head);
     writer.writeItems(planBlocks(map.tree()));
     return writer.text();
 }

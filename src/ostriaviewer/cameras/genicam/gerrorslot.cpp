@@ -21,6 +21,13 @@ bool GErrorSlot::isTimeout() const
     return g_error_matches(m_error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT) != FALSE;
 }
 
+// The library has no code of its own for it.
+bool GErrorSlot::isAccessDenied() const
+{
+    return m_error && m_error->domain == ARV_DEVICE_ERROR &&
+           QString::fromUtf8(m_error->message).contains(QLatin1String("access-denied"));
+}
+
 bool GErrorSlot::isAboutDescription() const
 {
     return g_error_matches(m_error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_GENICAM_NOT_FOUND) != FALSE;

@@ -28,6 +28,9 @@ public:
     /// Whether a device did not answer in time.
     bool isTimeout() const;
 
+    /// Whether a device lets this program not do what it may let others do.
+    bool isAccessDenied() const;
+
     /// Whether a device's description cannot be read or understood.
     bool isAboutDescription() const;
 

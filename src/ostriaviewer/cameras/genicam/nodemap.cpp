@@ -89,7 +89,7 @@ bool NodeMapPrivate::isConnected() const
 
 void NodeMapPrivate::requireConnection() const
 {
-    if (!isConnected())
+    if (!isConnected() || !isPortConnected(m_device))
         throw ::GenICam::RuntimeException(
             Texts::tr("The connection to the camera is lost.").toStdString());
 }

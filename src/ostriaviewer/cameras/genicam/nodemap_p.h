@@ -49,7 +49,7 @@ public:
     /// \param last  none, if it is default-constructed
     void setClosing(std::thread::id last = {});
 
-    /// \throws ::GenICam::RuntimeException  this thread may not
+    /// \throws ::GenICam::RuntimeException  this thread may not, or the camera is lost
     void requireConnection() const;
 
     ChangeWatch& changes() { return m_changes; }

@@ -2,6 +2,7 @@
 // Values and limits of integer, float and boolean features.
 #include "numberfeature_p.h"
 
+#include "genicamexception.h"
 #include "gerrorslot_p.h"
 
 #include <arv.h>
@@ -97,7 +98,13 @@ void roundToNearest(const Feature& feature, double value, double minimum, double
     const double mirrored = std::clamp(value + 0.9999 * (value - truncated), minimum, maximum);
     if (truncated == value || mirrored == value)
         return;
-    writeFloat(feature, mirrored);
+    try {
+        writeFloat(feature, mirrored);
+    } catch (const ::GenICam::RuntimeException&) {
+        // The camera may take less than its description says. The wish itself it has taken.
+        writeFloat(feature, value);
+        return;
+    }
     if (std::fabs(readFloat(feature) - value) > std::fabs(truncated - value))
         writeFloat(feature, value);
 }

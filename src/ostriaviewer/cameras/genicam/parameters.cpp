@@ -136,6 +136,16 @@ void announceCommand(NodeMapPrivate& map)
     const WriteLock lock(map);
 }
 
+/// As announceCommand, where a failure is under way already.
+void announceEnded(NodeMapPrivate& map) noexcept
+{
+    try {
+        announceCommand(map);
+    } catch (const ::GenICam::RuntimeException&) {
+        return; // the camera is busy with another thread, which announces what it finds
+    }
+}
+
 class CommandParameter : public ParameterBase<ICommandParameter>
 {
 public:
@@ -160,6 +170,8 @@ public:
             // What was begun goes on without us.
             if (Patience::failures() != failures)
                 awaitAside(end);
+            else
+                announceEnded(map());
             throw;
         }
     }
@@ -170,11 +182,11 @@ private:
         runAside([nodeMap = nodeMap(), feature = feature(), end] {
             NodeMapPrivate& map = nodeMap->d();
             try {
-                if (isCommandDoneUntil(end, map, feature))
-                    announceCommand(map);
+                isCommandDoneUntil(end, map, feature);
             } catch (const ::GenICam::RuntimeException&) {
-                return; // the camera is closed or lost, and all of its features say so
+                // The camera is closed or lost, and all of its features say so.
             }
+            announceEnded(map);
         });
     }
 };

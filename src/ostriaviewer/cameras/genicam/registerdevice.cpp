@@ -141,4 +141,10 @@ void detachPort(ArvDevice* device)
     self(device)->port->reset();
 }
 
+bool isPortConnected(ArvDevice* device)
+{
+    const PortPtr& port = *self(device)->port;
+    return port && port->isConnected();
+}
+
 } // namespace Cameras::GenICam

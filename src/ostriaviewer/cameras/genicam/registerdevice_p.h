@@ -19,4 +19,8 @@ ArvDevice* newRegisterDevice(std::shared_ptr<IRegisterPort> port);
 /// \param device  made by newRegisterDevice
 void detachPort(ArvDevice* device);
 
+/// Whether the port is still there and connected.
+/// \param device  made by newRegisterDevice
+bool isPortConnected(ArvDevice* device);
+
 } // namespace Cameras::GenICam

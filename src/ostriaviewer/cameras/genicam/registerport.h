@@ -33,6 +33,9 @@ public:
     /// \param data  size bytes; lent for the call
     /// \throws ::GenICam::RuntimeException  the device refuses, with its reason
     virtual void write(std::uint64_t address, const void* data, std::size_t size) = 0;
+
+    /// False once no access will succeed any more. Does not wait.
+    virtual bool isConnected() const { return true; }
 };
 
 } // namespace Cameras::GenICam

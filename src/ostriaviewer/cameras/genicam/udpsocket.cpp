@@ -48,6 +48,8 @@ UdpSocket::UdpSocket(const UdpAddress& address, bool shared)
         g_socket_new(G_SOCKET_FAMILY_IPV4, G_SOCKET_TYPE_DATAGRAM, G_SOCKET_PROTOCOL_UDP, &error);
     if (!m_socket)
         fail(error);
+    // What is announced may turn out to be damaged, and would be waited for.
+    g_socket_set_blocking(m_socket, FALSE);
     g_socket_set_broadcast(m_socket, TRUE);
     GSocketAddress* own = toSocketAddress(address);
     const bool isBound = g_socket_bind(m_socket, own, shared, &error);
@@ -63,11 +65,22 @@ UdpSocket::~UdpSocket()
     g_object_unref(m_socket);
 }
 
+/// \return  false if there is no room for it now
+bool UdpSocket::trySend(const std::vector<std::uint8_t>& bytes, GSocketAddress* target)
+{
+    GError* error = nullptr;
+    g_socket_send_to(m_socket, target, reinterpret_cast<const char*>(bytes.data()), bytes.size(),
+                     nullptr, &error);
+    const bool isFull = g_error_matches(error, G_IO_ERROR, G_IO_ERROR_WOULD_BLOCK) != 0;
+    g_clear_error(&error);
+    return !isFull;
+}
+
 void UdpSocket::send(const std::vector<std::uint8_t>& bytes, const UdpAddress& target)
 {
     GSocketAddress* address = toSocketAddress(target);
-    g_socket_send_to(m_socket, address, reinterpret_cast<const char*>(bytes.data()), bytes.size(),
-                     nullptr, nullptr);
+    while (!trySend(bytes, address))
+        g_socket_condition_wait(m_socket, G_IO_OUT, nullptr, nullptr);
     g_object_unref(address);
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 typedef struct _GSocket GSocket;
+typedef struct _GSocketAddress GSocketAddress;
 
 namespace Cameras {
 
@@ -47,6 +48,8 @@ public:
     std::optional<Datagram> receive(std::chrono::milliseconds time);
 
 private:
+    bool trySend(const std::vector<std::uint8_t>& bytes, GSocketAddress* target);
+
     GSocket* m_socket;
 };
 

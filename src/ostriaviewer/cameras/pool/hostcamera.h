@@ -105,4 +105,19 @@ private:
 
 using HostCameraPtr = QSharedPointer<HostCamera>;
 
+/// What people mean by a name: the one camera that is shown by it, else all of that model.
+/// \param cameras  pointers to cameras
+template <class List>
+List camerasNamed(const List& cameras, const QString& name)
+{
+    List ofModel;
+    for (const auto& camera : cameras) {
+        if (camera->displayName() == name)
+            return {camera};
+        if (camera->modelName() == name)
+            ofModel.append(camera);
+    }
+    return ofModel;
+}
+
 } // namespace Cameras

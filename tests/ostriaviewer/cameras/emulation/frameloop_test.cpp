@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <future>
+#include <thread>
 #include <vector>
 
 namespace Cameras::Emulation {
@@ -70,6 +71,31 @@ TEST(FrameLoop, NumbersFramesInOrder)
     const auto numbers = received.numbers();
     for (std::size_t i = 0; i < numbers.size(); ++i)
         EXPECT_EQ(numbers[i], i);
+}
+
+// The source holds the camera meanwhile, which its owner may be about to give up.
+TEST(FrameLoop, WaitsForAFrameThatIsBeingTaken)
+{
+    for (int round = 0; round < 100; ++round) {
+        FrameLoop* running = nullptr;
+        std::promise<void> taking;
+        std::atomic<bool> isTaken = false;
+        FrameLoop loop(
+            [&](std::uint64_t number) {
+                if (number == 0)
+                    taking.set_value();
+                while (running->isContinuous())
+                    std::this_thread::yield();
+                isTaken = true;
+                return FrameLoop::Frame();
+            },
+            [](const auto&) {});
+        running = &loop;
+        loop.startContinuous();
+        taking.get_future().wait();
+        loop.stop();
+        ASSERT_TRUE(isTaken) << round;
+    }
 }
 
 TEST(FrameLoop, DeliversNothingAfterStop)

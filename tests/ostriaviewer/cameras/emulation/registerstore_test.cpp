@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <memory>
 
 namespace Cameras::Emulation {
 namespace {
@@ -56,6 +57,21 @@ protected:
 
     std::unique_ptr<RegisterStore> m_store;
 };
+
+// As when the camera is opened again while a client of the opening before still writes.
+TEST_F(RegisterStoreTest, KeepsAHookThatIsAtWorkWhenAnotherIsSet)
+{
+    auto kept = std::make_shared<int>(7);
+    const std::weak_ptr<int> watched = kept;
+    bool wasKept = false;
+    m_store->setWriteHook([kept = std::move(kept), &watched, &wasKept, this](const auto&, int) {
+        m_store->setWriteHook({});
+        wasKept = !watched.expired();
+    });
+    write("Size", whole(12));
+    EXPECT_TRUE(wasKept);
+    EXPECT_TRUE(watched.expired());
+}
 
 TEST_F(RegisterStoreTest, NumbersAreBigEndian)
 {

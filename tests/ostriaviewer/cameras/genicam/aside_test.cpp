@@ -37,3 +37,20 @@ TEST(Aside, IsDoneBeforeTheApplicationObjectHasGone)
         EXPECT_TRUE(isDone) << round;
     }
 }
+
+TEST(Aside, ThreadsEndBeforeTheApplicationObjectHasGone)
+{
+    std::promise<void> end;
+    mayEnd = &end;
+    std::atomic<bool> hasEnded = false;
+    {
+        int argumentCount = 0;
+        const QCoreApplication application(argumentCount, nullptr);
+        Cameras::GenICam::joinAside(std::thread([&end, &hasEnded] {
+            end.get_future().wait();
+            hasEnded = true;
+        }));
+        qAddPostRoutine([] { mayEnd->set_value(); });
+    }
+    EXPECT_TRUE(hasEnded);
+}

@@ -55,6 +55,32 @@ TEST_F(ChangeWatch, AnnouncesAWriteThroughAnotherObject)
     EXPECT_EQ(count, 1);
 }
 
+// It changes another feature while it is waited for, and then fails.
+TEST_F(ChangeWatch, AnnouncesWhatACommandDidThatFailed)
+{
+    class Failing : public MemoryPort
+    {
+    public:
+        void read(std::uint64_t address, void* data, std::size_t size) override
+        {
+            if (address == Register::save) {
+                setWord(Register::width, 320);
+                throw GenICam::RuntimeException("failed");
+            }
+            MemoryPort::read(address, data, size);
+        }
+    };
+    port = std::make_shared<Failing>();
+    port->setWord(Register::width, 640);
+    use(testDescription());
+    const auto width = camera->integerParameter("Width"_q);
+    int count = 0;
+    watch(width, count);
+    EXPECT_EQ(refusalOf([&] { camera->commandParameter("Save"_q)->execute(); }), "Save: failed.");
+    deliver();
+    EXPECT_EQ(count, 1);
+}
+
 TEST_F(ChangeWatch, MakesOneOfSeveralChanges)
 {
     const auto gain = camera->floatParameter("Gain"_q);

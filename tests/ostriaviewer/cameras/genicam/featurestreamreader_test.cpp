@@ -231,3 +231,14 @@ TEST_F(FeatureStreamReader, ThrowsWhenTheConnectionIsLostOnTheWay)
     EXPECT_EQ(refusalOf([&] { load("Gain\t2\nWidth\t320\n"_q); }),
               "The connection to the camera is lost.");
 }
+
+// Of a camera behind a cable that has gone, whoever closes the node map learns only later.
+TEST_F(FeatureStreamReader, ThrowsWhenTheCameraIsLostBeforeItsNodeMapIsClosed)
+{
+    port->onWrite = [this](std::uint64_t) {
+        port->isLost = true;
+    };
+    EXPECT_EQ(refusalOf([&] { load("Gain\t2\nWidth\t320\nGamma\t2\n"_q); }),
+              "The connection to the camera is lost.");
+    EXPECT_EQ(port->writes, 1);
+}

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // What must hold for the text that a camera's settings are saved as.
+#include "logrecorder.h"
 #include "testcamera.h"
 
 #include <QStringList>
@@ -99,6 +100,65 @@ TEST_F(FeatureStreamWriter, PutsSelectorsBackWhenReadingFails)
               "BalanceRatio: access denied.");
     EXPECT_EQ(m_text, "untouched"_q);
     EXPECT_EQ(camera->enumerationParameter("BalanceRatioSelector"_q)->value(), "Blue"_q);
+}
+
+TEST_F(FeatureStreamWriter, TellsASelectorThatCouldNotBePutBack)
+{
+    class Stuck : public MemoryPort
+    {
+    public:
+        void read(std::uint64_t address, void* data, std::size_t size) override
+        {
+            // In the middle of the selector's positions.
+            if (address == 0x608)
+                refused.insert({0x610, 0x608});
+            MemoryPort::read(address, data, size);
+        }
+    };
+    port = std::make_shared<Stuck>();
+    use(describe("<pFeature>S</pFeature><pFeature>V</pFeature>",
+                 R"(<Integer Name="S"><pValue>SReg</pValue><Min>0</Min><Max>2</Max>
+<pSelected>V</pSelected></Integer>
+<IntReg Name="SReg"><Address>0x610</Address><Length>4</Length><AccessMode>RW</AccessMode>
+<pPort>Device</pPort><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess>
+<Cachable>WriteThrough</Cachable></IntReg>
+<IntReg Name="V"><Streamable>Yes</Streamable><Address>0x600</Address><pIndex Offset="4">S</pIndex>
+<Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Sign>Unsigned</Sign>
+<Endianess>BigEndian</Endianess></IntReg>)"));
+    port->setWord(0x610, 1);
+    const LogRecorder log;
+    EXPECT_NE(refusalOf([&] { savedLines(); }), "");
+    ASSERT_EQ(log.entries().size(), 1);
+    EXPECT_EQ(log.entries().constFirst().level, Core::Logging::Warning);
+    EXPECT_EQ(log.entries().constFirst().category, "Cameras"_q);
+    EXPECT_EQ(log.entries().constFirst().text.toStdString(),
+              "Test: S could not be put back while settings were read; set it to \"1\". "
+              "(S: access denied.)");
+}
+
+// What is left out of a backup is not put back later.
+TEST_F(FeatureStreamWriter, FailsWhereTheCameraDoesNotTellWhetherAFeatureIsLocked)
+{
+    port->refused.insert(Register::exposureAuto);
+    use(describe("<pFeature>F</pFeature>",
+                 R"(<Integer Name="F"><pIsLocked>LockReg</pIsLocked><Streamable>Yes</Streamable>
+<Value>1</Value></Integer>
+<IntReg Name="LockReg"><Address>0x11c</Address><Length>4</Length><AccessMode>RO</AccessMode>
+<pPort>Device</pPort><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>)"));
+    EXPECT_EQ(refusalOf([&] { savedLines(); }), "F: access denied.");
+    EXPECT_FALSE(camera->integerParameter("F"_q)->isWritable());
+}
+
+TEST_F(FeatureStreamWriter, FailsWhereTheCameraDoesNotTellWhetherAFeatureIsThere)
+{
+    port->refused.insert(Register::lutEnable);
+    use(describe("<pFeature>F</pFeature>",
+                 R"(<Integer Name="F"><pIsAvailable>Reg</pIsAvailable><Streamable>Yes</Streamable>
+<Value>1</Value></Integer>
+<IntReg Name="Reg"><Address>0x124</Address><Length>4</Length><AccessMode>RO</AccessMode>
+<pPort>Device</pPort><Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>)"));
+    EXPECT_EQ(refusalOf([&] { savedLines(); }), "F: access denied.");
+    EXPECT_FALSE(camera->integerParameter("F"_q)->isAvailable());
 }
 
 TEST_F(FeatureStreamWriter, DoesNotMoveASelectorThatCouldNotGoBack)

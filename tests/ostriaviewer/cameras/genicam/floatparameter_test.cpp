@@ -89,6 +89,26 @@ TEST_F(FloatParameter, GoesToTheNearestOfAnIntegerBehindAConverter)
     EXPECT_EQ(port->word(Register::exposureRaw), 100000U);
 }
 
+// 7.016 is 701 when it is cut off; the camera takes no more than that.
+TEST_F(FloatParameter, StaysWhereACameraTakesLessThanItSays)
+{
+    class Limited : public MemoryPort
+    {
+    public:
+        void write(std::uint64_t address, const void* data, std::size_t size) override
+        {
+            const auto* bytes = static_cast<const std::uint8_t*>(data);
+            if (address == Register::exposureRaw && (bytes[2] << 8 | bytes[3]) > 701)
+                throw GenICam::RuntimeException("out of range");
+            MemoryPort::write(address, data, size);
+        }
+    };
+    port = std::make_shared<Limited>();
+    use(testDescription());
+    camera->floatParameter("ExposureTime"_q)->setValue(7.016);
+    EXPECT_EQ(port->word(Register::exposureRaw), 701U);
+}
+
 TEST_F(FloatParameter, GoesToTheNearestOfNegativeIntegersToo)
 {
     use(describe("<pFeature>F</pFeature>",

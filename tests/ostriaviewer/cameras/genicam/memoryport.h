@@ -32,6 +32,8 @@ public:
             onWrite(address);
     }
 
+    bool isConnected() const override { return !isLost; }
+
     /// A big-endian 32-bit register.
     std::uint32_t word(std::uint64_t address) const
     {
@@ -67,12 +69,15 @@ public:
     std::function<void(std::uint64_t address)> onWrite; ///< after each write
     std::set<std::uint64_t> refused;                    ///< neither read nor written
     std::set<std::uint64_t> readOnly;
+    bool isLost = false; ///< nothing answers any more
     int reads = 0;
     int writes = 0;
 
 private:
     void refuse(std::uint64_t address, std::size_t size) const
     {
+        if (isLost)
+            throw GenICam::RuntimeException("no answer");
         if (refused.count(address) || address + size > m_bytes.size())
             throw GenICam::RuntimeException("access denied");
     }

@@ -59,6 +59,13 @@
     </message>
 </context>
 <context>
+    <name>Cameras::GenICam::CameraFinder</name>
+    <message>
+        <source>The search for cameras failed (%1). It is repeated soon.</source>
+        <translation>カメラの検索に失敗しました（%1）。まもなく再試行します。</translation>
+    </message>
+</context>
+<context>
     <name>Cameras::GenICam::Device</name>
     <message>
         <source>The description of the camera &quot;%1&quot; cannot be used (%2).</source>
@@ -87,6 +94,18 @@
     <message>
         <source>the camera does not answer at present</source>
         <translation>カメラが現在応答していません</translation>
+    </message>
+    <message>
+        <source>%1: the camera does not take packets of %2 bytes, as the settings want them; it uses packets of %3 bytes.</source>
+        <translation>%1：カメラは設定された %2 バイトのパケットに対応していません。%3 バイトのパケットを使用します。</translation>
+    </message>
+    <message>
+        <source>the camera refuses it</source>
+        <translation>カメラが拒否しました</translation>
+    </message>
+    <message>
+        <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
+        <translation>このプログラムからの通信が長時間届かなかったため、カメラが操作を受け付けなくなりました。カメラを開き直してください</translation>
     </message>
 </context>
 <context>
@@ -222,6 +241,10 @@
         <source>skipped, as %1 could not be set</source>
         <translation>%1 は設定できなかったため、スキップしました</translation>
     </message>
+    <message>
+        <source>%1: %2 could not be put back while settings were read; set it to &quot;%3&quot;. (%4)</source>
+        <translation>%1：設定の読み取り中に %2 を元に戻せませんでした。「%3」に設定してください。（%4）</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::Frame</name>
@@ -262,6 +285,10 @@
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
         <translation>%1：%3枚中%2枚の画像が転送中に破損したため、破棄しました（欠落パケット数：%4）。パケットサイズを大きくするか、パケット遅延を設定してください。</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
+        <translation>%1：%3枚中%2枚の画像は、このコンピューターの処理が追いつかなかったため、破棄しました。フレームレートを下げるか、画像を小さくしてください。</translation>
     </message>
 </context>
 <context>
@@ -1054,6 +1081,10 @@ Do you want to close them and use the settings?</source>
     <message>
         <source>%1 can no longer be found.</source>
         <translation>%1 が見つからなくなりました。</translation>
+    </message>
+    <message>
+        <source>There are several cameras &quot;%1&quot;; select one in the list.</source>
+        <translation>カメラ「%1」が複数あります。リストからカメラを選択してください。</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,13 @@
     </message>
 </context>
 <context>
+    <name>Cameras::GenICam::CameraFinder</name>
+    <message>
+        <source>The search for cameras failed (%1). It is repeated soon.</source>
+        <translation>카메라 검색에 실패했습니다(%1). 곧 다시 시도합니다.</translation>
+    </message>
+</context>
+<context>
     <name>Cameras::GenICam::Device</name>
     <message>
         <source>The description of the camera &quot;%1&quot; cannot be used (%2).</source>
@@ -87,6 +94,18 @@
     <message>
         <source>the camera does not answer at present</source>
         <translation>카메라가 현재 응답하지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1: the camera does not take packets of %2 bytes, as the settings want them; it uses packets of %3 bytes.</source>
+        <translation>%1: 카메라가 설정된 %2바이트 패킷을 지원하지 않아 %3바이트 패킷을 사용합니다.</translation>
+    </message>
+    <message>
+        <source>the camera refuses it</source>
+        <translation>카메라가 거부했습니다</translation>
+    </message>
+    <message>
+        <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
+        <translation>이 프로그램의 통신이 너무 오랫동안 도달하지 않아 카메라가 더 이상 명령을 받지 않습니다. 카메라를 다시 여십시오</translation>
     </message>
 </context>
 <context>
@@ -222,6 +241,10 @@
         <source>skipped, as %1 could not be set</source>
         <translation>%1 기능을 설정하지 못하여 건너뛰었습니다</translation>
     </message>
+    <message>
+        <source>%1: %2 could not be put back while settings were read; set it to &quot;%3&quot;. (%4)</source>
+        <translation>%1: 설정을 읽는 중에 %2을(를) 되돌리지 못했습니다. &quot;%3&quot;(으)로 설정하십시오. (%4)</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::Frame</name>
@@ -262,6 +285,10 @@
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
         <translation>%1: 이미지 %3장 중 %2장이 전송 중에 손상되어 제외되었습니다(누락된 패킷 %4개). 패킷 크기를 늘리거나 패킷 지연을 설정하십시오.</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
+        <translation>%1: 이 컴퓨터의 처리가 따라가지 못해 이미지 %3장 중 %2장이 제외되었습니다. 프레임 속도를 낮추거나 이미지 크기를 줄이십시오.</translation>
     </message>
 </context>
 <context>
@@ -1054,6 +1081,10 @@ Do you want to close them and use the settings?</source>
     <message>
         <source>%1 can no longer be found.</source>
         <translation>%1 카메라를 더 이상 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>There are several cameras &quot;%1&quot;; select one in the list.</source>
+        <translation>&quot;%1&quot; 카메라가 여러 대 있습니다. 목록에서 카메라를 선택하십시오.</translation>
     </message>
 </context>
 <context>

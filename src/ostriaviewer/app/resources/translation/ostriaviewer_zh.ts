@@ -59,6 +59,13 @@
     </message>
 </context>
 <context>
+    <name>Cameras::GenICam::CameraFinder</name>
+    <message>
+        <source>The search for cameras failed (%1). It is repeated soon.</source>
+        <translation>搜索相机失败（%1）。稍后将重试。</translation>
+    </message>
+</context>
+<context>
     <name>Cameras::GenICam::Device</name>
     <message>
         <source>The description of the camera &quot;%1&quot; cannot be used (%2).</source>
@@ -87,6 +94,18 @@
     <message>
         <source>the camera does not answer at present</source>
         <translation>相机当前没有响应</translation>
+    </message>
+    <message>
+        <source>%1: the camera does not take packets of %2 bytes, as the settings want them; it uses packets of %3 bytes.</source>
+        <translation>%1：相机不支持设置的 %2 字节数据包，将使用 %3 字节的数据包。</translation>
+    </message>
+    <message>
+        <source>the camera refuses it</source>
+        <translation>相机拒绝了该操作</translation>
+    </message>
+    <message>
+        <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
+        <translation>相机过久未收到本程序的通信，不再接受其控制；请重新打开相机</translation>
     </message>
 </context>
 <context>
@@ -222,6 +241,10 @@
         <source>skipped, as %1 could not be set</source>
         <translation>无法设置 %1，已跳过</translation>
     </message>
+    <message>
+        <source>%1: %2 could not be put back while settings were read; set it to &quot;%3&quot;. (%4)</source>
+        <translation>%1：读取设置时无法恢复 %2；请将其设置为“%3”。（%4）</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::Frame</name>
@@ -262,6 +285,10 @@
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
         <translation>%1：%3 帧图像中有 %2 帧在传输中损坏并被丢弃（缺少 %4 个数据包）。请增大数据包大小或设置数据包延迟。</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
+        <translation>%1：%3 帧图像中有 %2 帧因本计算机来不及接收而被丢弃。请降低帧率或减小图像尺寸。</translation>
     </message>
 </context>
 <context>
@@ -1054,6 +1081,10 @@ Do you want to close them and use the settings?</source>
     <message>
         <source>%1 can no longer be found.</source>
         <translation>已无法检测到 %1。</translation>
+    </message>
+    <message>
+        <source>There are several cameras &quot;%1&quot;; select one in the list.</source>
+        <translation>有多台相机“%1”，请在列表中选择相机。</translation>
     </message>
 </context>
 <context>

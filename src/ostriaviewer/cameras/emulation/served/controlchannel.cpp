@@ -17,6 +17,9 @@ using Gvcp::Status;
 
 constexpr std::uint32_t controlBits = 0x3; // control, exclusive control
 constexpr std::uint32_t testPacketBit = 0x80000000;
+constexpr std::uint16_t longestAnswer = 65000;
+constexpr std::uint32_t packetSizeBits = 0xffff;
+constexpr std::uint32_t largestPacket = 9000; // as most networks do
 
 /// What writes are answered with: how many were done.
 Bytes writeAnswer(std::size_t count)
@@ -25,6 +28,12 @@ Bytes writeAnswer(std::size_t count)
     Gvcp::append16(bytes, 0);
     Gvcp::append16(bytes, static_cast<std::uint16_t>(count));
     return bytes;
+}
+
+std::uint32_t limitedPacketSize(std::uint32_t value)
+{
+    const std::uint32_t size = std::min(value & packetSizeBits, largestPacket);
+    return (value & ~packetSizeBits) | size;
 }
 
 } // namespace
@@ -127,6 +136,9 @@ ControlChannel::Outcome ControlChannel::readMemory(const Bytes& payload) const
     Outcome outcome;
     outcome.payload.assign(payload.begin(), payload.begin() + 4);
     if (m_memory.holds(address, size)) {
+        // With its header it would not fit into a datagram.
+        if (size > longestAnswer)
+            return {Status::InvalidParameter, {}};
         const Bytes bytes = m_memory.read(address, size);
         outcome.payload.insert(outcome.payload.end(), bytes.begin(), bytes.end());
         return outcome;
@@ -182,7 +194,8 @@ Status ControlChannel::writeRegister(std::uint32_t address, std::uint32_t value,
         return changeControl(value, client);
     if (!isController(client))
         return Status::AccessDenied;
-    m_memory.set(address, value);
+    m_memory.set(address,
+                 address == BootstrapMemory::packetSize ? limitedPacketSize(value) : value);
     updateTarget();
     if (address == BootstrapMemory::packetSize && (value & testPacketBit) != 0)
         m_sender->sendTestPacket();

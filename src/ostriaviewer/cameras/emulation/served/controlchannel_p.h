@@ -25,6 +25,9 @@ public:
     /// Takes the control away from a client that is not heard of any more.
     void checkHeartbeat();
 
+    /// Takes the control away at once.
+    void forgetController() { endControl(); }
+
     /// Thread-safe.
     const Gvcp::Bytes& discoveryAnswer() const { return m_discoveryAnswer; }
 

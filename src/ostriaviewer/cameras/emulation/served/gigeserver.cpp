@@ -2,12 +2,11 @@
 // Serves a camera of this program as a GigE Vision device.
 #include "gigeserver.h"
 
+#include "cameraaddress.h"
 #include "controlchannel_p.h"
 #include "udpsocket.h"
 
-#include <array>
 #include <atomic>
-#include <cstdio>
 #include <random>
 #include <stdexcept>
 #include <thread>
@@ -21,17 +20,10 @@ constexpr std::uint32_t everybody = 0xffffffff;
 
 std::uint32_t parseAddress(const std::string& text)
 {
-    std::array<unsigned, 4> parts{};
-    char rest = 0;
-    const int count = std::sscanf(text.c_str(), "%u.%u.%u.%u%c", &parts[0], &parts[1], &parts[2],
-                                  &parts[3], &rest);
-    std::uint32_t address = 0;
-    for (const unsigned part : parts) {
-        if (count != 4 || part > 255)
-            throw std::runtime_error("\"" + text + "\" is no IPv4 address");
-        address = address << 8 | part;
-    }
-    return address;
+    const auto address = GenICam::addressNumber(QString::fromStdString(text));
+    if (!address)
+        throw std::runtime_error("\"" + text + "\" is no IPv4 address of one device");
+    return *address;
 }
 
 std::shared_ptr<UdpSocket> openSocket(const std::string& address)
@@ -86,12 +78,15 @@ public:
 
     FrameSender& sender() { return *m_sender; }
     void loseControlPackets(double share) { m_controlLoss = share; }
+    void forgetController() { m_isToForget = true; }
 
 private:
     void answerRequests()
     {
         while (!m_isEnding) {
             const auto datagram = m_socket->receive(pollTime);
+            if (m_isToForget.exchange(false))
+                m_channel.forgetController();
             if (datagram && !isLost()) {
                 const Gvcp::Bytes answer = m_channel.handle(datagram->bytes, datagram->sender);
                 if (!answer.empty() && !isLost())
@@ -127,6 +122,7 @@ private:
     ControlChannel m_channel;
     std::atomic<bool> m_isEnding = false;
     std::atomic<double> m_controlLoss = 0.0;
+    std::atomic<bool> m_isToForget = false;
     std::minstd_rand m_chance; // of the thread that answers requests
     std::thread m_control;
     std::thread m_discovery;
@@ -141,6 +137,11 @@ GigeServer::~GigeServer() = default;
 void GigeServer::loseControlPackets(double share)
 {
     m_worker->loseControlPackets(share);
+}
+
+void GigeServer::forgetController()
+{
+    m_worker->forgetController();
 }
 
 void GigeServer::losePackets(double share)

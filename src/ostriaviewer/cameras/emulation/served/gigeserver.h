@@ -30,6 +30,10 @@ public:
     /// Lets that share of the requests vanish, and of the answers to the others, from 0 to 1.
     void loseControlPackets(double share);
 
+    /// Behaves from the next request on as if the client that has control had not been heard for
+    /// too long.
+    void forgetController();
+
 private:
     class Worker;
     const std::unique_ptr<Worker> m_worker;

@@ -29,7 +29,7 @@ public:
 
     AccessQueue();
 
-    /// As finish.
+    /// Abandons what is left, and waits as finish does.
     ~AccessQueue();
     AccessQueue(const AccessQueue&) = delete;
     AccessQueue& operator=(const AccessQueue&) = delete;

@@ -35,6 +35,9 @@ public:
     /// Lets the camera end, and puts back what begin has changed.
     void finish() noexcept { m_features->stop(); }
 
+    /// What may be left to be put back; holds neither device nor stream.
+    std::shared_ptr<const AcquisitionFeatures> features() const { return m_features; }
+
     /// Whether images come until the end, which is not there yet.
     bool isGrabbing() const;
 

@@ -38,6 +38,12 @@ bool canBeSet(const Core::ParameterCollection::IEnumerationParameter& mode, cons
 
 } // namespace
 
+QString AcquisitionFeatures::notPutBack(const QString& mode)
+{
+    return Texts::tr("The acquisition mode could not be put back; set AcquisitionMode to \"%1\".")
+        .arg(mode);
+}
+
 AcquisitionFeatures::AcquisitionFeatures(
     std::shared_ptr<NodeMap> nodeMap, Core::ParameterCollection::ParameterCollectionPtr parameters)
     : m_nodeMap(std::move(nodeMap))
@@ -67,8 +73,9 @@ void AcquisitionFeatures::setMode(bool single)
     const QString present = mode->value();
     if (present == wanted)
         return;
-    mode->setValue(wanted);
+    // A write that fails may have been done.
     m_previousMode = present;
+    mode->setValue(wanted);
 }
 
 std::size_t AcquisitionFeatures::payloadSize() const
@@ -110,7 +117,9 @@ void AcquisitionFeatures::restoreMode()
 {
     if (m_previousMode.isEmpty())
         return;
-    m_parameters->enumerationParameter(modeName())->setValue(m_previousMode);
+    const auto mode = m_parameters->enumerationParameter(modeName());
+    if (mode->value() != m_previousMode)
+        mode->setValue(m_previousMode);
     m_previousMode.clear();
 }
 
@@ -125,6 +134,19 @@ void AcquisitionFeatures::tryStep(const QString& what, const Step& step) noexcep
             QStringLiteral("%1: %2 (%3)")
                 .arg(m_nodeMap->d().camera(), what, QString::fromUtf8(error.what())));
     }
+}
+
+QString AcquisitionFeatures::owedMode() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_previousMode;
+}
+
+void AcquisitionFeatures::takeOver(const AcquisitionFeatures& lost)
+{
+    const std::scoped_lock lock(m_mutex, lost.m_mutex);
+    m_isStarted = lost.m_isStarted;
+    m_previousMode = lost.m_previousMode;
 }
 
 void AcquisitionFeatures::startAgain() noexcept
@@ -151,9 +173,7 @@ void AcquisitionFeatures::stop() noexcept
                 [this] { execute("AcquisitionStop"); });
         tryStep(Texts::tr("The camera's features stay locked."), [this] { lockFeatures(false); });
     }
-    tryStep(Texts::tr("The acquisition mode could not be put back; set AcquisitionMode to \"%1\".")
-                .arg(m_previousMode),
-            [this] { restoreMode(); });
+    tryStep(notPutBack(m_previousMode), [this] { restoreMode(); });
 }
 
 } // namespace Cameras::GenICam

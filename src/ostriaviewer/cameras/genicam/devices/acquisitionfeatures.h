@@ -27,7 +27,7 @@ public:
     AcquisitionFeatures& operator=(const AcquisitionFeatures&) = delete;
 
     /// Puts the camera into the mode in which it sends one image, or goes on sending.
-    /// \throws ::GenICam::RuntimeException  the camera refuses; nothing has changed then
+    /// \throws ::GenICam::RuntimeException  the camera refuses; the end is to follow
     void prepare(bool single);
 
     /// Bytes of a frame with the present settings.
@@ -47,6 +47,17 @@ public:
     /// nothing.
     void stop() noexcept;
 
+    /// The mode that a lost camera was in before prepare, and has not got back; empty if there is
+    /// none.
+    QString owedMode() const;
+
+    /// What people are told of such a mode.
+    static QString notPutBack(const QString& mode);
+
+    /// Takes over what a camera that was lost is to get back when it is there again, by stop.
+    /// \param lost  of another node map of the same camera
+    void takeOver(const AcquisitionFeatures& lost);
+
 private:
     void execute(const char* command);
     void lockFeatures(bool locked);
@@ -58,7 +69,7 @@ private:
     const std::shared_ptr<NodeMap> m_nodeMap;
     const Core::ParameterCollection::ParameterCollectionPtr m_parameters;
 
-    std::mutex m_mutex; // guards all below
+    mutable std::mutex m_mutex; // guards all below
     bool m_isStarted = false;
     QString m_previousMode; // empty: it is not to be put back
 };

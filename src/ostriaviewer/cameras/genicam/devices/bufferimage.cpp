@@ -3,6 +3,7 @@
 #include "bufferimage_p.h"
 
 #include "pixeltype.h"
+#include "stride.h"
 
 #include <arv.h>
 
@@ -37,13 +38,16 @@ Ostria::COstriaImage copyImage(ArvBuffer* buffer, Ostria::PixelType type)
     gint paddingX = 0;
     gint paddingY = 0;
     arv_buffer_get_image_padding(buffer, &paddingX, &paddingY);
-    Ostria::COstriaImage image(type, arv_buffer_get_image_width(buffer),
-                               arv_buffer_get_image_height(buffer),
-                               static_cast<std::size_t>(paddingX));
+    const int width = arv_buffer_get_image_width(buffer);
+    const int height = arv_buffer_get_image_height(buffer);
+    const std::size_t wanted = Ostria::ComputeImageSize(
+        Ostria::ComputeStride(type, width, static_cast<std::size_t>(paddingX)), height);
     std::size_t size = 0;
     const void* data = arv_buffer_get_image_data(buffer, &size);
-    if (!data || size < image.size())
+    // A camera may say any size; memory is taken for what it has sent alone.
+    if (!data || size < wanted)
         throw std::length_error(Texts::tr("The frame holds less than its image.").toStdString());
+    Ostria::COstriaImage image(type, width, height, static_cast<std::size_t>(paddingX));
     std::memcpy(image.writableData(), data, image.size());
     return image;
 }

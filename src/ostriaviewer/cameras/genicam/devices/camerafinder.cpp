@@ -4,8 +4,11 @@
 
 #include "aside_p.h"
 #include "discovery.h"
+#include "logging.h"
 
+#include <exception>
 #include <mutex>
+#include <utility>
 
 namespace Cameras::GenICam {
 
@@ -16,8 +19,22 @@ struct CameraFinder::Return
     CameraFinder* finder; ///< null when it has gone
 };
 
+namespace {
+
+QVector<CameraIdentity> findEverywhere(const TransportSettings& settings)
+{
+    return findNetworkCameras(settings) + findUsbCameras();
+}
+
+} // namespace
+
 CameraFinder::CameraFinder(QObject* parent)
+    : CameraFinder(findEverywhere, parent)
+{}
+
+CameraFinder::CameraFinder(Search search, QObject* parent)
     : QObject(parent)
+    , m_search(std::move(search))
     , m_return(std::make_shared<Return>())
 {
     m_return->finder = this;
@@ -34,8 +51,16 @@ void CameraFinder::start(const TransportSettings& settings)
     if (m_isLooking)
         return;
     m_isLooking = true;
-    runAside([way = m_return, settings] {
-        const QVector<CameraIdentity> cameras = findNetworkCameras(settings) + findUsbCameras();
+    runAside([way = m_return, search = m_search, settings] {
+        QVector<CameraIdentity> cameras;
+        try {
+            cameras = search(settings);
+        } catch (const std::exception& error) {
+            Core::Logging::createLogEntry(
+                Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
+                tr("The search for cameras failed (%1). It is repeated soon.")
+                    .arg(QString::fromUtf8(error.what())));
+        }
         const std::lock_guard lock(way->mutex);
         if (!way->finder)
             return;

@@ -31,6 +31,15 @@ inline bool operator==(const CameraIdentity& one, const CameraIdentity& other)
            one.serialNumber == other.serialNumber && one.isOnNetwork == other.isOnNetwork;
 }
 
+/// What a camera calls itself, which may be anything, in one line that can be shown anywhere.
+inline QString shownName(const QString& name)
+{
+    QString shown;
+    for (const QChar character : name.simplified())
+        shown.append(character.isPrint() || character.isSurrogate() ? character : QChar(0xFFFD));
+    return shown;
+}
+
 /// A network camera of which only the address is known.
 inline CameraIdentity cameraAt(const QString& address)
 {

@@ -2,6 +2,7 @@
 // Whether a network camera is there.
 #pragma once
 
+#include "gvcpquestion_p.h"
 #include "udpsocket.h"
 
 #include <QString>
@@ -28,6 +29,7 @@ public:
 private:
     std::optional<UdpAddress> m_camera;
     std::optional<UdpSocket> m_socket;
+    GvcpQuestion m_question{GvcpQuestion::About::Identity};
 };
 
 } // namespace Cameras::GenICam

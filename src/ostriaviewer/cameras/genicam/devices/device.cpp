@@ -7,11 +7,15 @@
 #include "devicewatch_p.h"
 #include "genicamexception.h"
 #include "gerrorslot_p.h"
+#include "gvcpquestion_p.h"
 #include "librarylog_p.h"
 #include "libraryparsing_p.h"
 #include "patience.h"
 
 #include <arv.h>
+
+// After Aravis, as GLib names a member "signals", which Qt takes for its own.
+#include "logging.h"
 
 #include <QCoreApplication>
 
@@ -29,8 +33,6 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Cameras::GenICam::Device)
 };
 
-constexpr guint16 controlPort = 3956;
-
 [[noreturn]] void fail(const QString& text)
 {
     throw ::GenICam::RuntimeException(text.toStdString());
@@ -44,7 +46,7 @@ GInetAddress* ownAddressTowards(GInetAddress* camera)
                                    G_SOCKET_PROTOCOL_UDP, error);
     if (!socket)
         return nullptr;
-    GSocketAddress* target = g_inet_socket_address_new(camera, controlPort);
+    GSocketAddress* target = g_inet_socket_address_new(camera, gvcpPort);
     GInetAddress* own = nullptr;
     GErrorSlot wayError;
     if (g_socket_connect(socket, target, nullptr, wayError)) {
@@ -86,7 +88,23 @@ ArvDevice* openDevice(const QString& id, GErrorSlot& error)
     return device;
 }
 
-void applySettings(ArvDevice* device, const TransportSettings& settings)
+/// Images still come where the camera wants another size, but not as they were asked for.
+void tellPacketSize(ArvGvDevice* device, const QString& id, int wanted)
+{
+    GErrorSlot error;
+    const auto kept = static_cast<int>(arv_gv_device_get_packet_size(device, error));
+    if (error.isSet() || kept == wanted)
+        return;
+    Core::Logging::createLogEntry(
+        Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
+        Texts::tr("%1: the camera does not take packets of %2 bytes, as the settings want them; it "
+                  "uses packets of %3 bytes.")
+            .arg(id)
+            .arg(wanted)
+            .arg(kept));
+}
+
+void applySettings(ArvDevice* device, const QString& id, const TransportSettings& settings)
 {
     if (!ARV_IS_GV_DEVICE(device))
         return;
@@ -95,6 +113,7 @@ void applySettings(ArvDevice* device, const TransportSettings& settings)
         arv_gv_device_set_packet_size_adjustment(network, ARV_GV_PACKET_SIZE_ADJUSTMENT_NEVER);
         GErrorSlot error;
         arv_gv_device_set_packet_size(network, settings.packetSize, error);
+        tellPacketSize(network, id, settings.packetSize);
     } else {
         arv_gv_device_set_packet_size_adjustment(network,
                                                  ARV_GV_PACKET_SIZE_ADJUSTMENT_ON_FAILURE_ONCE);
@@ -120,7 +139,7 @@ std::shared_ptr<Device> Device::open(const QString& id, const TransportSettings&
         g_object_unref(device);
         fail(Texts::tr("The camera is being used by another application."));
     }
-    applySettings(device, settings);
+    applySettings(device, id, settings);
     std::shared_ptr<Device> result(new Device(device, id));
     result->watch();
     return result;
@@ -173,13 +192,43 @@ void Device::onControlLost(ArvDevice* /*device*/, const std::weak_ptr<Device>* w
         self->becomeLost();
 }
 
-void Device::becomeLost()
+void Device::becomeLost(const QString& reason)
 {
     const std::lock_guard lock(m_lostMutex);
+    if (!m_isLost)
+        m_lossReason = reason;
     m_isLost = true;
     m_accesses->abandon();
     if (const std::function<void()> handler = std::exchange(m_lostHandler, {}))
         handler();
+}
+
+QString Device::lossReason() const
+{
+    const std::lock_guard lock(m_lostMutex);
+    return m_lossReason.isEmpty() ? Texts::tr("the connection to the camera is lost")
+                                  : m_lossReason;
+}
+
+// A camera that has not heard from its controller in time, as on a bad line, obeys nobody until it
+// is taken anew; the library would notice that a second later.
+QString Device::denial(ArvDevice* device)
+{
+    constexpr guint64 controlPrivilege = 0x0a00;
+    constexpr guint32 controlBits = 0x3;
+    GErrorSlot error;
+    guint32 privilege = 0;
+    const bool isControlled =
+        !ARV_IS_GV_DEVICE(device) ||
+        arv_device_read_register(device, controlPrivilege, &privilege, error) == FALSE ||
+        (privilege & controlBits) != 0;
+    if (isControlled)
+        return Texts::tr("the camera refuses it");
+    const QString reason =
+        Texts::tr("the camera has not heard from this program for too long and does not obey it "
+                  "any more; open the camera again");
+    becomeLost(reason);
+    return reason;
 }
 
 void Device::setLostHandler(std::function<void()> handler)
@@ -237,18 +286,20 @@ void Device::access(Access access, Repetition repetition)
             for (; isTimeOver && self && attempts > 0; --attempts) {
                 GErrorSlot error;
                 answer->hasSucceeded = access(device, error);
-                answer->reason = error.reason();
+                answer->reason = error.isAccessDenied() ? self->denial(device) : error.reason();
                 isTimeOver = error.isTimeout();
                 if (self->m_accesses->isAbandoned())
                     return;
             }
             // The library has asked several times before it says that time is over.
-            if (self && isTimeOver)
+            if (self && isTimeOver) {
                 self->becomeLost();
+                answer->reason = self->lossReason();
+            }
         },
         Patience::ofThisThread());
     if (outcome == AccessQueue::Outcome::Abandoned)
-        fail(Texts::tr("the connection to the camera is lost"));
+        fail(lossReason());
     if (outcome == AccessQueue::Outcome::Late)
         fail(Texts::tr("the camera does not answer at present"));
     if (!answer->hasSucceeded)

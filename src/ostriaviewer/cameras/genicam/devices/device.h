@@ -55,13 +55,16 @@ public:
 
     void read(std::uint64_t address, void* data, std::size_t size) override;
     void write(std::uint64_t address, const void* data, std::size_t size) override;
+    bool isConnected() const override { return !isLost(); }
 
 private:
     Device(ArvDevice* device, QString id);
 
     void watch();
     static void onControlLost(ArvDevice* device, const std::weak_ptr<Device>* weak);
-    void becomeLost();
+    void becomeLost(const QString& reason = {});
+    QString lossReason() const;
+    QString denial(ArvDevice* device);
 
     /// Works on the device; returns whether that succeeded.
     using Access = std::function<bool(ArvDevice* device, GErrorSlot& error)>;
@@ -75,6 +78,7 @@ private:
     mutable std::mutex m_lostMutex; // guards all below; taken before the accesses' own
     std::function<void()> m_lostHandler;
     bool m_isLost = false;
+    QString m_lossReason; // empty: it does not answer
 };
 
 } // namespace Cameras::GenICam

@@ -2,6 +2,7 @@
 // Notices that a network camera does not answer any more.
 #include "devicewatch_p.h"
 
+#include "gvcpquestion_p.h"
 #include "udpsocket.h"
 
 #include <arv.h>
@@ -9,12 +10,9 @@
 #include <chrono>
 #include <exception>
 #include <utility>
-#include <vector>
 
 namespace Cameras::GenICam {
 namespace {
-
-constexpr std::uint16_t controlPort = 3956;
 
 UdpAddress addressOf(ArvDevice* device)
 {
@@ -24,26 +22,16 @@ UdpAddress addressOf(ArvDevice* device)
     std::uint32_t number = 0;
     for (int i = 0; i < 4; ++i)
         number = number << 8 | bytes[i];
-    return {number, controlPort};
+    return {number, gvcpPort};
 }
 
-/// Reads the version register, which every client may. The library's own accesses wait for each
-/// other, so that a lost camera would be noticed after several of them alone. Many questions follow
-/// each other, as on a bad line most of them get lost.
-bool answers(UdpSocket& socket, const UdpAddress& camera)
+/// The library's own accesses wait for each other, so that a lost camera would be noticed after
+/// several of them alone.
+bool answers(GvcpQuestion& question, UdpSocket& socket, const UdpAddress& camera)
 {
     constexpr int attempts = 24;
     constexpr std::chrono::milliseconds patience(100);
-    const std::vector<std::uint8_t> request = {0x42, 0x01, 0, 0x80, 0, 4, 0x4f, 0x53, 0, 0, 0, 0};
-    // What came late says nothing about now.
-    while (socket.receive(std::chrono::milliseconds(0))) {
-    }
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        socket.send(request, camera);
-        if (socket.receive(patience))
-            return true;
-    }
-    return false;
+    return question.isAnswered(socket, camera, attempts, patience);
 }
 
 } // namespace
@@ -83,10 +71,11 @@ void DeviceWatch::run(const UdpAddress& camera, const std::function<void()>& los
 {
     try {
         UdpSocket socket({0, 0}, false);
-        if (!answers(socket, camera))
+        GvcpQuestion question(GvcpQuestion::About::Version);
+        if (!answers(question, socket, camera))
             return;
         while (!isEndingAfterPause()) {
-            if (answers(socket, camera))
+            if (answers(question, socket, camera))
                 continue;
             lost();
             return;

@@ -2,6 +2,9 @@
 // Looks for cameras.
 #include "discovery.h"
 
+#include "cameraaddress.h"
+#include "gvcpquestion_p.h"
+#include "libraryparsing_p.h"
 #include "udpsocket.h"
 
 #include <arv.h>
@@ -22,7 +25,6 @@ using Clock = std::chrono::steady_clock;
 using Bytes = std::vector<std::uint8_t>;
 using Sockets = std::vector<std::unique_ptr<UdpSocket>>;
 
-constexpr std::uint16_t controlPort = 3956;
 constexpr std::uint32_t everybody = 0xffffffff;
 constexpr std::uint16_t requestId = 0x4f53;
 
@@ -37,8 +39,8 @@ bool isWanted(const QNetworkInterface& interface, const TransportSettings& setti
 
 void ask(UdpSocket& socket, std::uint32_t address)
 {
-    const Bytes request = {0x42, 0x11, 0, 2, 0, 0, requestId >> 8, requestId & 0xff};
-    socket.send(request, {address, controlPort});
+    socket.send(GvcpQuestion::request(GvcpQuestion::About::Identity, requestId),
+                {address, gvcpPort});
 }
 
 /// A camera whose address does not belong to the network hears the first broadcast alone.
@@ -74,12 +76,12 @@ void askEverywhere(const TransportSettings& settings, Sockets& sockets)
 void askAtAddresses(const TransportSettings& settings, Sockets& sockets)
 {
     for (const QString& text : settings.addresses) {
-        const QHostAddress address(text);
-        if (address.protocol() != QAbstractSocket::IPv4Protocol)
+        const auto address = addressNumber(text);
+        if (!address)
             continue;
         try {
             auto socket = std::make_unique<UdpSocket>(UdpAddress{0, 0}, false);
-            ask(*socket, address.toIPv4Address());
+            ask(*socket, *address);
             sockets.push_back(std::move(socket));
         } catch (const std::runtime_error&) {
             continue; // no way leads there
@@ -91,9 +93,8 @@ QString textAt(const Bytes& bytes, std::size_t offset, std::size_t room)
 {
     const auto first = bytes.begin() + static_cast<std::ptrdiff_t>(offset);
     const auto end = std::find(first, first + static_cast<std::ptrdiff_t>(room), 0);
-    return QString::fromUtf8(QByteArray(reinterpret_cast<const char*>(bytes.data() + offset),
-                                        static_cast<int>(end - first)))
-        .trimmed();
+    return shownName(QString::fromUtf8(QByteArray(
+        reinterpret_cast<const char*>(bytes.data() + offset), static_cast<int>(end - first))));
 }
 
 /// Adds the camera that an answer tells of, if it is an answer.
@@ -134,18 +135,16 @@ QVector<CameraIdentity> findNetworkCameras(const TransportSettings& settings,
     return cameras;
 }
 
-// The library's list is one for the whole program.
 QVector<CameraIdentity> findUsbCameras()
 {
-    static std::mutex mutex;
-    const std::lock_guard lock(mutex);
+    const std::lock_guard lock(libraryParsing());
     arv_disable_interface("GigEVision");
     arv_update_device_list();
     QVector<CameraIdentity> cameras;
     for (unsigned index = 0; index < arv_get_n_devices(); ++index)
         cameras.append({QString::fromUtf8(arv_get_device_id(index)),
-                        QString::fromUtf8(arv_get_device_model(index)),
-                        QString::fromUtf8(arv_get_device_serial_nbr(index)), false});
+                        shownName(QString::fromUtf8(arv_get_device_model(index))),
+                        shownName(QString::fromUtf8(arv_get_device_serial_nbr(index))), false});
     return cameras;
 }
 

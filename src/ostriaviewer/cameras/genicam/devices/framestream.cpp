@@ -204,7 +204,7 @@ FrameStream::~FrameStream()
     }
     if (isDelivering || isOwnThread()) {
         m_state->release();
-        m_thread.detach();
+        joinAside(std::move(m_thread));
     } else {
         m_thread.join();
     }

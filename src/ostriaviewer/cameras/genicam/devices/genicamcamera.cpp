@@ -52,10 +52,10 @@ std::optional<std::chrono::milliseconds> stepPatience()
     return {};
 }
 
-void log(const QString& text)
+void log(const QString& text, Core::Logging::ELogLevel level = Core::Logging::Warning)
 {
     static const auto category = Core::Logging::getCatId(QStringLiteral("Cameras"));
-    Core::Logging::createLogEntry(Core::Logging::Warning, category, text);
+    Core::Logging::createLogEntry(level, category, text);
 }
 
 QString noAnswer(const QString& id)
@@ -65,13 +65,13 @@ QString noAnswer(const QString& id)
         .arg(id, QString());
 }
 
-/// The text of a feature; empty if it cannot be read.
+/// The text of a feature that names something; empty if it cannot be read.
 QString textOf(NodeMap& nodeMap, const char* name)
 {
     try {
         const ReadLock lock(nodeMap.d());
         const Feature feature = Feature::find(nodeMap.d(), QString::fromLatin1(name));
-        return feature.kind() == FeatureKind::Text ? featureText(feature) : QString();
+        return feature.kind() == FeatureKind::Text ? shownName(featureText(feature)) : QString();
     } catch (const std::exception&) {
         return {};
     }
@@ -90,9 +90,13 @@ GenicamCamera::GenicamCamera(const CameraIdentity& identity, const TransportSett
     , m_identity(identity)
 {}
 
+// A camera that was lost and has not come back is not as it was.
 GenicamCamera::~GenicamCamera()
 {
     close();
+    const QString mode = m_unfinished ? m_unfinished->owedMode() : QString();
+    if (!mode.isEmpty())
+        log(QStringLiteral("%1: %2").arg(displayName(), AcquisitionFeatures::notPutBack(mode)));
 }
 
 QString GenicamCamera::displayName() const
@@ -123,6 +127,12 @@ std::shared_ptr<Acquisition> GenicamCamera::acquisition() const
 {
     const std::lock_guard lock(m_mutex);
     return m_acquisition;
+}
+
+std::shared_ptr<const AcquisitionFeatures> GenicamCamera::unfinished() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_unfinished;
 }
 
 QSharedPointer<GenicamCamera> GenicamCamera::strongSelf()
@@ -189,9 +199,13 @@ void GenicamCamera::carryOut(Opening& opening)
     {
         const std::lock_guard lock(m_mutex);
         opening.isDone = !opening.isGivenUp;
-        if (opening.isDone && opened) {
+        // A loss from now on finds the connection.
+        if (opened && opened->device->isLost())
+            error = noAnswer(m_identity.id);
+        else if (opening.isDone && opened) {
             opening.isNew = true;
             past = std::exchange(m_acquisition, {});
+            m_unfinished.reset();
             m_connection = std::exchange(opened, {});
         }
         if (opening.isDone)
@@ -227,8 +241,11 @@ std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connect()
                 self->lose(device);
         });
     });
-    if (result->device->isLost())
-        throw ::GenICam::RuntimeException(noAnswer(id).toStdString());
+    if (const auto lost = unfinished()) {
+        AcquisitionFeatures features(result->nodeMap, result->parameters);
+        features.takeOver(*lost);
+        features.stop();
+    }
     return result;
 }
 
@@ -314,6 +331,8 @@ void GenicamCamera::lose(const Device* device)
             return;
         lost = std::exchange(m_connection, {});
         running = std::exchange(m_acquisition, {});
+        if (running)
+            m_unfinished = running->features();
     }
     if (running)
         running->silence();
@@ -456,15 +475,24 @@ void GenicamCamera::carryOut(Beginning& beginning)
 void GenicamCamera::reportLosses(Acquisition& ended, const QString& name)
 {
     const StreamStatistics statistics = ended.statistics();
-    const std::uint64_t lost = statistics.damaged + statistics.overrun;
-    if (lost == 0 || !ended.mayReport())
+    const std::uint64_t all = statistics.damaged + statistics.overrun + statistics.delivered;
+    if (statistics.damaged + statistics.overrun == 0 || !ended.mayReport())
         return;
-    log(tr("%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). "
-           "Set a larger packet size or a packet delay.")
-            .arg(name)
-            .arg(lost)
-            .arg(lost + statistics.delivered)
-            .arg(statistics.missingPackets));
+    if (statistics.damaged > 0)
+        log(tr("%1: %2 of %3 images were damaged on their way and left out (%4 packets are "
+               "missing). Set a larger packet size or a packet delay.")
+                .arg(name)
+                .arg(statistics.damaged)
+                .arg(all)
+                .arg(statistics.missingPackets));
+    // Whoever wants the newest image alone misses nothing.
+    if (statistics.overrun > 0)
+        log(tr("%1: %2 of %3 images came faster than this computer takes them and were left out. "
+               "Set a lower frame rate or a smaller image.")
+                .arg(name)
+                .arg(statistics.overrun)
+                .arg(all),
+            Core::Logging::Information);
 }
 
 // The acquisition stays for its statistics.

@@ -19,14 +19,15 @@
 namespace Cameras::GenICam {
 
 class Acquisition;
+class AcquisitionFeatures;
 
 /// A GigE Vision or USB3 Vision camera of the host.
 ///
 /// It is asked for nothing before it is opened, and open takes control of it. When it does not
 /// answer any more it is closed, and the loss is announced, on a thread of its own or in a call of
-/// open that finds it first; open brings it back once it answers again. Images come on a thread of
-/// the camera's own; damaged ones are left out. After grabbing, the acquisition mode is as it was
-/// before.
+/// open that finds it first; open brings it back once it answers again, and then ends what was
+/// under way. Images come on a thread of the camera's own; damaged ones are left out. After
+/// grabbing, the acquisition mode is as it was before.
 ///
 /// What the camera is told to start, stop and close it happens in that order, and holds up the
 /// thread of the application object for less than half a second, another one until it is done; if
@@ -89,6 +90,7 @@ private:
     QSharedPointer<GenicamCamera> strongSelf();
     std::shared_ptr<Connection> connection() const;
     std::shared_ptr<Acquisition> acquisition() const;
+    std::shared_ptr<const AcquisitionFeatures> unfinished() const;
     bool isGrabbingNow() const; // with the mutex
     void waitWhileItAnswers(const StepQueue::StepPtr& step) const;
     std::pair<QString, TransportSettings> target() const;
@@ -109,6 +111,7 @@ private:
     CameraIdentity m_identity;
     std::shared_ptr<Connection> m_connection; // null while the camera is closed
     std::shared_ptr<Acquisition> m_acquisition;
+    std::shared_ptr<const AcquisitionFeatures> m_unfinished; // since the camera was lost
 };
 
 } // namespace Cameras::GenICam

@@ -18,7 +18,7 @@ class OneRegister final : public IServedDevice
 {
 public:
     ServedIdentity identity() const override { return {"Maker", "Model X", "1", "4711"}; }
-    std::string description() const override { return "<xml/>"; }
+    std::string description() const override { return xml; }
     void setReceiver(Receiver) override {}
     void stopAcquisition() override { ++stops; }
 
@@ -35,6 +35,7 @@ public:
     }
 
     Bytes value = Bytes(8);
+    std::string xml = "<xml/>";
     int writes = 0;
     int stops = 0;
 
@@ -194,4 +195,18 @@ TEST_F(ControlChannelTest, RefusesWrongAddressesAndSizes)
     EXPECT_EQ(status(request(0x84, {0, 1, 0, 0, 0, 0, 0, 4})), 0x8003);
     EXPECT_EQ(status(request(0x84, {0xff, 0xff, 0xff, 0xff, 0, 0, 0xff, 0xff})), 0x8003);
     EXPECT_EQ(status(request(0x86, {0, 1, 0, 0, 1, 2})), 0x8002);
+}
+
+// The description is longer than an answer can be, whose length has 16 bits.
+TEST_F(ControlChannelTest, RefusesToReadMoreThanAnAnswerHolds)
+{
+    const auto wordy = std::make_shared<OneRegister>();
+    wordy->xml = std::string(70000, 'x');
+    ControlChannel talking(wordy, std::make_shared<FrameSender>(nullptr), 0x7f000001);
+    const auto read = [&](std::uint8_t high, std::uint8_t low) {
+        return talking.handle({0x42, 1, 0, 0x84, 0, 8, 0, high, 1, 0, 0, 0, 0, 0, high, low},
+                              client);
+    };
+    EXPECT_EQ(status(read(0xff, 0xfc)), 0x8002);
+    EXPECT_EQ(read(0x02, 0x00).size(), 8U + 4U + 512U);
 }

@@ -26,18 +26,24 @@ TEST(FrameSender, EndsWhatIsUnderWayWhenItsTargetChanges)
     EXPECT_EQ(sent.wait_for(60s), std::future_status::ready);
 }
 
+// Leader, three packets with pixels, trailer. The target is told again behind the first.
 TEST(FrameSender, GoesOnWhereItsTargetStaysTheSame)
 {
+    constexpr std::uint16_t port = 40405;
+    Cameras::UdpSocket receiver({0x7f000001, port}, false);
     FrameSender sender(
         std::make_shared<Cameras::UdpSocket>(Cameras::UdpAddress{0x7f000001, 0}, false));
-    const FrameSender::Target target{0x7f000001, 9, 136, 1h};
+    const FrameSender::Target target{0x7f000001, port, 136, 50ms};
     sender.setTarget(target);
     auto sent = std::async(std::launch::async, [&sender] {
         sender.send(std::make_shared<Ostria::CGrabResult>(
             Ostria::COstriaImage(Ostria::PixelType::Mono8, 30, 10), 1));
     });
+    ASSERT_TRUE(receiver.receive(60s));
     sender.setTarget(target);
-    EXPECT_EQ(sent.wait_for(100ms), std::future_status::timeout);
-    sender.setTarget({});
     sent.wait();
+    int further = 0;
+    while (receiver.receive(0ms))
+        ++further;
+    EXPECT_EQ(further, 4);
 }
