@@ -84,6 +84,24 @@ TEST_F(CalibrationSequenceTest, WhatACameraSaysOfItselfIsToldOnceAndFailsNothing
         EXPECT_EQ(entry.text, QStringLiteral("a setting stays changed"));
 }
 
+TEST_F(CalibrationSequenceTest, AConnectionLostAtTheWriteBackEndsWithWhatHasFailedBefore)
+{
+    m_camera->features().change(QStringLiteral("LUTSelector"),
+                                [](FakeFeature& one) { one.refuses = true; });
+    int writtenBack = 0;
+    m_camera->features().beforeCall = [&](const QString& call) {
+        if (!call.startsWith(QLatin1String("load ")))
+            return;
+        ++writtenBack;
+        m_camera->loseConnection();
+        throw std::runtime_error("the line is dead");
+    };
+    EXPECT_EQ(run(), "unable to set neutral settings (LUTSelector refuses to be written)");
+    EXPECT_EQ(writtenBack, 1);
+    EXPECT_EQ(m_control.handles, 0);
+    EXPECT_FALSE(m_model.StopGrabbing()) << "the model is closed";
+}
+
 TEST_F(CalibrationSequenceTest, ExposureTimeAndGainAreWrittenBackBeforeTheyAreAdjusted)
 {
     run();
