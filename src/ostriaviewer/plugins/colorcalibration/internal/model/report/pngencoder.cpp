@@ -60,6 +60,7 @@ public:
     bool write(const QImage& pixels)
     {
         // Nothing that has a destructor may be made behind this line.
+        // NOLINTNEXTLINE(cert-err52-cpp): libpng has no other way
         if (!m_info || setjmp(png_jmpbuf(m_png)) != 0)
             return false;
         png_set_IHDR(m_png, m_info, static_cast<png_uint_32>(pixels.width()),
