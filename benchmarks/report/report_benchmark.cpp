@@ -105,6 +105,15 @@ void CalibratedPng(benchmark::State& state)
 }
 BENCHMARK(CalibratedPng)->Unit(benchmark::kMillisecond);
 
+/// The baseline of one image: what Qt writes.
+void CalibratedPngByQt(benchmark::State& state)
+{
+    Calibrated& all = calibrated();
+    for (auto _ : state)
+        all.after.save(all.folder.filePath("after.png"), "PNG", -1);
+}
+BENCHMARK(CalibratedPngByQt)->Unit(benchmark::kMillisecond);
+
 void OriginalPng(benchmark::State& state)
 {
     Calibrated& all = calibrated();

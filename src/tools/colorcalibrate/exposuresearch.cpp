@@ -9,6 +9,7 @@ namespace {
 
 constexpr int saturatedLevel = 250;
 constexpr int darkLevel = 48;
+constexpr int brightLevel = 128;
 
 // A level of 255 is 170 percent of the gray patch's goal.
 constexpr double saturatedHitRate = 165.0;
@@ -32,18 +33,21 @@ Light lightOf(const QImage& image)
     const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
     qint64 saturated = 0;
     qint64 lit = 0;
+    qint64 bright = 0;
     for (int y = 0; y < rgb.height(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(rgb.constScanLine(y));
         for (int x = 0; x < rgb.width(); ++x) {
             const int level = largestChannel(row[x]);
             saturated += level >= saturatedLevel ? 1 : 0;
             lit += level >= darkLevel ? 1 : 0;
+            bright += level >= brightLevel ? 1 : 0;
         }
     }
     const qint64 pixels = qint64{rgb.width()} * rgb.height();
     if (saturated * 5 > pixels)
         return Light::TooBright;
-    return lit * 20 < pixels ? Light::TooDark : Light::Usable;
+    // A small chart on black lights little of the image, but not all of that is dim.
+    return lit * 20 < pixels && bright * 200 < pixels ? Light::TooDark : Light::Usable;
 }
 
 Light lightOf(double hitRate)

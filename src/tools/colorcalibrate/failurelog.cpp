@@ -33,8 +33,9 @@ FailureLog::FailureLog()
         if (level < Core::Logging::Warning)
             return;
         const QMutexLocker lock(&kept->mutex);
-        kept->failures.append(withoutFunction(text));
-        if (kept->before && category == QLatin1String("Cameras"))
+        if (category != QLatin1String("Cameras"))
+            kept->failures.append(withoutFunction(text));
+        else if (kept->before)
             kept->before(level, category, text);
     };
     const QMutexLocker lock(&m_kept->mutex);

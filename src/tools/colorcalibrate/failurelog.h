@@ -11,8 +11,9 @@
 namespace ColorCalibrate {
 
 /// While it lives, log entries that tell of a failure are kept: the last one names the reason
-/// behind a step that has failed. What cameras say of themselves goes on to the sink before it,
-/// since a step that succeeds tells nobody. They may be nested. Thread-safe.
+/// behind a step that has failed. What cameras say of themselves is no step's failure: it goes on
+/// to the sink before this one, and is not kept, so that nobody is told of it twice. They may be
+/// nested. Thread-safe.
 class FailureLog
 {
 public:
@@ -24,7 +25,7 @@ public:
     /// Forgets what was kept.
     void clear();
 
-    /// All entries of level warning and above, without their functions.
+    /// All entries that were kept, without their functions.
     QStringList failures() const;
 
     /// The last of them, empty if there was none.

@@ -201,33 +201,56 @@ TEST_P(BrightnessInDimLight, InTheDarkEndsAtTheLimits)
     expectRestored();
 }
 
-TEST_P(BrightnessInDimLight, EndsWhereAParameterRefuses)
+TEST_P(BrightnessInDimLight, EndsWhereTheExposureTimeIsRefused)
 {
-    const bool isOld = m_host.isOldGeneration();
-    const QString gain = isOld ? QStringLiteral("GainRaw") : QStringLiteral("Gain");
-    const QString exposure =
-        isOld ? QStringLiteral("ExposureTimeAbs") : QStringLiteral("ExposureTime");
-    struct Case
-    {
-        QString refused;
-        int writesBefore;
-        const char* what;
-    };
+    const QString exposure = m_host.isOldGeneration() ? QStringLiteral("ExposureTimeAbs")
+                                                      : QStringLiteral("ExposureTime");
     dim(0.15);
-    for (const Case& one :
-         {Case{exposure, 0, "exposure time"}, Case{gain, 0, "gain"}, Case{gain, 1, "gain"}}) {
-        SCOPED_TRACE(one.refused.toStdString());
+    m_host.camera().refuseWrites(exposure);
+    const QStringList failures = failuresOfRun();
+    ASSERT_EQ(failures.size(), 3);
+    EXPECT_TRUE(failures.at(0).contains(exposure)) << failures.at(0).toStdString();
+    EXPECT_TRUE(
+        failures.at(2).contains(QLatin1String("The camera does not take the exposure time ")))
+        << failures.at(2).toStdString();
+    m_host.camera().refuseWrites(exposure, -1);
+    expectRestored();
+}
+
+// A tenth of a decibel above the lowest gain, which is refused: at the start, and in the pass that
+// sets the exposure time to its limit. What the exposure time lacks then needs the gain.
+TEST_P(BrightnessInDimLight, GoesToTheLimitOfExposureWhereTheGainIsRefused)
+{
+    const QString gain =
+        m_host.isOldGeneration() ? QStringLiteral("GainRaw") : QStringLiteral("Gain");
+    dim(0.15);
+    for (const int writesBefore : {0, 1}) {
+        SCOPED_TRACE(writesBefore);
         m_host.setExposure(20000.0);
         ASSERT_TRUE(m_host.model().SetGain(0.1));
-        m_host.camera().refuseWrites(one.refused, one.writesBefore);
+        m_host.camera().refuseWrites(gain, writesBefore);
         const QStringList failures = failuresOfRun();
-        ASSERT_EQ(failures.size(), 3);
-        EXPECT_TRUE(failures.at(0).contains(one.refused)) << failures.at(0).toStdString();
-        EXPECT_TRUE(failures.at(2).contains(
-            QStringLiteral("The camera does not take the %1 ").arg(QLatin1String(one.what))))
-            << failures.at(2).toStdString();
-        m_host.camera().refuseWrites(one.refused, -1);
+        EXPECT_EQ(m_host.model().GetExposureTime(), 100000.0);
+        ASSERT_GE(failures.size(), 3);
+        EXPECT_TRUE(failures.first().contains(gain)) << failures.first().toStdString();
+        EXPECT_TRUE(failures.last().contains(QLatin1String("The camera does not take the gain ")))
+            << failures.last().toStdString();
+        m_host.camera().refuseWrites(gain, -1);
     }
+    expectRestored();
+}
+
+TEST_P(BrightnessInDimLight, ReachesTheGoalByExposureTimeWhereTheGainIsRefused)
+{
+    dim(0.5);
+    ASSERT_TRUE(m_host.model().SetGain(0.1));
+    m_host.camera().refuseWrites(m_host.isOldGeneration() ? QStringLiteral("GainRaw")
+                                                          : QStringLiteral("Gain"));
+    failuresOfRun();
+    EXPECT_NEAR(level(), 150.0, 17.0);
+    EXPECT_EQ(m_host.model().GetGain(), 0.1);
+    m_host.camera().refuseWrites(
+        m_host.isOldGeneration() ? QStringLiteral("GainRaw") : QStringLiteral("Gain"), -1);
     expectRestored();
 }
 

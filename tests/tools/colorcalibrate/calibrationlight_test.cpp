@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // Calibrating in too much light and too little, and charts that are not wholly in the picture.
 #include "calibrationsequence.h"
+#include "charttargets.h"
 #include "command.h"
 #include "emulatedhost.h"
 #include "exposuresearch.h"
+#include "patchcolorconversion.h"
 
 #include <gtest/gtest.h>
 
@@ -21,6 +23,10 @@ class LitCamera
 {
 public:
     LitCamera(int camera, double exposure, const SceneSettings& scene = SceneSettings())
+        : LitCamera(camera, exposure, Scene(scene))
+    {}
+
+    LitCamera(int camera, double exposure, const Scene& scene)
         : m_host(supportedModels().at(camera), optionsOf(scene))
     {
         EXPECT_TRUE(m_host.camera().open());
@@ -58,10 +64,10 @@ public:
     bool hasRawGain() const { return m_host.isOldGeneration(); }
 
 private:
-    static Cameras::Emulation::EmulationOptions optionsOf(const SceneSettings& scene)
+    static Cameras::Emulation::EmulationOptions optionsOf(const Scene& scene)
     {
         Cameras::Emulation::EmulationOptions options;
-        options.scene = Scene(scene);
+        options.scene = scene;
         return options;
     }
 
@@ -78,6 +84,25 @@ SceneSettings inLight(double level)
     SceneSettings scene;
     scene.lightLevel = level;
     return scene;
+}
+
+/// The chart as small as it may be, a little over a fifth of the image wide, on black.
+Scene smallChartOnBlack()
+{
+    constexpr int width = 960;
+    constexpr int height = 600;
+    constexpr int cell = 34;
+    QImage image(width, height, QImage::Format_RGB888);
+    image.fill(Qt::black);
+    const QVector<QColor> colors =
+        ColorCalibration::toQColors(ColorCalibration::ChartTargets().TargetColors(), true);
+    for (int patch = 0; patch < colors.size(); ++patch)
+        for (int y = 2; y < cell - 2; ++y)
+            for (int x = 2; x < cell - 2; ++x)
+                image.setPixelColor(378 + patch % 6 * cell + x, 232 + patch / 6 * cell + y,
+                                    colors.at(patch));
+    return Scene(Scene::fromSrgb8(width, height, image.constBits(),
+                                  static_cast<std::size_t>(image.bytesPerLine())));
 }
 
 class CalibrationLight : public testing::TestWithParam<int>
@@ -160,6 +185,18 @@ TEST_P(CalibrationLight, BehindTheLimitOfExposureDimLightIsMadeUpForByGainOrTheG
     EXPECT_NEAR(camera.gain(), 6.0, 1.0);
 }
 
+// It lights less of the image than a usual one does in the dark.
+TEST_P(CalibrationLight, ASmallChartOnBlackIsNotOverExposed)
+{
+    for (const double start : {2000.0, 20000.0}) {
+        LitCamera camera(GetParam(), start, smallChartOnBlack());
+        EXPECT_EQ(camera.run(true), "") << start;
+        EXPECT_NEAR(camera.exposure(), 20000.0, 3000.0) << start;
+    }
+    LitCamera kept(GetParam(), 20000.0, smallChartOnBlack());
+    EXPECT_EQ(kept.run(false), "");
+}
+
 TEST_P(CalibrationLight, AChartThatIsHalfInThePictureIsNotCalibratedOn)
 {
     SceneSettings half;
@@ -182,6 +219,13 @@ TEST(Light, IsJudgedByTheBrightestParts)
     for (int y = 0; y < 5; ++y)
         image.setPixel(0, y, qRgb(10, 60, 10));
     EXPECT_EQ(lightOf(image), Light::Usable) << "5 of 100 pixels are lit";
+    image = QImage(40, 40, QImage::Format_RGB32);
+    image.fill(qRgb(1, 2, 1));
+    for (int x = 0; x < 7; ++x)
+        image.setPixel(x, 0, qRgb(0, 150, 0));
+    EXPECT_EQ(lightOf(image), Light::TooDark) << "7 of 1600 pixels are bright";
+    image.setPixel(7, 0, qRgb(0, 150, 0));
+    EXPECT_EQ(lightOf(image), Light::Usable) << "8 of 1600 pixels are bright";
     image.fill(qRgb(251, 100, 100));
     EXPECT_EQ(lightOf(image), Light::TooBright);
     EXPECT_EQ(lightOf(QImage()), Light::Usable) << "nothing to be said";

@@ -3,6 +3,8 @@
 #include "calibrationsequence.h"
 #include "command.h"
 #include "fakecameraservices.h"
+#include "logging.h"
+#include "logrecorder.h"
 #include "measuredcamera.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +34,8 @@ protected:
     std::string run()
     {
         CalibrationSequence sequence(
-            m_model, [this](const QString& step) { m_steps.append(step); }, [] { return false; });
+            m_model, [this](const QString& step) { m_steps.append(step); }, [] { return false; },
+            [this](const QString& warning) { m_warnings.append(warning); });
         try {
             sequence.run(m_camera, m_options);
         } catch (const CommandError& error) {
@@ -47,6 +50,7 @@ protected:
     ColorCalibration::ColorCorrectionModel m_model;
     SequenceOptions m_options;
     QStringList m_steps;
+    QStringList m_warnings;
 };
 
 TEST_F(CalibrationSequenceTest, AnImageThatFailsIsToldWithTheCamerasReason)
@@ -59,6 +63,43 @@ TEST_F(CalibrationSequenceTest, AnImageThatFailsIsToldWithTheCamerasReason)
               "the camera delivered no image at the step \"Taking the first image\"; check its "
               "cable, trigger and exposure time, and try again (the trigger line is dead)");
     EXPECT_FALSE(m_camera->open);
+}
+
+// What the sink before the sequence has told, as that of the program does.
+TEST_F(CalibrationSequenceTest, WhatACameraSaysOfItselfIsToldOnceAndFailsNothing)
+{
+    const LogRecorder log;
+    m_options.adjustExposure = false;
+    m_camera->features().beforeCall = [](const QString& call) {
+        if (call.startsWith(QLatin1String("load ")))
+            createLogEntry(Core::Logging::Warning,
+                           Core::Logging::getCatId(QStringLiteral("Cameras")),
+                           QStringLiteral("a setting stays changed"));
+    };
+    run();
+    EXPECT_TRUE(m_steps.contains(QStringLiteral("Restoring the settings before calibration")));
+    EXPECT_EQ(m_warnings, QStringList());
+    EXPECT_FALSE(log.entries().isEmpty());
+    for (const LogEntry& entry : log.entries())
+        EXPECT_EQ(entry.text, QStringLiteral("a setting stays changed"));
+}
+
+TEST_F(CalibrationSequenceTest, AConnectionLostAtTheWriteBackEndsWithWhatHasFailedBefore)
+{
+    m_camera->features().change(QStringLiteral("LUTSelector"),
+                                [](FakeFeature& one) { one.refuses = true; });
+    int writtenBack = 0;
+    m_camera->features().beforeCall = [&](const QString& call) {
+        if (!call.startsWith(QLatin1String("load ")))
+            return;
+        ++writtenBack;
+        m_camera->loseConnection();
+        throw std::runtime_error("the line is dead");
+    };
+    EXPECT_EQ(run(), "unable to set neutral settings (LUTSelector refuses to be written)");
+    EXPECT_EQ(writtenBack, 1);
+    EXPECT_EQ(m_control.handles, 0);
+    EXPECT_FALSE(m_model.StopGrabbing()) << "the model is closed";
 }
 
 TEST_F(CalibrationSequenceTest, ExposureTimeAndGainAreWrittenBackBeforeTheyAreAdjusted)

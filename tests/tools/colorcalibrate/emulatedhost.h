@@ -5,6 +5,7 @@
 #include "camerapool.h"
 #include "colorcorrectionmodel.h"
 #include "emulatedcamera.h"
+#include "iparameterservice.h"
 
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -42,6 +43,11 @@ public:
     EmulatedCamera& camera() { return *m_camera; }
     QSharedPointer<EmulatedCamera> pointer() const { return m_camera; }
     ColorCalibration::ColorCorrectionModel& model() { return m_model; }
+
+    Plugin::ParameterCollectionPool::IParameterService* parameterService() const
+    {
+        return m_registry.find<Plugin::ParameterCollectionPool::IParameterService>().data();
+    }
 
     bool isOldGeneration() const
     {

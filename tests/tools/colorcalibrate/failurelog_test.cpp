@@ -52,7 +52,7 @@ TEST_F(FailureLogTest, HandsOnWhatCamerasSayOfThemselves)
     say(Information, "Cameras", "opened");
     say(Warning, "Cameras", "stays changed");
     EXPECT_EQ(told, QStringList("Cameras:stays changed"));
-    EXPECT_EQ(log.failures(), (QStringList{"refused", "stays changed"}));
+    EXPECT_EQ(log.failures(), QStringList("refused")) << "it has been told, and fails no step";
 }
 
 TEST_F(FailureLogTest, MayBeNested)
@@ -62,10 +62,10 @@ TEST_F(FailureLogTest, MayBeNested)
         const FailureLog inner;
         say(Warning, "Cameras", "stays changed");
         say(Warning, "Model", "refused");
-        EXPECT_EQ(inner.failures().size(), 2);
+        EXPECT_EQ(inner.failures(), QStringList("refused"));
     }
     EXPECT_EQ(told, QStringList("Cameras:stays changed"));
-    EXPECT_EQ(outer.failures(), QStringList("stays changed"));
+    EXPECT_EQ(outer.failures(), QStringList());
     say(Warning, "Model", "failed");
     EXPECT_EQ(outer.lastFailure(), "failed");
 }

@@ -53,11 +53,14 @@ void calibrateOnce(EmulatedHost& host)
     host.camera().close();
 }
 
-TEST(RepeatedCalibration, LeavesNeitherMemoryNorThreadsNorFilesBehind)
+class RepeatedCalibration : public testing::TestWithParam<int>
+{};
+
+TEST_P(RepeatedCalibration, LeavesNeitherMemoryNorThreadsNorFilesBehind)
 {
     constexpr int warmUp = 100; // caches go on filling for some 75 cycles
     constexpr int cycles = 200;
-    auto model = reduced(supportedModels().at(1));
+    auto model = reduced(supportedModels().at(GetParam()));
     model.sensor.fullScaleExposure = 1820.0; // ten times as fast as it is
     EmulatedHost host(model);
     for (int i = 0; i < warmUp; ++i)
@@ -76,5 +79,7 @@ TEST(RepeatedCalibration, LeavesNeitherMemoryNorThreadsNorFilesBehind)
         EXPECT_LT(grown, cycles * 256.0);
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Cameras, RepeatedCalibration, testing::Values(0, 1, 2));
 
 } // namespace

@@ -64,7 +64,8 @@ public:
     const std::shared_ptr<RegisterStore>& registers() const { return m_store; }
     std::string description() const;
 
-    /// Puts another scene before the camera, effective with the next frame.
+    /// Puts another scene before the camera, effective with the next frame: the light of a room
+    /// changes while a camera is open.
     void setScene(const Scene& scene);
     Scene scene() const;
 

@@ -80,7 +80,9 @@ void setMatrix(const FeatureValues& values, PipelineSettings& settings)
         settings.colorMatrix = tungstenMatrix;
     else
         for (int gain = 0; gain < 9; ++gain)
-            settings.colorMatrix[static_cast<std::size_t>(gain)] = values.value(userMatrix, gain);
+            // Without the selector there is the first gain alone; the others are those of identity.
+            settings.colorMatrix[static_cast<std::size_t>(gain)] =
+                values.value(userMatrix, gain, gain % 4 == 0 ? 1.0 : 0.0);
 }
 
 void setAdjustment(const FeatureValues& values, PipelineSettings& settings)
@@ -144,7 +146,9 @@ void setGamma(const FeatureValues& values, PipelineSettings& settings)
 
 PixelType wantedPixelType(const FeatureValues& values)
 {
-    return static_cast<PixelType>(static_cast<int>(values.value(QStringLiteral("PixelFormat"))));
+    // A color camera without a choice has the format that it leaves the factory with.
+    return static_cast<PixelType>(static_cast<int>(
+        values.value(QStringLiteral("PixelFormat"), 0, static_cast<double>(PixelType::RGB8))));
 }
 
 bool isProcessedRaw(const FeatureValues& values)

@@ -126,7 +126,6 @@ private:
 
     void apply(int number, const Feature& feature, const QString& value)
     {
-        m_map.requireConnection();
         const int index = m_map.tree().indexOf(feature.name());
         try {
             requireSelectors(feature, index);

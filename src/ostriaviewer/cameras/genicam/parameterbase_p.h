@@ -14,6 +14,7 @@
 #include <QMetaMethod>
 
 #include <atomic>
+#include <exception>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -79,8 +80,8 @@ protected:
         try {
             write(change);
             return true;
-        } catch (const ::GenICam::RuntimeException&) {
-            return false;
+        } catch (const std::exception&) {
+            return false; // without memory, too
         }
     }
 

@@ -281,6 +281,74 @@ TEST_F(UserSetsTest, DamagedFilesHarmNothing)
     }
 }
 
+// Values that the camera would take, but that nobody has put there.
+TEST_F(UserSetsTest, ListsOfAnotherLengthAndWhatIsNoNumberStayTheFactorys)
+{
+    for (const char* ratios : {"[2, 3]", "[2, 3, 4, 5]", "[\"x\", \"x\", \"x\"]", "2"}) {
+        writeFile(QByteArray(R"({"UserSetDefault": "UserSet1", "UserSets": {"UserSet1":
+                                {"Gain": [3], "BalanceRatio": )") +
+                  ratios + "}}}");
+        const auto camera = openCamera(smallModel());
+        EXPECT_EQ(gain(*camera)->value(), 3.0) << "the others count";
+        for (const char* color : {"Red", "Green", "Blue"}) {
+            choose(*camera, "BalanceRatioSelector", color);
+            EXPECT_EQ(camera->parameterCollection()
+                          ->floatParameter(QStringLiteral("BalanceRatio"))
+                          ->value(),
+                      1.0)
+                << color << " of " << ratios;
+        }
+    }
+}
+
+TEST_F(UserSetsTest, TheFactorysSetIsNeverTheFiles)
+{
+    writeFile(R"({"UserSets": {"Default": {"Gain": [3]}}})");
+    const auto camera = openCamera(smallModel());
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+    load(*camera, "Default");
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+}
+
+TEST_F(UserSetsTest, AStartUpSetThatThereIsNotIsTheFactorys)
+{
+    writeFile(R"({"UserSetDefault": "UserSet9", "UserSets": {"UserSet9": {"Gain": [3]}}})");
+    const auto table = std::make_shared<FeatureTable>(modelFeatures(smallModel()));
+    EXPECT_EQ(UserSets(table, file(smallModel())).startUpSet(), QStringLiteral("Default"));
+    EXPECT_EQ(gain(*openCamera(smallModel()))->value(), 0.0);
+}
+
+TEST_F(UserSetsTest, AFileThatIsTooLargeIsNoneOfUserSets)
+{
+    writeFile(R"({"UserSetDefault": "UserSet1", "UserSets": {"UserSet1": {"Gain": [3]}}})" +
+              QByteArray(5 * 1024 * 1024, ' '));
+    const auto camera = openCamera(smallModel());
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+    save(*camera, "UserSet2");
+    EXPECT_TRUE(QFile::exists(file(smallModel()) + QStringLiteral(".damaged")));
+}
+
+TEST_F(UserSetsTest, TheFolderIsMadeWhereThereIsNone)
+{
+    ASSERT_TRUE(QDir(folder()).removeRecursively());
+    const auto camera = openCamera(smallModel());
+    gain(*camera)->setValue(2.0);
+    save(*camera, "UserSet1");
+    EXPECT_TRUE(QFile::exists(file(smallModel())));
+}
+
+TEST_F(UserSetsTest, NoSetIsLoadedWhileImagesAreTaken)
+{
+    const auto camera = openCamera(smallModel());
+    gain(*camera)->setValue(4.0);
+    ASSERT_TRUE(camera->startGrabbing());
+    EXPECT_THROW(load(*camera, "UserSet1"), RuntimeException);
+    EXPECT_EQ(gain(*camera)->value(), 4.0);
+    camera->stopGrabbing();
+    load(*camera, "UserSet1");
+    EXPECT_EQ(gain(*camera)->value(), 0.0);
+}
+
 TEST_F(UserSetsTest, AFolderThatCannotBeWrittenIsReported)
 {
     QDir(folder()).removeRecursively();

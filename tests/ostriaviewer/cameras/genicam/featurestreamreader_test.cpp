@@ -212,6 +212,29 @@ TEST_F(FeatureStreamReader, KeepsTheListOfErrorsReadable)
     EXPECT_LT(load(QString(1000, QChar(1))).size(), 100);
 }
 
+TEST_F(FeatureStreamReader, ShowsOfANameWhatCanBeRead)
+{
+    EXPECT_EQ(load(QStringLiteral("a\u0001b\u0007\n")),
+              QStringLiteral("Line 1: \"a\uFFFDb\uFFFD\" has no tab and no value.\n"));
+    EXPECT_EQ(load(QString(41, QLatin1Char('n')) + "\t1\n"_q),
+              "Line 1: the camera has no feature \""_q + QString(40, QLatin1Char('n')) +
+                  QStringLiteral("\u2026\".\n"));
+}
+
+// A later line may have unlocked one; where it has not, trying again is of no use.
+TEST_F(FeatureStreamReader, TriesARefusedTextOnceMore)
+{
+    int gains = 0;
+    port->onWrite = [&](std::uint64_t address) {
+        gains += address == Register::gain ? 1 : 0;
+    };
+    EXPECT_NE(load("Gain\t2\nWidth\twide\n"_q), QString());
+    EXPECT_EQ(gains, 2);
+    gains = 0;
+    EXPECT_EQ(load("Gain\t2\nWidth\t320\n"_q), QString());
+    EXPECT_EQ(gains, 1);
+}
+
 TEST_F(FeatureStreamReader, ReadsAMillionLines)
 {
     QString many;
@@ -241,4 +264,12 @@ TEST_F(FeatureStreamReader, ThrowsWhenTheCameraIsLostBeforeItsNodeMapIsClosed)
     EXPECT_EQ(refusalOf([&] { load("Gain\t2\nWidth\t320\nGamma\t2\n"_q); }),
               "The connection to the camera is lost.");
     EXPECT_EQ(port->writes, 1);
+}
+
+TEST_F(FeatureStreamReader, ThrowsForALostCameraWhateverTheTextIs)
+{
+    map->disconnect();
+    for (const QString& text : {QString(), "# nothing\n"_q, "NoSuch\t1\n"_q})
+        EXPECT_EQ(refusalOf([&] { load(text); }), "The connection to the camera is lost.")
+            << text.toStdString();
 }

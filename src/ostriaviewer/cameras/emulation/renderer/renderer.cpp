@@ -153,9 +153,4 @@ COstriaImage Renderer::render(const PipelineSettings& settings, std::uint64_t fr
     return image;
 }
 
-std::optional<ChartCorners> Renderer::chartCorners() const
-{
-    return m_state->scene.chartCorners(sensor().width, sensor().height);
-}
-
 } // namespace Cameras::Emulation

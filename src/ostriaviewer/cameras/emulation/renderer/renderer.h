@@ -9,7 +9,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 
 namespace Cameras::Emulation {
 
@@ -39,9 +38,6 @@ public:
     /// \throws std::invalid_argument  the region leaves the sensor, the sensor has no such pixel
     ///         format, the format needs an even width, or a value is out of its range or not finite
     Ostria::COstriaImage render(const PipelineSettings& settings, std::uint64_t frameNumber);
-
-    /// Where the chart lies on the whole sensor; nothing if the scene is the user's image.
-    std::optional<ChartCorners> chartCorners() const;
 
 private:
     struct State;

@@ -204,7 +204,6 @@ TEST_F(CameraAutoBrightnessHelperTest, ARefusedWriteEndsTheRunWithTwoEntries)
     // The level is that of a black image: 1000 * (1 + 149 * 0.8) is beyond the limit of 100000, and
     // ln(150) * 10 * 0.8 is beyond that of the gain.
     const Case cases[] = {
-        {"gain 0", [&] { m_patch.takesGain = never; }, {"gain 0"}},
         {"exposure time 100000",
          [&] { m_patch.takesExposure = never; },
          {"gain 0", "measure 1", "measure 1", "exposure 100000"}},
@@ -252,16 +251,38 @@ TEST_F(CameraAutoBrightnessHelperTest, AGainBetweenTheLimitsThatIsRefusedEndsThe
               "CameraAutoBrightnessHelper::doWork:The camera does not take the gain 55.4518.");
 }
 
-TEST_F(CameraAutoBrightnessHelperTest, AGainThatIsTheLowestNeedNotBeWritten)
+TEST_F(CameraAutoBrightnessHelperTest, ExposureTimeGoesOnWhereTheLowestGainIsRefused)
 {
-    m_patch.gain = 0.0;
-    m_patch.exposure = 500.0;
-    m_patch.takesGain = [](double) {
-        return false;
+    for (const double gain : {0.0, 6.0}) {
+        const LogRecorder log;
+        m_patch.restartWith(-1.0);
+        m_patch.takesGain = [](double) {
+            return false;
+        };
+        m_patch.gain = gain;
+        m_patch.exposure = 500.0;
+        EXPECT_EQ(run(newCamera()), 1);
+        EXPECT_EQ(m_patch.gain, gain);
+        // 6 dB are a factor of 1.99526.
+        const double factor = gain == 0.0 ? 1.0 : 1.99526;
+        EXPECT_NEAR(m_patch.exposure * m_patch.levelPerMicrosecond * factor, 150.0, 15.0);
+        for (const LogEntry& entry : log.entries())
+            EXPECT_TRUE(entry.text.startsWith("Error: ")) << entry.text.toStdString();
+    }
+}
+
+// At the start, and again in each pass of the exposure time.
+TEST_F(CameraAutoBrightnessHelperTest, ARefusedLowestGainIsAskedForAgainInEachPass)
+{
+    m_patch.restartWith(150.0);
+    int refusals = 1;
+    m_patch.takesGain = [&](double) {
+        return refusals-- <= 0;
     };
     EXPECT_EQ(run(newCamera()), 1);
-    EXPECT_NEAR(m_patch.exposure * m_patch.levelPerMicrosecond, 150.0, 15.0);
-    EXPECT_TRUE(logTexts().filter("failed").isEmpty());
+    EXPECT_EQ(m_patch.calls,
+              (QStringList{"gain 0", "measure 1", "measure 1", "gain 0", "exposure 1000"}));
+    EXPECT_EQ(m_patch.gain, 0.0);
 }
 
 TEST_F(CameraAutoBrightnessHelperTest, AnExposureTimeThatIsNotToldEndsTheRun)

@@ -24,13 +24,29 @@ protected:
     bool calibrate()
     {
         return open() && m_model.StopGrabbing() && m_model.CreateSettingsBackup(false) &&
-               m_model.CreateSettingsBackup(true) && m_model.SetNeutralSettings() &&
-               m_model.ExecuteWhitebalance() && (m_model.ActivateMonoImage(), true) &&
-               (m_model.DisableAutoFunctions(), true) && m_model.StoreDetectedExposureAndGain() &&
+               m_model.CreateSettingsBackup(true) && loadPreviousSettings() &&
+               m_model.SetNeutralSettings() && m_model.ExecuteWhitebalance() &&
+               (m_model.ActivateMonoImage(), true) && (m_model.DisableAutoFunctions(), true) &&
+               writeExposureAndGainBack() && m_model.StoreDetectedExposureAndGain() &&
                m_model.RestoreSettingsBackup(true) && m_model.RestoreDetectedExposureAndGain() &&
                m_model.ApplyInitialCameraImageAndPatchValues() && m_model.SetNeutralSettings() &&
                m_model.RestoreDetectedExposureAndGain() && m_model.ApplyInitialColorPatchValues() &&
                m_model.ExecuteCalibrationAndApply();
+    }
+
+private:
+    /// From the file of a previous calibration.
+    bool loadPreviousSettings() { return m_model.LoadSettings("Gamma\t0.45\n"); }
+
+    /// What the adapters of exposure time and gain do when they begin.
+    bool writeExposureAndGainBack()
+    {
+        double minimum = 0.0;
+        double value = 0.0;
+        double maximum = 0.0;
+        return m_model.GetExposureTimeRange(minimum, value, maximum) &&
+               m_model.SetExposureTime(value) && m_model.GetGainRange(minimum, value, maximum) &&
+               m_model.SetGain(value);
     }
 };
 
@@ -92,6 +108,7 @@ protected:
     {
         static const QStringList messages{"Error: Failed to close camera.",
                                           "Error: Failed to grab image.",
+                                          "Error: Load settings to camera failed.",
                                           "Error: Set neutral camera settings failed.",
                                           "Error: Backup of camera settings failed.",
                                           "Error: Restore of camera settings failed.",
@@ -155,6 +172,38 @@ TEST_F(ModelSequence, ARefusalLeavesTheCameraAsItWas)
             m_camera->parameters().saveFeatures(after, "@CameraDevice");
             EXPECT_EQ(after.toStdString(), before.toStdString()) << feature;
         }
+}
+
+TEST_F(ModelSequence, AConnectionLostWhileTheBackupIsWrittenBackLeavesItOwed)
+{
+    for (const auto& camera : {oldCamera(), newCamera()}) {
+        use(camera);
+        m_camera->features().change("LUTSelector", [](FakeFeature& one) { one.refuses = true; });
+        EXPECT_FALSE(calibrate());
+        int losses = 0;
+        QObject receiver;
+        QObject::connect(&m_model, &ColorCalibration::ColorCorrectionModel::cameraRemoved,
+                         &receiver, [&] { ++losses; });
+        int writtenBack = 0;
+        m_camera->features().beforeCall = [&](const QString& call) {
+            if (!call.startsWith("load @CameraDevice"))
+                return;
+            ++writtenBack;
+            m_camera->loseConnection();
+            throw std::runtime_error("the line is dead");
+        };
+        EXPECT_FALSE(m_model.RestoreSettingsBackup(false));
+        EXPECT_EQ(writtenBack, 1);
+        EXPECT_EQ(losses, 1);
+        EXPECT_TRUE(m_model.IsBackupOwed()) << "whoever closes the camera has to tell";
+        EXPECT_EQ(logTexts().mid(logTexts().size() - 2),
+                  (QStringList{"2 Error: Restore of camera settings failed.",
+                               "2 ColorCorrectionModelImpl::RestoreSettingsBackup: the line is "
+                               "dead"}));
+        m_model.Close();
+        EXPECT_EQ(m_control.handles, 0);
+        EXPECT_EQ(losses, 1);
+    }
 }
 
 std::string nameOf(const testing::TestParamInfo<ModelSequenceTest::ParamType>& test)

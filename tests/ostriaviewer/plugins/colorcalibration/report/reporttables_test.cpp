@@ -75,6 +75,28 @@ TEST(AppendTable, PutsBeforeAndAfterIntoOneTable)
               "<table id=\"results\">" + header + before + header + after + "</table>");
 }
 
+// Rows alone, as for any other object: a table is made for both sides alone.
+TEST(AppendTable, MakesNoTableOfOneSide)
+{
+    const QJsonObject settings{{"Gamma", "1"}};
+    for (const char* side : {"Original", "Calibrated"}) {
+        const QJsonObject results{{side, settings}};
+        EXPECT_EQ(table("Gamma", results, "L", false), "<tr><th>L</th><td></td></tr>") << side;
+        EXPECT_EQ(table(QString(side) + "/Gamma", results, "L", true),
+                  "<tr><th>&nbsp;</th><th>Gamma</th></tr><tr><th>L</th><td>1</td></tr>")
+            << side;
+    }
+}
+
+TEST(AppendTable, LooksForBothSidesAtEachDepth)
+{
+    const QJsonObject sides{{"Original", QJsonObject{{"b", "1"}}},
+                            {"Calibrated", QJsonObject{{"b", "2"}}}};
+    EXPECT_EQ(table("a/b", QJsonObject{{"a", sides}}, "L", false),
+              "<table id=\"results\"><tr><th>&nbsp;</th><th>b</th></tr>"
+              "<tr><th>Original</th><td>1</td></tr><tr><th>Current</th><td>2</td></tr></table>");
+}
+
 TEST(AppendTable, EscapesLabelsKeysAndValues)
 {
     const QJsonObject object{{"k", QJsonObject{{"<b>", "\"1\" & <2>"}}}};

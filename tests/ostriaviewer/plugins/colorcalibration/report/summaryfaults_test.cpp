@@ -2,6 +2,7 @@
 // Tests of saving where it cannot be done.
 #include "calibrationresult.h"
 #include "logrecorder.h"
+#include "pngencoder.h"
 #include "reportdata.h"
 #include "summaryfiles.h"
 

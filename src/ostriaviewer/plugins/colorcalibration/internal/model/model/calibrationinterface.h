@@ -12,10 +12,10 @@ namespace ColorCalibration {
 
 /// Grid, brightness, measuring and calibrating.
 ///
-/// Grid, initial and target colours can be had without a camera; all else answers with its failure
-/// value then. No exception leaves any operation; failures are logged. Thread-safe. Lists are in
-/// chart order and are appended to unless it says otherwise; a count is that of the list afterwards
-/// where it was handed in empty.
+/// Grid, target colours, and image and colours before calibration, those of the camera before, can
+/// be had without a camera; all else answers with its failure value then. No exception leaves any
+/// operation; failures are logged. Thread-safe. Lists are in chart order and are appended to unless
+/// it says otherwise; a count is that of the list afterwards where it was handed in empty.
 class CalibrationInterface
 {
 public:

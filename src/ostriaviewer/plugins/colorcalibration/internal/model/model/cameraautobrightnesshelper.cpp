@@ -116,9 +116,8 @@ void CameraAutoBrightnessHelper::run()
     double gain = 0.0;
     double maximum = 0.0;
     calibration()->GetGainRange(minimum, gain, maximum);
-    // A gain that cannot be written does no harm where it is the lowest.
-    if (!calibration()->SetGain(minimum) && gain > minimum)
-        throw refusal("gain", minimum);
+    // Exposure time alone may do where the gain stays higher than the lowest.
+    calibration()->SetGain(minimum);
     // The first image may still have been exposed with the gain of before.
     QVector<QColor> discarded;
     calibration()->GetColorPatchValues(discarded, true);
@@ -178,7 +177,7 @@ void CameraAutoBrightnessHelper::adjustExposure(double ratio, double gainMinimum
                                                 double exposure)
 {
     if (gain > gainMinimum)
-        setGain(gainMinimum);
+        calibration()->SetGain(gainMinimum);
     const double step = (ratio - 1.0) * damping;
     double newExposure = step * exposure + exposure;
     logStep(QStringLiteral("Error: %1, OldValue: %2, NewValue: %3")
@@ -201,13 +200,8 @@ void CameraAutoBrightnessHelper::adjustGain(double ratio, double gain)
                 .arg(added));
     if (m_gainLimits.clamp(newGain))
         m_running = false;
-    setGain(newGain);
-}
-
-void CameraAutoBrightnessHelper::setGain(double value)
-{
-    if (!calibration()->SetGain(value))
-        throw refusal("gain", value);
+    if (!calibration()->SetGain(newGain))
+        throw refusal("gain", newGain);
 }
 
 } // namespace ColorCalibration

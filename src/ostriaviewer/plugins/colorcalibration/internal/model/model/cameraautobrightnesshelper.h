@@ -35,7 +35,8 @@ public:
 
 signals:
     /// The run has ended: the goal is reached, the limits are, somebody stopped it, or it failed,
-    /// also because the camera took no exposure time or gain any more.
+    /// also because the camera did not take the exposure time, or the gain that was to go on where
+    /// the exposure time had reached its limit.
     void AutoBrightnessFinished();
 
 public slots:
@@ -79,7 +80,6 @@ private:
     double measurePeak();
     void adjustExposure(double ratio, double gainMinimum, double gain, double exposure);
     void adjustGain(double ratio, double gain);
-    void setGain(double value);
 
     CalibrationInterface* m_calibration;
     QRecursiveMutex* m_lock;

@@ -2,6 +2,7 @@
 // A camera's settings before and after calibration, and the files that keep them.
 #include "calibrationresult.h"
 
+#include "pngencoder.h"
 #include "reporthtml.h"
 #include "reportlog.h"
 #include "settingsfilter.h"

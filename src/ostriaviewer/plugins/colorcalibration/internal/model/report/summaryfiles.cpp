@@ -2,9 +2,9 @@
 // Folder and files of a saved calibration.
 #include "summaryfiles.h"
 
+#include "pngencoder.h"
 #include "reportlog.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QSaveFile>
 
@@ -66,13 +66,6 @@ QString MakeOutputFolder(const QString& directory, const QString& stem, const QS
 bool WriteTextFile(const QString& path, const QString& text)
 {
     return replaceFile(path, text.toUtf8() + '\n');
-}
-
-QByteArray encodePng(const QImage& image)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    return image.save(&buffer, "PNG", -1) ? buffer.data() : QByteArray();
 }
 
 bool writePngBytes(const QString& path, const QByteArray& png)

@@ -22,12 +22,8 @@ QString MakeOutputFolder(const QString& directory, const QString& stem, const QS
 /// \return  false if it could not be written; the log says why
 bool WriteTextFile(const QString& path, const QString& text);
 
-/// Writes an image with no loss; else like WriteTextFile. Reentrant.
+/// Writes what encodePng makes of an image; else like WriteTextFile. Reentrant.
 bool WritePngFile(const QString& path, const QImage& image);
-
-/// The bytes of a PNG file. Reentrant.
-/// \return  empty for a null image
-QByteArray encodePng(const QImage& image);
 
 /// Writes what encodePng gave; else like WriteTextFile. Reentrant.
 /// \param png  empty: the file cannot be written
