@@ -102,20 +102,14 @@ CatId getCatId(const QString& name)
     return registry().idOf(name);
 }
 
-QString categoryName(CatId category)
-{
-    const Category* found = registry().find(category);
-    return found ? found->name : QString();
-}
-
 void createLogEntry(ELogLevel level, CatId category, const QString& text)
 {
-    const LogSink sink = registry().sink();
-    if (sink) {
-        sink(level, categoryName(category), text);
+    const Category* found = registry().find(category);
+    if (const LogSink sink = registry().sink()) {
+        sink(level, found ? found->name : QString(), text);
         return;
     }
-    if (const Category* found = registry().find(category))
+    if (found)
         writeToQt(level, found->qtCategory, text);
     else
         writeToQt(level, *QLoggingCategory::defaultCategory(), text);

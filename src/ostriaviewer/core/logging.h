@@ -20,12 +20,10 @@ using CatId = int;
 /// The number of the category with this name; the same name gives the same number. Thread-safe.
 OSTRIAVIEWER_CORE_EXPORT CatId getCatId(const QString& name);
 
-/// The name of a category, empty for a number that getCatId never gave. Thread-safe.
-OSTRIAVIEWER_CORE_EXPORT QString categoryName(CatId category);
-
-/// Writes one entry to the sink. Thread-safe.
-/// Without a sink, entries go to Qt's logging under the category's name, where levels 0 to 3 are
-/// debug, info, warning and critical, and level 4 is critical too, as it must not end the process.
+/// Writes one entry to the sink, under the category's name, or under none for a number that
+/// getCatId never gave. Thread-safe. Without a sink, entries go to Qt's logging under the
+/// category's name, where levels 0 to 3 are debug, info, warning and critical, and level 4 is
+/// critical too, as it must not end the process.
 OSTRIAVIEWER_CORE_EXPORT void createLogEntry(ELogLevel level, CatId category, const QString& text);
 
 /// Receives every entry, on the thread that writes it. Must be thread-safe and must not log.

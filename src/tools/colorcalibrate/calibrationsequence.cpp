@@ -8,6 +8,7 @@
 #include "patchcolorconversion.h"
 #include "patchcolors.h"
 #include "patchdeltas.h"
+#include "pixelformat.h"
 
 #include <QEventLoop>
 #include <QImage>
@@ -177,6 +178,7 @@ void CalibrationSequence::open(const CameraPtr& camera)
             return m_model.CreateSettingsBackup(false);
         },
         "the camera's settings could not be read");
+    requireColor(*camera);
     requireBrightness();
 }
 
@@ -214,22 +216,16 @@ void CalibrationSequence::placeGrid(const SequenceOptions& options)
         imageStep("Taking an image of another exposure time", grab,
                   "the camera delivered no image");
     };
-    // In the dark, noise passes for a chart.
-    while (lightOf(image) == Light::TooDark && search.moveFrom(Light::TooDark))
+    // In the dark noise passes for a chart, in glare what is left of the picture does.
+    while (search.moveFrom(lightOf(image)))
         takeAnother();
-    for (;;) {
-        try {
-            step(
-                "Finding the chart", [&] { return m_model.SetGridPosition(findGrid(image)); },
-                "the grid could not be set");
-            return;
-        } catch (const CommandError& error) {
-            const Light light = lightOf(image);
-            stopIfCancelled();
-            if (!search.moveFrom(light))
-                throw CommandError(QString::fromUtf8(error.what()) + advice(light));
-        }
-        takeAnother();
+    try {
+        step(
+            "Finding the chart", [&] { return m_model.SetGridPosition(findGrid(image)); },
+            "the grid could not be set");
+    } catch (const CommandError& error) {
+        stopIfCancelled();
+        throw CommandError(QString::fromUtf8(error.what()) + advice(lightOf(image)));
     }
 }
 
@@ -386,6 +382,7 @@ void CalibrationSequence::calibrate()
     imageStep(
         "Measuring the patches", [this] { return m_model.ApplyInitialColorPatchValues(); },
         "couldn't apply initial values");
+    m_measuredHitRate = m_hitRate;
     try {
         settingsStep(
             "Calibrating", [this] { return m_model.ExecuteCalibrationAndApply(); },
@@ -436,7 +433,17 @@ void CalibrationSequence::requireChart(const SequenceResult& result)
                        "calibration, %2 before; is the grid on the chart, and the chart evenly lit "
                        "and neither too bright nor too dark?")
             .arg(after, 0, 'f', 1)
-            .arg(before, 0, 'f', 1));
+            .arg(before, 0, 'f', 1) +
+        adviceOnBrightness() + adviceOnPixelFormat(*m_camera));
+}
+
+QString CalibrationSequence::adviceOnBrightness() const
+{
+    if (std::abs(m_measuredHitRate - 100.0) < usableDeviation)
+        return {};
+    return QStringLiteral("; the gray patch stood at %1 percent of its target brightness, which "
+                          "automatic exposure sees to")
+        .arg(m_measuredHitRate, 0, 'f', 0);
 }
 
 } // namespace ColorCalibrate

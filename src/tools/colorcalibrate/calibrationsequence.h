@@ -47,12 +47,16 @@ public:
 
 /// Calibrates one camera from opening to the measurement of the outcome, in the wizard's order.
 ///
-/// Two steps differ. The settings to be given back are kept before the first image already, as the
-/// search for the chart changes the exposure time. And the wizard's sliders write exposure time and
-/// gain back where they begin; so does the sequence where it adjusts them. Where both are to be
-/// kept it does not: a camera whose exposure time is set from outside, as by a trigger's width,
-/// takes none, and a gain in raw steps would lose one more, as it is written from a hundredth of
-/// them.
+/// Two of the wizard's steps differ. The settings to be given back are kept before the first image
+/// already, as the search for the chart changes the exposure time. And the wizard's sliders write
+/// exposure time and gain back where they begin; so does the sequence where it adjusts them. Where
+/// both are to be kept it does not: a camera whose exposure time is set from outside, as by a
+/// trigger's width, takes none, and a gain in raw steps would lose one more, as it is written from
+/// a hundredth of them.
+///
+/// What a person sees to in the wizard the sequence does by itself: it asks for color, exposure
+/// time and gain before anything is changed, brings the chart into the light, repeats automatic
+/// brightness that ends too bright, and refuses an outcome that can hardly be a chart.
 ///
 /// Whatever ends it early, the settings that the camera had after it was opened are written back
 /// and the camera is given back. Thread-bound: a thread with an event dispatcher.
@@ -90,6 +94,7 @@ private:
     void calibrate();
     SequenceResult measureOutcome();
     void requireChart(const SequenceResult& result);
+    QString adviceOnBrightness() const;
 
     void step(const char* name, const std::function<bool()>& call, const char* failure);
 
@@ -111,7 +116,8 @@ private:
     Core::CameraPoolComponents::CameraPtr m_camera;
     std::optional<ColorCalibration::TrapezoidPoints> m_gridBefore;
     bool m_isLost = false;
-    double m_hitRate = 0.0;
+    double m_hitRate = 0.0;         ///< of the latest image, in percent
+    double m_measuredHitRate = 0.0; ///< of the one that the calibration was computed from
 };
 
 } // namespace ColorCalibrate

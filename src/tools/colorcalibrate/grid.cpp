@@ -129,8 +129,9 @@ TrapezoidPoints toGrid(const ColorCalibration::ColorCorrectionAutoChartFinderRes
                      .arg(image.width())
                      .arg(image.height())
                : QStringLiteral("no chart was found in the image; the whole of it must be in "
-                                "the image, upright and at least a fifth of the image wide; or "
-                                "give its corners by hand"));
+                                "the image, upright and at least a fifth of the image wide, and "
+                                "its colors must not be changed beyond recognition; or give its "
+                                "corners by hand"));
 }
 
 TrapezoidPoints findGrid(const QImage& image)

@@ -20,20 +20,22 @@ struct Handled
     void (*handler)(int);
 };
 
-const std::array<Handled, 4> handled{{
+const std::vector<Handled> handled{
     {SIGINT, keepRequest},
     {SIGTERM, keepRequest},
+#ifndef _WIN32
     {SIGHUP, keepRequest},
     {SIGPIPE, SIG_IGN},
-}};
+#endif
+};
 
 } // namespace
 
 Interruption::Interruption()
 {
     requested = 0;
-    for (std::size_t i = 0; i < handled.size(); ++i)
-        m_previous[i] = std::signal(handled[i].signal, handled[i].handler);
+    for (const Handled& each : handled)
+        m_previous.push_back(std::signal(each.signal, each.handler));
     // Whoever started the program may want it to go on, as "nohup" does.
     for (std::size_t i = 0; i < handled.size(); ++i)
         if (m_previous[i] == SIG_IGN)

@@ -2,7 +2,7 @@
 // Ctrl-C during long work.
 #pragma once
 
-#include <array>
+#include <vector>
 
 namespace ColorCalibrate {
 
@@ -22,7 +22,7 @@ public:
 
 private:
     using Handler = void (*)(int);
-    std::array<Handler, 4> m_previous;
+    std::vector<Handler> m_previous; ///< of each signal that is kept, in their order
 };
 
 } // namespace ColorCalibrate

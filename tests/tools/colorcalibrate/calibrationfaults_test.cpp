@@ -41,17 +41,17 @@ protected:
         m_host.setExposure(exposure);
     }
 
-    /// Lets a fault happen as soon as a step begins.
+    /// Lets a fault happen as soon as a step begins, "again" where it comes a second time.
     QString run(const QString& stepOfFault, const std::function<void()>& fault)
     {
         m_steps.clear();
         CalibrationSequence sequence(
             m_host.model(),
             [&](const QString& step) {
-                // Neutral settings are set twice, and so on: the first time counts.
-                if (step == stepOfFault && !m_steps.contains(step))
+                const QString name = m_steps.contains(step) ? step + " again" : step;
+                if (name == stepOfFault && !m_steps.contains(name))
                     fault();
-                m_steps.append(step);
+                m_steps.append(name);
             },
             [] { return false; });
         SequenceOptions options;
@@ -71,6 +71,8 @@ protected:
     QStringList allSteps()
     {
         EXPECT_EQ(run({}, [] {}).toStdString(), "");
+        EXPECT_TRUE(m_steps.contains("Setting neutral settings again"));
+        EXPECT_TRUE(m_steps.contains("Restoring exposure time and gain again"));
         QStringList steps = m_steps;
         steps.removeDuplicates();
         return steps;

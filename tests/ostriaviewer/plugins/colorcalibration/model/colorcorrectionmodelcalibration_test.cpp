@@ -354,6 +354,16 @@ TEST_F(ModelCalibrationTest, AMirroredGridCalibratesTheWrongColorsWithoutAWord)
     EXPECT_EQ(text(logTexts()), "");
 }
 
+TEST_F(ModelCalibrationTest, AGridBesideTheChartCalibratesTheWrongColorsWithoutAWord)
+{
+    ASSERT_TRUE(open());
+    // The first column lies beside the chart by half of it, and all others on two patches each.
+    m_model.SetGridPosition(TrapezoidPoints({4, 8}, {100, 8}, {4, 72}, {100, 72}));
+    EXPECT_TRUE(m_model.ApplyInitialColorPatchValues());
+    EXPECT_TRUE(m_model.ExecuteCalibrationAndApply());
+    EXPECT_EQ(text(logTexts()), "");
+}
+
 TEST_F(ModelCalibrationTest, AGrayImageCannotBeCalibratedAndChangesNothing)
 {
     ASSERT_TRUE(open());
