@@ -289,7 +289,10 @@ Rectangle {
 
     Keys.onReturnPressed: goOn(event)
     Keys.onEnterPressed: goOn(event)
-    Keys.onEscapePressed: navigation.jumpCancel()
+    Keys.onEscapePressed: {
+        if (!event.isAutoRepeat)
+            navigation.jumpCancel()
+    }
     Keys.onPressed: {
         if (progress.moving)
             event.accepted = true
