@@ -566,6 +566,25 @@ Do you want to close them and use the settings?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::ClosingQuestion</name>
+    <message>
+        <source>Pictures of these cameras are being recorded:
+
+%1
+
+Do you want to end the recording and close the viewer?</source>
+        <translation>次のカメラの画像を録画しています：
+
+%1
+
+録画を終了してビューアーを閉じますか？</translation>
+    </message>
+    <message>
+        <source>&amp;End Recording</source>
+        <translation>録画を終了(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::FeatureModel</name>
     <message>
         <source>Execute</source>

@@ -566,6 +566,25 @@ Do you want to close them and use the settings?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::ClosingQuestion</name>
+    <message>
+        <source>Pictures of these cameras are being recorded:
+
+%1
+
+Do you want to end the recording and close the viewer?</source>
+        <translation>다음 카메라의 이미지를 녹화하고 있습니다.
+
+%1
+
+녹화를 종료하고 뷰어를 닫으시겠습니까?</translation>
+    </message>
+    <message>
+        <source>&amp;End Recording</source>
+        <translation>녹화 종료(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::FeatureModel</name>
     <message>
         <source>Execute</source>

@@ -566,6 +566,25 @@ Do you want to close them and use the settings?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::ClosingQuestion</name>
+    <message>
+        <source>Pictures of these cameras are being recorded:
+
+%1
+
+Do you want to end the recording and close the viewer?</source>
+        <translation>正在录制以下相机的图像：
+
+%1
+
+是否结束录制并关闭查看器？</translation>
+    </message>
+    <message>
+        <source>&amp;End Recording</source>
+        <translation>结束录制(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::FeatureModel</name>
     <message>
         <source>Execute</source>
