@@ -15,6 +15,15 @@ namespace {
 // So many at once that dropping costs nothing to speak of.
 constexpr int droppedAtOnce = 1000;
 
+void shorten(QString& text)
+{
+    constexpr int longest = MessageLogModel::longestText;
+    if (text.size() <= longest)
+        return;
+    text.truncate(text.at(longest - 1).isHighSurrogate() ? longest - 1 : longest);
+    text.append(QChar(0x2026));
+}
+
 QStyle::StandardPixmap pixmapOf(Core::Logging::ELogLevel level)
 {
     switch (level) {
@@ -40,6 +49,7 @@ void MessageLogModel::add(LogMessage message)
 {
     if (message.time.isNull())
         message.time = QDateTime::currentDateTime();
+    shorten(message.text);
     if (!message.isTechnical && !m_messages.empty()) {
         LogMessage& last = m_messages.back();
         if (last.isTechnical && last.level == message.level && last.text == message.text) {

@@ -22,7 +22,8 @@ struct LogMessage
 };
 
 /// Keeps the newest messages; of more than `capacity` the oldest of the lowest level are dropped.
-/// Thread-bound: GUI thread.
+/// Of a text, which anybody may have written, it keeps the beginning: whoever shows it lays all
+/// out. Thread-bound: GUI thread.
 class MessageLogModel final : public QAbstractTableModel
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ public:
     enum Role { LevelRole = Qt::UserRole };
 
     static constexpr int capacity = 10000;
+    static constexpr int longestText = 1000; ///< in characters, without the "…" of a cut
 
     explicit MessageLogModel(QObject* parent = nullptr);
 

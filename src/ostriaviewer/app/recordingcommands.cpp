@@ -79,6 +79,21 @@ void RecordingCommands::setFolder(const QString& folder)
     m_settings.setValue(folderName, folder);
 }
 
+QStringList RecordingCommands::recorded() const
+{
+    QStringList names;
+    for (auto recorder = m_recorders.begin(); recorder != m_recorders.end(); ++recorder)
+        names.append(recorder.key()->displayName());
+    names.sort();
+    return names;
+}
+
+void RecordingCommands::stopAll()
+{
+    for (Recorder* recorder : m_recorders)
+        recorder->stop();
+}
+
 void RecordingCommands::toggle(bool isWanted)
 {
     const HostCameraPtr camera = m_commands.camera();
@@ -160,6 +175,8 @@ void RecordingCommands::onFinished(const HostCameraPtr& camera, const RecordingR
                           .arg(camera->displayName(), folder),
                       false);
     m_cameras.announce(camera);
+    if (m_recorders.isEmpty())
+        emit allEnded();
 }
 
 void RecordingCommands::update()

@@ -35,6 +35,12 @@ public:
     QString folder() const;
     void setFolder(const QString& folder);
 
+    /// The cameras whose recordings have not ended, by name.
+    QStringList recorded() const;
+
+    /// Ends all recordings; `allEnded` tells when they are written.
+    void stopAll();
+
     /// Enables and checks the actions for the camera that is selected now.
     void update();
 
@@ -43,6 +49,9 @@ public:
 signals:
     /// What the user should know; `isFailure` if the recording is not what was asked for.
     void reported(const QString& text, bool isFailure);
+
+    /// The last recording that ran has ended, and what is to be known of it has been reported.
+    void allEnded();
 
     /// The user wants to choose the folder.
     void folderRequested();

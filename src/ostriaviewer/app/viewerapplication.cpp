@@ -44,6 +44,7 @@ ViewerApplication::ViewerApplication(ViewerArguments arguments,
     m_window->menu().showLanguage(m_language);
     m_cameraSettings =
         std::make_unique<CameraSettingsCommands>(m_sources, m_cameras, m_settings, *m_window);
+    m_closingQuestion = std::make_unique<ClosingQuestion>(m_window->recording(), *m_window);
     auto* line = new QAction(m_window.get());
     line->setSeparator(true);
     m_window->menu().addToCamera(line);
@@ -269,12 +270,14 @@ void ViewerApplication::showAbout()
 
 bool ViewerApplication::mayClose()
 {
-    return !QApplication::activeModalWidget() && m_plugins.checkClosability(false);
+    return !QApplication::activeModalWidget() && m_plugins.checkClosability(false) &&
+           (m_isQuitting || m_closingQuestion->mayClose());
 }
 
 // A dialog runs an event loop of its own, which must have ended before the window does.
 void ViewerApplication::quit()
 {
+    m_isQuitting = true;
     QWidget* dialog = QApplication::activeModalWidget();
     if (!dialog) {
         m_window->close();

@@ -6,6 +6,7 @@
 #include "camerapool.h"
 #include "camerasettingscommands.h"
 #include "camerasources.h"
+#include "closingquestion.h"
 #include "deviceselectorservice.h"
 #include "language.h"
 #include "mainwindow.h"
@@ -37,7 +38,8 @@ public:
     /// Shows the window, begins to look for cameras, and loads the plugins.
     void start();
 
-    /// Closes dialogs that are open, then the window. What runs in a dialog is cancelled.
+    /// Closes dialogs that are open, then the window, and asks nothing. What runs in a dialog is
+    /// cancelled.
     void quit();
 
     MainWindow& window() { return *m_window; }
@@ -83,6 +85,8 @@ private:
     CameraSources m_sources;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<CameraSettingsCommands> m_cameraSettings;
+    std::unique_ptr<ClosingQuestion> m_closingQuestion;
+    bool m_isQuitting = false;
     PluginManager m_plugins; // ends first
 };
 

@@ -7,7 +7,6 @@
 #include "settingsfile.h"
 
 #include <QFile>
-#include <QSet>
 
 namespace ColorCalibrate {
 
@@ -26,17 +25,9 @@ QString readPreviousSettings(const QString& fileName)
 void requireOwnSettings(const QString& text, const QString& fileName,
                         Core::ParameterCollection::IParameterCollection& parameters)
 {
-    const QVector<QString> names = ColorCalibration::settingNames(text);
-    QSet<QString> foreign;
-    for (const QString& name : names) {
-        if (foreign.contains(name))
-            continue;
-        if (!parameters.parameter(name)->isEmpty())
-            return;
-        foreign.insert(name);
-    }
-    throw CommandError(
-        QStringLiteral("%1: the camera has none of the features in this file").arg(fileName));
+    if (!ColorCalibration::hasOwnSettings(text, parameters))
+        throw CommandError(
+            QStringLiteral("%1: the camera has none of the features in this file").arg(fileName));
 }
 
 } // namespace ColorCalibrate

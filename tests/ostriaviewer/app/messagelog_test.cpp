@@ -67,6 +67,22 @@ TEST_F(MessageLogTest, ShowsOnceWhatIsWrittenToTheLogAndToTheUser)
     EXPECT_EQ(m_model.message(0).source, "Somebody");
 }
 
+TEST_F(MessageLogTest, KeepsTheBeginningOfATextThatIsTooLong)
+{
+    const QString kept(MessageLogModel::longestText, 'x');
+    const QString ellipsis = QString::fromUtf8("…");
+    QStringList told;
+    QObject::connect(&m_model, &MessageLogModel::added, &m_model,
+                     [&](const LogMessage& message) { told << message.text; });
+    m_service.addEntry(Warning, "Somebody", kept, {});
+    m_service.addEntry(Warning, "Somebody", kept + QString(999'000, 'x'), {});
+    m_service.addEntry(Warning, "Somebody", kept.chopped(1) + QString::fromUtf8("😀"), {});
+    EXPECT_EQ(told, QStringList({kept, kept + ellipsis, kept.chopped(1) + ellipsis}));
+    createLogEntry(Warning, getCatId("a.category"), kept + "twice");
+    m_service.addEntry(Warning, "Somebody", kept + "twice", {});
+    EXPECT_EQ(m_model.rowCount(), 4);
+}
+
 TEST_F(MessageLogTest, KeepsEqualMessagesOfOneSource)
 {
     m_service.addEntry(Warning, "Somebody", "again", {});

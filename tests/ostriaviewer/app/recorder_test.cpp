@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPushButton>
 #include <QSignalSpy>
 
 #include <csignal>
@@ -99,6 +100,77 @@ TEST_F(RecorderTest, CountsFramesThatTheCameraFailedToDeliver)
     m_first->faults().loseConnectionAfter(4);
     startRecording();
     EXPECT_TRUE(waitUntil([this] { return hasMessage("2 failed in the camera"); }));
+}
+
+/// The window is closed while its first camera is recorded.
+class ClosedWhileRecording : public RecorderTest
+{
+protected:
+    void closeWhileRecording()
+    {
+        startRecording();
+        ASSERT_TRUE(waitUntil([this] { return recording().entryList({"*.png"}).size() >= 2; }));
+        window().close();
+        ASSERT_TRUE(window().isVisible());
+        ASSERT_TRUE(messageBox());
+        EXPECT_EQ(messageBox()->windowTitle(), "Ostria Viewer");
+        EXPECT_EQ(messageBox()->text(),
+                  "Pictures of these cameras are being recorded:\n\n" + m_first->displayName() +
+                      "\n\nDo you want to end the recording and close the viewer?");
+        EXPECT_TRUE(messageBox()->defaultButton() == messageBox()->button(QMessageBox::Cancel));
+    }
+
+    static void answer(const QString& text)
+    {
+        for (QAbstractButton* button : messageBox()->buttons())
+            if (button->text() == text)
+                return button->click();
+        FAIL() << "no button " << qPrintable(text);
+    }
+};
+
+TEST_F(ClosedWhileRecording, AsksAndGoesOnIfItIsToGoOn)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    const int written = recording().entryList({"*.png"}).size();
+    answer("Cancel");
+    EXPECT_TRUE(waitUntil([&] { return recording().entryList({"*.png"}).size() > written + 2; }));
+    EXPECT_TRUE(window().isVisible());
+    QTest::keyClick(&window(), Qt::Key_F7);
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    EXPECT_TRUE(window().isVisible()) << "who has gone on is not closed later";
+    window().close();
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(ClosedWhileRecording, ClosesWhenAllIsWritten)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    QObject::connect(&window().recording(), &RecordingCommands::reported, &window(),
+                     [this] { EXPECT_TRUE(window().isVisible()); });
+    answer("&End Recording");
+    EXPECT_TRUE(waitUntil([this] { return !window().isVisible(); }));
+    EXPECT_TRUE(hasMessage("Recorded"));
+}
+
+TEST_F(ClosedWhileRecording, ClosesWhereTheRecordingHasEndedByItself)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    m_first->loseConnection();
+    ASSERT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    ASSERT_TRUE(window().isVisible());
+    answer("&End Recording");
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(ClosedWhileRecording, QuittingAsksNothing)
+{
+    startRecording();
+    ASSERT_TRUE(waitUntil([this] { return recording().entryList({"*.png"}).size() >= 2; }));
+    m_viewer->quit();
+    EXPECT_FALSE(window().isVisible());
+    m_viewer.reset();
+    EXPECT_GE(recording().entryList({"*.png"}).size(), 2);
 }
 
 TEST_F(RecorderTest, TellsThatTheFolderCannotBeMade)

@@ -104,6 +104,7 @@ public:
     bool CreateSettingsBackup(bool /*initialImage*/) override { return true; }
     bool RestoreSettingsBackup(bool /*initialImage*/) override { return true; }
     bool IsBackupOwed() const override { return false; }
+    bool AreOwnSettings(const QString& /*settings*/) override { return true; }
     void ActivateMonoImage() override {}
     void cameraRemoved() override {}
 

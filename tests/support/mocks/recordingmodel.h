@@ -64,6 +64,7 @@ public:
         return note("RestoreSettingsBackup", initial);
     }
     bool IsBackupOwed() const override { return isBackupOwed; }
+    bool AreOwnSettings(const QString&) override { return !refused.contains("AreOwnSettings"); }
     void ActivateMonoImage() override { note("ActivateMonoImage"); }
     bool AutoAdjustGray80PercentPatch() override { return note("AutoAdjustGray80PercentPatch"); }
     Trapezoid GetGridPosition() override { return outline; }

@@ -38,7 +38,8 @@ TEST_F(PreviousSettings, OtherFilesAreRefused)
     for (const QByteArray& content :
          {QByteArray(), QByteArray("# Gamma\t1\n"), QByteArray("Gamma 1\n"), QByteArray("\t1\n"),
           QByteArray("\x7f"
-                     "ELF\1\2\3")}) {
+                     "ELF\1\2\3"),
+          QByteArray("Gamma\t1\n\0", 9)}) {
         const QString file = writeFile(QStringLiteral("b.cst"), content);
         const std::string message = refusal(file);
         EXPECT_NE(message.find("no settings file"), std::string::npos) << message;

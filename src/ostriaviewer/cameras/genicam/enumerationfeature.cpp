@@ -4,6 +4,7 @@
 
 #include "gerrorslot_p.h"
 #include "nodeproperties_p.h"
+#include "shown_p.h"
 
 #include <arv.h>
 
@@ -83,7 +84,7 @@ void setEnumeration(const Feature& feature, const QString& entry)
         feature.check(error);
         return;
     }
-    feature.fail(FeatureTexts::tr("there is no entry \"%1\"").arg(entry));
+    feature.fail(FeatureTexts::tr("there is no entry \"%1\"").arg(shown(QStringRef(&entry))));
 }
 
 } // namespace Cameras::GenICam

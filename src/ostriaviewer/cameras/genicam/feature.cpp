@@ -7,6 +7,7 @@
 #include "librarylog_p.h"
 #include "nodemap_p.h"
 #include "nodeproperties_p.h"
+#include "withoutfullstop_p.h"
 
 #include <arv.h>
 
@@ -202,9 +203,7 @@ void Feature::check(const GErrorSlot& error) const
     const QString prefix = m_name + QLatin1String(": ");
     if (reason.startsWith(prefix))
         reason.remove(0, prefix.size());
-    if (reason.endsWith(QLatin1Char('.')) || reason.endsWith(QChar(0x3002)))
-        reason.chop(1);
-    fail(reason);
+    fail(withoutFullStop(reason));
 }
 
 } // namespace Cameras::GenICam

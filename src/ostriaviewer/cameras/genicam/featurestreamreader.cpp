@@ -4,6 +4,7 @@
 
 #include "genicamexception.h"
 #include "nodemap_p.h"
+#include "shown_p.h"
 #include "textfeature_p.h"
 
 #include <QCoreApplication>
@@ -24,16 +25,6 @@ struct Texts
 
 constexpr int mostErrors = 1000;
 constexpr int mostPasses = 5;
-
-/// What to show of a name that may be anything.
-QString shown(const QStringRef& name)
-{
-    constexpr int longest = 40;
-    QString result;
-    for (const QChar character : name.left(longest))
-        result.append(character.isPrint() ? character : QChar(0xFFFD));
-    return name.size() > longest ? result + QChar(0x2026) : result;
-}
 
 /// What a badly written line may have meant as its name.
 QStringRef firstWord(const QStringRef& line)

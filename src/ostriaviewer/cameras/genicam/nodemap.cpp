@@ -8,6 +8,7 @@
 #include "nodemap_p.h"
 #include "patience.h"
 #include "registerdevice_p.h"
+#include "withoutfullstop_p.h"
 
 #include <arv.h>
 
@@ -46,10 +47,9 @@ QString checkDescription(const std::string& xml)
     while (!reader.atEnd())
         reader.readNext();
     if (reader.hasError()) {
-        QString reason = reader.errorString();
-        if (reason.endsWith(QLatin1Char('.')))
-            reason.chop(1);
-        refuseDescription(Texts::tr("line %1: %2").arg(reader.lineNumber()).arg(reason));
+        refuseDescription(Texts::tr("line %1: %2")
+                              .arg(reader.lineNumber())
+                              .arg(withoutFullStop(reader.errorString())));
     }
     return model;
 }

@@ -210,6 +210,9 @@ TEST_F(FeatureStreamReader, KeepsTheListOfErrorsReadable)
     EXPECT_EQ(errors.count(QLatin1Char('\n')), 1001);
     EXPECT_TRUE(errors.endsWith("And 99000 more lines.\n"_q));
     EXPECT_LT(load(QString(1000, QChar(1))).size(), 100);
+    const QString longValue = "PixelFormat\t"_q + QString(1'000'000, QLatin1Char('x')) + "\n"_q;
+    EXPECT_EQ(load(longValue), "Line 1: PixelFormat: there is no entry \""_q +
+                                   QString(40, QLatin1Char('x')) + QChar(0x2026) + "\".\n"_q);
 }
 
 TEST_F(FeatureStreamReader, ShowsOfANameWhatCanBeRead)

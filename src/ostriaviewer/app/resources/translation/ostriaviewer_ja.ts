@@ -72,8 +72,12 @@
         <translation>カメラ「%1」の機能記述を使用できません（%2）。</translation>
     </message>
     <message>
-        <source>The camera &quot;%1&quot; does not answer%2.</source>
-        <translation>カメラ「%1」が応答しません%2。</translation>
+        <source>The camera &quot;%1&quot; does not answer (%2).</source>
+        <translation>カメラ「%1」が応答しません（%2）。</translation>
+    </message>
+    <message>
+        <source>The camera &quot;%1&quot; does not answer.</source>
+        <translation>カメラ「%1」が応答しません。</translation>
     </message>
     <message>
         <source>The camera is being used by another application.</source>
@@ -97,7 +101,7 @@
     </message>
     <message>
         <source>%1: the camera does not take packets of %2 bytes, as the settings want them; it uses packets of %3 bytes.</source>
-        <translation>%1：カメラは設定された %2 バイトのパケットに対応していません。%3 バイトのパケットを使用します。</translation>
+        <translation>%1：カメラは設定された %2バイトのパケットに対応していません。%3バイトのパケットを使用します。</translation>
     </message>
     <message>
         <source>the camera refuses it</source>
@@ -590,6 +594,25 @@ Do you want to close them and use the settings?</source>
     <message>
         <source>&amp;Close Cameras</source>
         <translation>カメラを閉じる(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ClosingQuestion</name>
+    <message>
+        <source>Pictures of these cameras are being recorded:
+
+%1
+
+Do you want to end the recording and close the viewer?</source>
+        <translation>次のカメラの画像を録画しています：
+
+%1
+
+録画を終了してビューアーを閉じますか？</translation>
+    </message>
+    <message>
+        <source>&amp;End Recording</source>
+        <translation>録画を終了(&amp;E)</translation>
     </message>
 </context>
 <context>

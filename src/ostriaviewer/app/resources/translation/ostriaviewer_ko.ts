@@ -72,8 +72,12 @@
         <translation>&quot;%1&quot; 카메라의 기능 설명 파일을 사용할 수 없습니다(%2).</translation>
     </message>
     <message>
-        <source>The camera &quot;%1&quot; does not answer%2.</source>
-        <translation>&quot;%1&quot; 카메라가 응답하지 않습니다%2.</translation>
+        <source>The camera &quot;%1&quot; does not answer (%2).</source>
+        <translation>&quot;%1&quot; 카메라가 응답하지 않습니다(%2).</translation>
+    </message>
+    <message>
+        <source>The camera &quot;%1&quot; does not answer.</source>
+        <translation>&quot;%1&quot; 카메라가 응답하지 않습니다.</translation>
     </message>
     <message>
         <source>The camera is being used by another application.</source>
@@ -590,6 +594,25 @@ Do you want to close them and use the settings?</source>
     <message>
         <source>&amp;Close Cameras</source>
         <translation>카메라 닫기(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ClosingQuestion</name>
+    <message>
+        <source>Pictures of these cameras are being recorded:
+
+%1
+
+Do you want to end the recording and close the viewer?</source>
+        <translation>다음 카메라의 이미지를 녹화하고 있습니다.
+
+%1
+
+녹화를 종료하고 뷰어를 닫으시겠습니까?</translation>
+    </message>
+    <message>
+        <source>&amp;End Recording</source>
+        <translation>녹화 종료(&amp;E)</translation>
     </message>
 </context>
 <context>

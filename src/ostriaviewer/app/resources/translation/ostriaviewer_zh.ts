@@ -72,8 +72,12 @@
         <translation>无法使用相机“%1”的功能描述文件（%2）。</translation>
     </message>
     <message>
-        <source>The camera &quot;%1&quot; does not answer%2.</source>
-        <translation>相机“%1”没有响应%2。</translation>
+        <source>The camera &quot;%1&quot; does not answer (%2).</source>
+        <translation>相机“%1”没有响应（%2）。</translation>
+    </message>
+    <message>
+        <source>The camera &quot;%1&quot; does not answer.</source>
+        <translation>相机“%1”没有响应。</translation>
     </message>
     <message>
         <source>The camera is being used by another application.</source>
@@ -590,6 +594,25 @@ Do you want to close them and use the settings?</source>
     <message>
         <source>&amp;Close Cameras</source>
         <translation>关闭相机(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ClosingQuestion</name>
+    <message>
+        <source>Pictures of these cameras are being recorded:
+
+%1
+
+Do you want to end the recording and close the viewer?</source>
+        <translation>正在录制以下相机的图像：
+
+%1
+
+是否结束录制并关闭查看器？</translation>
+    </message>
+    <message>
+        <source>&amp;End Recording</source>
+        <translation>结束录制(&amp;E)</translation>
     </message>
 </context>
 <context>

@@ -132,9 +132,10 @@ std::shared_ptr<Device> Device::open(const QString& id, const TransportSettings&
     if (!device && error.isAboutDescription())
         fail(Texts::tr("The description of the camera \"%1\" cannot be used (%2).")
                  .arg(id, error.reason()));
+    if (!device && error.isSet())
+        fail(Texts::tr("The camera \"%1\" does not answer (%2).").arg(id, error.reason()));
     if (!device)
-        fail(Texts::tr("The camera \"%1\" does not answer%2.")
-                 .arg(id, error.isSet() ? QStringLiteral(" (%1)").arg(error.reason()) : QString()));
+        fail(Texts::tr("The camera \"%1\" does not answer.").arg(id));
     if (ARV_IS_GV_DEVICE(device) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device))) {
         g_object_unref(device);
         fail(Texts::tr("The camera is being used by another application."));

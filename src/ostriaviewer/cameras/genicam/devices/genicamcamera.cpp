@@ -61,8 +61,8 @@ void log(const QString& text, Core::Logging::ELogLevel level = Core::Logging::Wa
 QString noAnswer(const QString& id)
 {
     return QCoreApplication::translate("Cameras::GenICam::Device",
-                                       "The camera \"%1\" does not answer%2.")
-        .arg(id, QString());
+                                       "The camera \"%1\" does not answer.")
+        .arg(id);
 }
 
 /// The text of a feature that names something; empty if it cannot be read.

@@ -278,7 +278,7 @@ Rectangle {
     onAutoRefreshCheckedChanged: qmlModelInterface.singleShotEnabled = !autoRefreshChecked
 
     // A key that is held goes no further than one that is pressed.
-    Keys.onReturnPressed: {
+    function goOn(event) {
         if (event.isAutoRepeat || progress.moving)
             return
         if (qmlModelInterface.activeStep === iStep2)
@@ -286,7 +286,13 @@ Rectangle {
         else
             navigation.jumpNext()
     }
-    Keys.onEscapePressed: navigation.jumpCancel()
+
+    Keys.onReturnPressed: goOn(event)
+    Keys.onEnterPressed: goOn(event)
+    Keys.onEscapePressed: {
+        if (!event.isAutoRepeat)
+            navigation.jumpCancel()
+    }
     Keys.onPressed: {
         if (progress.moving)
             event.accepted = true

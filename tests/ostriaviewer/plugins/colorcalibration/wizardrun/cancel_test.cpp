@@ -2,8 +2,12 @@
 // Who leaves the wizard without Finish gets the camera back as it was, whichever way out he takes.
 #include "wizardrun.h"
 
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace {
 
@@ -47,6 +51,62 @@ TEST_P(CancelOnStep, LeavesTheCameraAsItWas)
         confirmIfAsked();
     });
     cancelBy("window closed", [this] { m_dialog->close(); });
+}
+
+class HeldEscape : public WizardRun
+{
+protected:
+    template <typename Receiver>
+    static void repeat(Receiver* receiver)
+    {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(receiver, &event);
+    }
+};
+
+TEST_F(HeldEscape, LeavesTheQuestionOpen)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    run([this] {
+        ASSERT_NO_FATAL_FAILURE(goTo(2));
+        press(Qt::Key_Escape);
+        ASSERT_TRUE(waitFor([] { return box() != nullptr; }));
+        const QPointer<QMessageBox> question = box();
+        repeat(question->button(QMessageBox::No));
+        repeat(question->windowHandle());
+        ASSERT_TRUE(question && question->isVisible());
+
+        question->button(QMessageBox::No)->click();
+        repeat(m_dialog.get());
+        repeat(m_dialog->windowHandle());
+        repeat(m_data->view());
+        EXPECT_TRUE(m_dialog->isVisible());
+        EXPECT_FALSE(box());
+        EXPECT_EQ(m_data->activeStep(), 2);
+        m_dialog->close();
+    });
+}
+
+class QuestionOfTheWizard : public WizardRun
+{};
+
+TEST_F(QuestionOfTheWizard, StandsOverItsWindow)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    run([this] {
+        ASSERT_NO_FATAL_FAILURE(goTo(2));
+        for (const QPoint& place : {QPoint(0, 0), QPoint(300, 200)}) {
+            m_dialog->move(place);
+            click("cancelButton");
+            ASSERT_TRUE(waitFor([] { return box() != nullptr; }));
+            EXPECT_EQ(box()->windowHandle()->transientParent(), m_dialog->windowHandle());
+            const QPoint from = box()->geometry().center() - m_dialog->geometry().center();
+            EXPECT_LE(from.manhattanLength(), 2);
+            box()->button(QMessageBox::No)->click();
+            ASSERT_TRUE(waitFor([] { return box() == nullptr; }));
+        }
+        m_dialog->close();
+    });
 }
 
 class ImpatientUser : public WizardRun

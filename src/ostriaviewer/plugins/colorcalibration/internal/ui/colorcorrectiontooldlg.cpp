@@ -6,10 +6,12 @@
 #include "modalbox.h"
 #include "qmldatamodelinterface.h"
 #include "qmlostriacamera.h"
+#include "sceneboxes.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 
@@ -74,6 +76,7 @@ void ColorCorrectionToolDlg::connectDataModel()
 int ColorCorrectionToolDlg::exec()
 {
     const QPointer<ColorCorrectionToolDlg> self(this);
+    const SceneBoxes boxes(this);
     m_running = true;
     const int result = QDialog::exec();
     // The application quit, or the parent's end took the window from the screen.
@@ -92,6 +95,16 @@ void ColorCorrectionToolDlg::tellRestoreFailure()
         showModalBox(BoxIcon::Error,
                      QCoreApplication::translate("ColorCorrectionToolDlg", "Color Calibrator"),
                      failure, QMessageBox::Ok, QMessageBox::Ok, Qt::PlainText);
+}
+
+// Keys come here while a message box goes away. An Escape then must not be an answer to its
+// question.
+void ColorCorrectionToolDlg::keyPressEvent(QKeyEvent* event)
+{
+    if (m_container->isHidden())
+        QDialog::keyPressEvent(event);
+    else
+        m_dataModel->view()->requestActivate();
 }
 
 void ColorCorrectionToolDlg::onDialogFinish(int /*result*/)

@@ -41,6 +41,10 @@ public slots:
     /// At level 2.
     void addLogMessage(QString message);
 
+protected:
+    /// While the scene is shown, no key ends the dialog but by the scene.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void outliveParent();
     void connectDataModel();

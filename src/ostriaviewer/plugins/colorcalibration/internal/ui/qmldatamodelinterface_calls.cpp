@@ -63,7 +63,7 @@ bool QmlDataModelInterface::loadSettings(QString cstString)
                     QStringLiteral("%1: %2").arg(cstString, file.errorString()));
             return readSettingsText(file);
         });
-    return text && m_model->LoadSettings(*text);
+    return text && m_model->AreOwnSettings(*text) && m_model->LoadSettings(*text);
 }
 
 void QmlDataModelInterface::cancel()

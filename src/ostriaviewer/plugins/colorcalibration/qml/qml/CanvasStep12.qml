@@ -233,6 +233,9 @@ Item {
                 function onPointChanged(movedX, movedY) {
                     canvasStep12.moveCorner(modelData, movedX, movedY)
                 }
+                function onMousePressed() {
+                    modelData.forceActiveFocus()
+                }
                 function onMouseReleased() {
                     canvasStep12.fitDragPointsToOutlines()
                 }

@@ -53,6 +53,7 @@ MouseArea {
             onEditingFinished: field.editFinished(text)
             Keys.priority: Keys.AfterItem
             Keys.onReturnPressed: event.accepted = field.confirmsWithReturn
+            Keys.onEnterPressed: event.accepted = field.confirmsWithReturn
         }
 
         Rectangle {

@@ -155,6 +155,18 @@ TEST_F(GridHandles, FollowTheArrowKeysByAPixel)
     EXPECT_EQ(handle("lowerRight"), QPoint(291, 242));
 }
 
+TEST_F(GridHandles, TakeTheKeysWhenTheyAreClicked)
+{
+    openGrid();
+    for (const char* name : {"lowerRight", "upperLeft"}) {
+        const QPoint from = corner(name);
+        click(name);
+        EXPECT_TRUE(item(name)->hasActiveFocus()) << name;
+        press(Qt::Key_Right);
+        EXPECT_EQ(corner(name), from + QPoint(1, 0)) << name;
+    }
+}
+
 TEST_F(GridHandles, LeaveTheirCornerForAWhileWhereAKeyIsRefused)
 {
     m_outline.m_upperLeft = {1, 100};

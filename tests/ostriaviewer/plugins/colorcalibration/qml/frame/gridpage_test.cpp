@@ -132,6 +132,30 @@ TEST_F(GridPage, PaintsBlackLinesWithWhiteOnesBeside)
     EXPECT_EQ(pixel({301, 200}), QColor(Qt::white));
 }
 
+TEST_F(GridPage, PaintsTheGridWhereItHasBeenPut)
+{
+    openAt(1);
+    const auto isAt = [this](int y) {
+        return waitFor([&] { return pixel({200, y}) == QColor(Qt::black); });
+    };
+    ASSERT_TRUE(isAt(100));
+    // Both ends of the upper line, which the arrows bring down together.
+    for (const char* corner : {"upperLeft", "upperRight"}) {
+        item(corner)->forceActiveFocus();
+        for (int pixels = 0; pixels < 5; ++pixels)
+            press(Qt::Key_Down);
+    }
+    EXPECT_TRUE(isAt(105)) << "moved";
+
+    m_outline.setProperty("upperLeft", QPoint(100, 130));
+    m_outline.setProperty("upperRight", QPoint(300, 130));
+    emit m_model.autoChartFindFinished(true);
+    EXPECT_TRUE(isAt(130)) << "found";
+
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(isAt(property("upperLeft", "y").toInt() + 8)) << "reset";
+}
+
 TEST_F(GridPage, HasHandlesOnTheFirstStepAlone)
 {
     openAt(2);

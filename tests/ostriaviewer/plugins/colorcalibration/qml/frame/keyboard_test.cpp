@@ -111,6 +111,18 @@ TEST_F(Keyboard, SpaceStartsTheAutomaticBrightness)
     EXPECT_EQ(takeCalls(), (QStringList{"stopGrab()", "autoAdjustGray80PercentPatch()"}));
 }
 
+TEST_F(Keyboard, EnterOfTheNumberPadDoesWhatReturnDoes)
+{
+    openAt(1);
+    ASSERT_TRUE(tabTo(item("textInput")));
+    press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(m_model.activeStep(), 2);
+    takeCalls();
+    press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(takeCalls(), (QStringList{"stopGrab()", "autoAdjustGray80PercentPatch()"}));
+    EXPECT_EQ(m_model.activeStep(), 2);
+}
+
 TEST_F(Keyboard, ArrowsMoveTheSliders)
 {
     openAt(2);

@@ -140,11 +140,13 @@ TEST_F(Keyboard, TakesATypedFolderWithReturnInsteadOfFinishing)
     openPage(4);
     auto* input = item("calibrationFile")->findChild<QQuickItem*>("textInput");
     input->forceActiveFocus();
-    input->setProperty("text", "/x");
-    press(Qt::Key_Return);
-    EXPECT_EQ(m_model.m_settingsFile, "/x");
-    EXPECT_FALSE(m_log.made.contains("finish()"));
-    EXPECT_EQ(m_model.activeStep(), 4);
+    for (const auto& [key, text] : {std::pair(Qt::Key_Return, "/x"), {Qt::Key_Enter, "/y"}}) {
+        input->setProperty("text", text);
+        press(key);
+        EXPECT_EQ(m_model.m_settingsFile, text);
+        EXPECT_FALSE(m_log.made.contains("finish()"));
+        EXPECT_EQ(m_model.activeStep(), 4);
+    }
 }
 
 TEST_F(Keyboard, AsksBeforeItGivesUp)

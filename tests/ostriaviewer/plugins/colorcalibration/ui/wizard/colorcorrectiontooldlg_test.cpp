@@ -16,6 +16,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -125,6 +126,32 @@ TEST_F(ColorCorrectionToolDlgTest, AClosedWindowCountsAsCancel)
     EXPECT_EQ(m_model.takeCalls(), QStringList({"StopGrabbing", "Close"}));
     run([this] { m_dialog->close(); });
     EXPECT_EQ(m_model.takeCalls(), givenBack) << "an earlier Finish counts no more";
+}
+
+TEST_F(ColorCorrectionToolDlgTest, EscapeBesideTheSceneEndsNothing)
+{
+    run([this] {
+        QTest::keyClick(m_dialog, Qt::Key_Escape);
+        EXPECT_TRUE(m_dialog->isVisible());
+        EXPECT_TRUE(m_model.calls().isEmpty());
+        EXPECT_TRUE(QTest::qWaitFor(
+            [this] { return QGuiApplication::focusWindow() == m_data->view(); }, 60000))
+            << "the keys are the scene's";
+        m_dialog->close();
+    });
+}
+
+TEST_F(ColorCorrectionToolDlgTest, EscapeLeavesThePageThatSaysWhatIsMissing)
+{
+    delete m_dialog;
+    m_scene = std::make_unique<Scene>("missingmodule");
+    make(&m_window);
+    run([this] {
+        QTest::keyClick(m_dialog, Qt::Key_Escape);
+        EXPECT_FALSE(m_dialog->isVisible());
+        m_dialog->close();
+    });
+    EXPECT_EQ(m_model.calls(), givenBack);
 }
 
 TEST_F(ColorCorrectionToolDlgTest, SettingsThatCannotBeGivenBackAreToldWhenTheWindowHasGone)

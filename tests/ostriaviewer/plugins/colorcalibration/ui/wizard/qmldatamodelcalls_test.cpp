@@ -185,6 +185,18 @@ TEST_F(QmlDataModelCallsTest, SettingsAreReadFromAFile)
     EXPECT_FALSE(m_data.loadSettings(path));
 }
 
+TEST_F(QmlDataModelCallsTest, SettingsOfAnotherCameraAreNotLoaded)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("other.cst"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("Gain\t3\n");
+    file.close();
+    m_model.refused = {"AreOwnSettings"};
+    EXPECT_FALSE(m_data.loadSettings(file.fileName()));
+    EXPECT_TRUE(m_model.calls().isEmpty());
+}
+
 TEST_F(QmlDataModelCallsTest, AFileThatCannotBeReadDoesNotTouchTheCamera)
 {
     const QTemporaryDir folder;
@@ -196,6 +208,10 @@ TEST_F(QmlDataModelCallsTest, AFileThatCannotBeReadDoesNotTouchTheCamera)
     binary.write(QByteArray(1000, '\xfe'));
     binary.close();
     EXPECT_FALSE(m_data.loadSettings(binary.fileName()));
+    ASSERT_TRUE(binary.open(QIODevice::WriteOnly));
+    binary.write(QByteArray("Gain\t3\n\0\1", 9));
+    binary.close();
+    EXPECT_FALSE(m_data.loadSettings(binary.fileName())) << "with a line that is a setting";
     if (QFile::exists("/dev/zero")) {
         EXPECT_FALSE(m_data.loadSettings("/dev/zero")) << "a file without end";
     }

@@ -44,7 +44,7 @@ public:
     virtual bool LoadSettings(const QString& settings) = 0;
 
     /// Reads all text from the device, which stays the caller's, and applies it. False if that has
-    /// no setting, or is more than a settings file can be.
+    /// no setting of a feature of the camera, or is more than a settings file can be.
     virtual bool LoadSettingsFromDevice(QIODevice* device) = 0;
 
     /// Switches all colour processing and all automatic functions off. True also without an open
@@ -69,6 +69,11 @@ public:
     /// Whether the camera may hold other settings than the backup for giving it back, although no
     /// calibration was written since. Answers for a lost camera, too, until it is closed.
     virtual bool IsBackupOwed() const = 0;
+
+    /// Whether the camera has the feature of at least one setting in the text of a settings file:
+    /// LoadSettings would skip each line of another camera's. If not, the log says so. True also
+    /// without an open camera.
+    virtual bool AreOwnSettings(const QString& settings) = 0;
 };
 
 } // namespace ColorCalibration

@@ -120,6 +120,11 @@ bool ColorCorrectionModel::IsBackupOwed() const
     return m_impl->IsBackupOwed();
 }
 
+bool ColorCorrectionModel::AreOwnSettings(const QString& settings)
+{
+    return m_impl->AreOwnSettings(settings);
+}
+
 void ColorCorrectionModel::ActivateMonoImage()
 {
     m_impl->ActivateMonoImage();

@@ -72,6 +72,7 @@ public:
     bool RestoreSettingsBackup(bool initialImage) override;
     void ActivateMonoImage() override;
     bool IsBackupOwed() const override;
+    bool AreOwnSettings(const QString& settings) override;
 
     bool AutoAdjustGray80PercentPatch() override;
     TrapezoidPoints GetGridPosition() override;

@@ -129,7 +129,22 @@ bool ColorCorrectionModelImpl::LoadSettingsFromDevice(QIODevice* device)
     return guarded("", "ColorCorrectionModelImpl::LoadSettingsFromDevice", false, [&] {
         if (!isCameraOpen() || !device)
             return false;
-        return LoadSettings(readSettingsText(*device));
+        const QString settings = readSettingsText(*device);
+        return AreOwnSettings(settings) && LoadSettings(settings);
+    });
+}
+
+bool ColorCorrectionModelImpl::AreOwnSettings(const QString& settings)
+{
+    const QMutexLocker lock(&m_mutex);
+    return guarded("", "ColorCorrectionModelImpl::AreOwnSettings", false, [&] {
+        if (!isCameraOpen())
+            return true;
+        const auto parameters = m_imageCamera->ParameterCollection();
+        if (parameters && !hasOwnSettings(settings, *parameters))
+            throw Core::Exception::BaseException(
+                QStringLiteral("The camera has none of the features in this settings file."));
+        return true;
     });
 }
 

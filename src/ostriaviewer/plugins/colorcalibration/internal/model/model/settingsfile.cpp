@@ -5,6 +5,7 @@
 #include "baseexception.h"
 
 #include <QFileDevice>
+#include <QSet>
 #include <QStringRef>
 
 namespace ColorCalibration {
@@ -29,10 +30,14 @@ QByteArray readAll(QIODevice& device)
 
 QString readSettingsText(QIODevice& device)
 {
-    const QString text = QString::fromUtf8(readAll(device));
+    const QByteArray bytes = readAll(device);
     const auto* file = qobject_cast<const QFileDevice*>(&device);
     if (file && file->error() != QFileDevice::NoError)
         throw Core::Exception::BaseException(file->errorString());
+    if (bytes.contains('\0'))
+        throw Core::Exception::BaseException(
+            QStringLiteral("This is no settings file: it is no text in UTF-8."));
+    const QString text = QString::fromUtf8(bytes);
     if (settingNames(text).isEmpty())
         throw Core::Exception::BaseException(
             QStringLiteral("This is no settings file: no line has a feature's name, a tab and a "
@@ -49,6 +54,20 @@ QVector<QString> settingNames(const QString& text)
             names.append(line.left(tab).toString());
     }
     return names;
+}
+
+bool hasOwnSettings(const QString& text,
+                    Core::ParameterCollection::IParameterCollection& parameters)
+{
+    QSet<QString> foreign;
+    for (const QString& name : settingNames(text)) {
+        if (foreign.contains(name))
+            continue;
+        if (!parameters.parameter(name)->isEmpty())
+            return true;
+        foreign.insert(name);
+    }
+    return false;
 }
 
 } // namespace ColorCalibration
