@@ -28,7 +28,9 @@ QStringList settingLines(const QString& text)
 /// The name of the first setting that is not as it was.
 QString firstDifference(const QStringList& wanted, const QStringList& found)
 {
-    const auto name = [](const QString& line) { return line.section(QLatin1Char('\t'), 0, 0); };
+    const auto name = [](const QString& line) {
+        return line.section(QLatin1Char('\t'), 0, 0);
+    };
     for (int i = 0; i < wanted.size(); ++i)
         if (i >= found.size() || wanted.at(i) != found.at(i))
             return name(wanted.at(i));

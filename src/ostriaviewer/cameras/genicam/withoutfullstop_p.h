@@ -6,8 +6,8 @@
 
 namespace Cameras::GenICam {
 
-/// What others say may end as a sentence does in the user's language, also where it stands in another
-/// sentence then.
+/// What others say may end as a sentence does in the user's language, also where it stands in
+/// another sentence then.
 inline QString withoutFullStop(QString text)
 {
     constexpr char16_t ideographicFullStop = 0x3002;
