@@ -77,10 +77,10 @@ set(OSTRIA_TEST_LOAD PROCESSORS 2 COST 0)
 set(OSTRIA_PACED_TEST_LOAD PROCESSORS 1 COST 1000)
 
 # One ctest entry for each test.
-function(_ostria_add_each_test name load environment)
+function(_ostria_add_each_test name labels load environment)
     gtest_discover_tests(${name}
         DISCOVERY_TIMEOUT 120
-        PROPERTIES TIMEOUT 300 ${load})
+        PROPERTIES LABELS "${labels}" TIMEOUT 300 ${load})
     # Of a list among the properties above only the first entry would arrive.
     set(script "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
     file(WRITE "${script}"
@@ -92,13 +92,13 @@ endfunction()
 
 # A few ctest entries, each a share of the tests: the start of a program, with a screen or a sanitizer,
 # takes longer than most tests.
-function(_ostria_add_shares name load environment)
+function(_ostria_add_shares name labels load environment)
     set(shares 4)
     foreach(share RANGE 1 ${shares})
         math(EXPR index "${share} - 1")
         add_test(NAME ${name}.${share}of${shares} COMMAND ${name})
         set_tests_properties(${name}.${share}of${shares} PROPERTIES
-            TIMEOUT 600 ${load}
+            LABELS "${labels}" TIMEOUT 600 ${load}
             ENVIRONMENT "${environment};GTEST_TOTAL_SHARDS=${shares};GTEST_SHARD_INDEX=${index}")
     endforeach()
 endfunction()
@@ -158,11 +158,10 @@ function(ostria_add_test name)
     if(arg_PACED)
         set(load ${OSTRIA_PACED_TEST_LOAD})
     endif()
-    list(APPEND load LABELS "${arg_LABELS}")
     if(OSTRIA_TEST_SHARES)
-        _ostria_add_shares(${name} "${load}" "${environment}")
+        _ostria_add_shares(${name} "${arg_LABELS}" "${load}" "${environment}")
     else()
-        _ostria_add_each_test(${name} "${load}" "${environment}")
+        _ostria_add_each_test(${name} "${arg_LABELS}" "${load}" "${environment}")
     endif()
 endfunction()
 
