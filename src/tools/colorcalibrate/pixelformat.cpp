@@ -19,7 +19,7 @@ QString pixelFormatOf(ICamera& camera)
         camera.parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"));
     try {
         return format->isReadable() ? format->value() : QString();
-    } catch (const GenICam::GenericException&) {
+    } catch (const GenICam::RuntimeException&) {
         return {};
     }
 }
