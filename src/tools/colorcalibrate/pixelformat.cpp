@@ -15,8 +15,10 @@ namespace {
 /// Empty where the camera has no such feature, or does not answer.
 QString pixelFormatOf(ICamera& camera)
 {
-    const auto format =
-        camera.parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"));
+    const auto features = camera.parameterCollection();
+    if (!features)
+        return {};
+    const auto format = features->enumerationParameter(QStringLiteral("PixelFormat"));
     try {
         return format->isReadable() ? format->value() : QString();
     } catch (const GenICam::RuntimeException&) {

@@ -108,6 +108,10 @@
         <translation>カメラが拒否しました</translation>
     </message>
     <message>
+        <source>the camera refuses it, and does not answer why</source>
+        <translation>カメラが拒否し、その理由の問い合わせに応答しません</translation>
+    </message>
+    <message>
         <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
         <translation>このプログラムからの通信が長時間届かなかったため、カメラが操作を受け付けなくなりました。カメラを開き直してください</translation>
     </message>

@@ -108,6 +108,10 @@
         <translation>카메라가 거부했습니다</translation>
     </message>
     <message>
+        <source>the camera refuses it, and does not answer why</source>
+        <translation>카메라가 거부했고, 그 이유를 묻는 요청에 응답하지 않습니다</translation>
+    </message>
+    <message>
         <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
         <translation>이 프로그램의 통신이 너무 오랫동안 도달하지 않아 카메라가 더 이상 명령을 받지 않습니다. 카메라를 다시 여십시오</translation>
     </message>

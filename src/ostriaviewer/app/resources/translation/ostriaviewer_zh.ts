@@ -108,6 +108,10 @@
         <translation>相机拒绝了该操作</translation>
     </message>
     <message>
+        <source>the camera refuses it, and does not answer why</source>
+        <translation>相机拒绝了该操作，且未回应原因查询</translation>
+    </message>
+    <message>
         <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
         <translation>相机过久未收到本程序的通信，不再接受其控制；请重新打开相机</translation>
     </message>

@@ -219,11 +219,10 @@ QString Device::denial(ArvDevice* device)
     constexpr guint32 controlBits = 0x3;
     GErrorSlot error;
     guint32 privilege = 0;
-    const bool isControlled =
-        !ARV_IS_GV_DEVICE(device) ||
-        arv_device_read_register(device, controlPrivilege, &privilege, error) == FALSE ||
-        (privilege & controlBits) != 0;
-    if (isControlled)
+    if (ARV_IS_GV_DEVICE(device) &&
+        arv_device_read_register(device, controlPrivilege, &privilege, error) == FALSE)
+        return Texts::tr("the camera refuses it, and does not answer why");
+    if (!ARV_IS_GV_DEVICE(device) || (privilege & controlBits) != 0)
         return Texts::tr("the camera refuses it");
     const QString reason =
         Texts::tr("the camera has not heard from this program for too long and does not obey it "
