@@ -3,6 +3,7 @@
 #include "patchmeasurement.h"
 
 #include "obviousmeasurement.h"
+#include "rounds.h"
 #include "testimages.h"
 
 #include <gtest/gtest.h>
@@ -140,7 +141,7 @@ TEST(PatchMeasurement, EqualsTheObviousOneOnRandomQuadrilaterals)
     const COstriaImage wide = makeNoiseRgb16(100, 90, 5, 0, 65535);
     const COstriaImage tied = makeNoiseRgb16(100, 90, 6, 300, 303);
     int measured = 0;
-    for (int i = 0; i < 2000; ++i) {
+    for (int i = 0; i < roundsOf(2000); ++i) {
         SCOPED_TRACE(i);
         const auto point = [&] {
             return QPoint(coordinate(generator), coordinate(generator));
