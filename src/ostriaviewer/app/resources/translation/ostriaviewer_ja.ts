@@ -541,7 +541,7 @@ Do you want to close them and use the settings?</source>
     </message>
     <message>
         <source>Searches these network interfaces. If none is selected, all except loopback (lo).</source>
-        <translation>検索するネットワークインターフェースを選択します。何も選択しない場合は、ループバック（lo）を除くすべてで検索します。</translation>
+        <translation>カメラの検索に使用するネットワークインターフェースを選択します。何も選択しない場合は、ループバック（lo）を除くすべてで検索します。</translation>
     </message>
     <message>
         <source>Cameras with a fixed &amp;address</source>

@@ -296,7 +296,7 @@
     </message>
     <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
-        <translation>%1: 이 컴퓨터의 처리가 따라가지 못해 이미지 %3장 중 %2장이 제외되었습니다. 프레임 속도를 낮추거나 이미지 크기를 줄이십시오.</translation>
+        <translation>%1: 이 컴퓨터의 처리가 따라가지 못해 이미지 %3장 중 %2장이 버려졌습니다. 프레임 속도를 낮추거나 이미지 크기를 줄이십시오.</translation>
     </message>
 </context>
 <context>
@@ -1045,7 +1045,7 @@ Do you want to end the recording and close the viewer?</source>
     <message numerus="yes">
         <source>Recorded %n picture(s) of %1 in %2. %3 more came too fast to be written, %4 failed in the camera; the numbers of the files show where.</source>
         <translation>
-            <numerusform>%1 카메라의 이미지 %n장을 %2 폴더에 녹화했습니다. 그 밖에 %3장은 쓰기 속도가 따라가지 못했고 %4장은 카메라에서 획득에 실패했습니다. 빠진 위치는 파일 번호로 알 수 있습니다.</numerusform>
+            <numerusform>%1 카메라의 이미지 %n장을 %2 폴더에 녹화했습니다. 그 밖에 %3장은 쓰기 속도가 따라가지 못해 저장되지 않았고 %4장은 카메라에서 획득에 실패했습니다. 빠진 위치는 파일 번호로 알 수 있습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">

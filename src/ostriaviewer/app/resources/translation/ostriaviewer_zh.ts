@@ -296,7 +296,7 @@
     </message>
     <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
-        <translation>%1：%3 帧图像中有 %2 帧因本计算机来不及接收而被丢弃。请降低帧率或减小图像尺寸。</translation>
+        <translation>%1：%3 帧图像中有 %2 帧因本计算机来不及处理而被丢弃。请降低帧率或减小图像尺寸。</translation>
     </message>
 </context>
 <context>
@@ -1111,7 +1111,7 @@ Do you want to end the recording and close the viewer?</source>
     </message>
     <message>
         <source>There are several cameras &quot;%1&quot;; select one in the list.</source>
-        <translation>有多台相机“%1”，请在列表中选择相机。</translation>
+        <translation>有多台名为“%1”的相机，请在列表中选择。</translation>
     </message>
 </context>
 <context>
