@@ -2,17 +2,14 @@
 // The program under a terminal, with Ctrl-C pressed in the middle of a calibration.
 #include "commandtest.h"
 #include "pseudoterminal.h"
+#include "terminalprogram.h"
 
 #include <QDirIterator>
-#include <QElapsedTimer>
 #include <QProcess>
-#include <QProcessEnvironment>
 
 #include <csignal>
 
 namespace {
-
-constexpr int patienceMs = 60000;
 
 class InterruptedProgram : public CommandTest, public testing::WithParamInterface<const char*>
 {};
@@ -24,27 +21,16 @@ TEST_P(InterruptedProgram, EndsWithOneAndTheSettingsAsTheyWere)
     Terminal terminal;
     const WorkingInterrupt interrupt;
     QProcess program;
-    auto environment = QProcessEnvironment::systemEnvironment();
-    for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        environment.insert(QLatin1String(variable), path(QLatin1String(variable)));
-    program.setProcessEnvironment(environment);
     program.setStandardErrorFile(terminal.name());
-    program.start(QStringLiteral(COLORCALIBRATE_PROGRAM),
-                  {QStringLiteral("calibrate"), QStringLiteral("--camera"),
-                   QStringLiteral("emA1920-60ucEMU"), QStringLiteral("--json"),
-                   QStringLiteral("--save-summary"), path(QStringLiteral("summary")),
-                   QStringLiteral("--user-set"), QStringLiteral("UserSet1"),
-                   QStringLiteral("--default")});
-    ASSERT_TRUE(program.waitForStarted());
-    const QByteArray step = QByteArray(GetParam()) + '\n';
-    QElapsedTimer clock;
-    clock.start();
-    while (!terminal.text().contains(step) && program.state() == QProcess::Running &&
-           clock.elapsed() < patienceMs)
-        program.waitForFinished(5);
-    ASSERT_TRUE(terminal.text().contains(step)) << terminal.text().constData();
+    startProgram(program, folder.path(),
+                 {QStringLiteral("calibrate"), QStringLiteral("--camera"),
+                  QStringLiteral("emA1920-60ucEMU"), QStringLiteral("--json"),
+                  QStringLiteral("--save-summary"), path(QStringLiteral("summary")),
+                  QStringLiteral("--user-set"), QStringLiteral("UserSet1"),
+                  QStringLiteral("--default")});
+    ASSERT_NO_FATAL_FAILURE(waitForLine(program, terminal, GetParam()));
     ASSERT_EQ(::kill(static_cast<pid_t>(program.processId()), SIGINT), 0);
-    ASSERT_TRUE(program.waitForFinished(patienceMs));
+    ASSERT_TRUE(program.waitForFinished(programPatienceMs));
     EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_EQ(program.readAllStandardOutput().toStdString(), "") << "no results";
