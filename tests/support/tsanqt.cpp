@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Lets ThreadSanitizer see the mutexes and threads of a Qt that is not instrumented.
+// Lets ThreadSanitizer see the mutexes, threads and calls across threads of a Qt that is not
+// instrumented.
 //
 // Mutexes are locked and threads waited for inside of the library, so that everything they guard
 // may look like a race. These definitions stand before the library's, and add what the sanitizer
@@ -69,4 +70,52 @@ bool QThread::wait(unsigned long time)
 {
     return wait(time == ULONG_MAX ? QDeadlineTimer(QDeadlineTimer::Forever)
                                   : QDeadlineTimer(static_cast<qint64>(time)));
+}
+
+namespace {
+
+/// A call that waits in another thread's event queue, which hands it over under a mutex that only
+/// the library sees.
+class HandedCall : public QtPrivate::QSlotObjectBase
+{
+public:
+    explicit HandedCall(QSlotObjectBase* call)
+        : QSlotObjectBase(&HandedCall::act)
+        , m_call(call)
+    {
+        __tsan_release(this);
+    }
+
+private:
+    static void act(int which, QSlotObjectBase* self, QObject* receiver, void** arguments,
+                    bool* isEqual)
+    {
+        __tsan_acquire(self);
+        auto* handed = static_cast<HandedCall*>(self);
+        switch (which) {
+        case Destroy:
+            handed->m_call->destroyIfLastRef();
+            delete handed;
+            break;
+        case Call:
+            handed->m_call->call(receiver, arguments);
+            break;
+        default:
+            *isEqual = false;
+        }
+    }
+
+    QSlotObjectBase* m_call;
+};
+
+} // namespace
+
+bool QMetaObject::invokeMethodImpl(QObject* object, QtPrivate::QSlotObjectBase* slot,
+                                   Qt::ConnectionType type, void* result)
+{
+    using Function = bool (*)(QObject*, QtPrivate::QSlotObjectBase*, Qt::ConnectionType, void*);
+    static const auto inLibrary = libraryFunction<Function>(
+        "_ZN11QMetaObject16invokeMethodImplEP7QObjectPN9QtPrivate15QSlotObjectBaseEN2Qt"
+        "14ConnectionTypeEPv");
+    return inLibrary(object, new HandedCall(slot), type, result);
 }
