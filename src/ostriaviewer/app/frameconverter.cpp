@@ -4,6 +4,7 @@
 
 #include "framebuffers.h"
 #include "imageformatconverter.h"
+#include "withoutfullstop.h"
 
 #include <condition_variable>
 #include <mutex>
@@ -63,7 +64,10 @@ LiveFrame convert(const Ostria::CGrabResult& result, Ostria::CImageFormatConvert
         converter.Convert(*image, result.image());
         frame.picture = buffers.toPicture(std::move(image));
     } catch (const std::exception& error) {
-        frame.error = QString::fromUtf8(error.what());
+        const QString reason = QString::fromUtf8(error.what());
+        frame.error = FrameConverter::tr("It cannot be shown (%1). Choose another pixel format or "
+                                         "another image size.")
+                          .arg(Core::withoutFullStop(reason));
     }
     return frame;
 }

@@ -17,6 +17,20 @@ struct MessageLogService::Inbox
     std::vector<LogMessage> messages;
 };
 
+namespace {
+
+/// The viewer's own parts speak the user's language, plugins name themselves.
+QString sourceOf(const QString& category)
+{
+    if (category == QLatin1String("Viewer"))
+        return MessageLogService::tr("Viewer");
+    if (category == QLatin1String("Cameras"))
+        return MessageLogService::tr("Cameras");
+    return category;
+}
+
+} // namespace
+
 MessageLogService::MessageLogService(MessageLogModel* model)
     : m_model(model)
     , m_inbox(std::make_shared<Inbox>())
@@ -62,8 +76,10 @@ void MessageLogService::takeInbox()
         const std::lock_guard lock(m_inbox->mutex);
         messages.swap(m_inbox->messages);
     }
-    for (LogMessage& message : messages)
+    for (LogMessage& message : messages) {
+        message.source = sourceOf(message.source);
         m_model->add(std::move(message));
+    }
 }
 
 } // namespace Viewer

@@ -29,7 +29,8 @@ QString callPlugin(const char* failure, const Call& call)
     try {
         return call() ? QString() : Texts::tr(failure);
     } catch (const std::exception& error) {
-        return Texts::tr(failure) + QLatin1Char(' ') + QString::fromUtf8(error.what());
+        // The failure and its reason, two sentences.
+        return Texts::tr("%1 %2").arg(Texts::tr(failure), QString::fromUtf8(error.what()));
     } catch (...) {
         return Texts::tr(failure);
     }

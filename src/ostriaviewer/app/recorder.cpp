@@ -4,6 +4,7 @@
 
 #include "framebuffers.h"
 #include "imageformatconverter.h"
+#include "withoutfullstop.h"
 
 #include <QDir>
 #include <QImageWriter>
@@ -43,6 +44,20 @@ QString writePicture(const QImage& picture, const QString& name)
         return reason;
     }
     return file.commit() ? QString() : file.errorString();
+}
+
+QString diskProblem(const QString& reason)
+{
+    return Recorder::tr("A picture could not be written (%1). Make room on the disk or choose "
+                        "another folder.")
+        .arg(Core::withoutFullStop(reason));
+}
+
+QString pictureProblem(const QString& reason)
+{
+    return Recorder::tr("A picture could not be converted (%1). Choose another pixel format or "
+                        "another image size.")
+        .arg(Core::withoutFullStop(reason));
 }
 
 } // namespace
@@ -169,10 +184,11 @@ void Recorder::run(const std::shared_ptr<Queue>& queue)
         try {
             auto image = buffers.take();
             converter.Convert(*image, frame->image());
-            queue->note(writePicture(buffers.toPicture(std::move(image)),
-                                     folder.filePath(fileName(frame->frameNumber()))));
+            const QString reason = writePicture(buffers.toPicture(std::move(image)),
+                                                folder.filePath(fileName(frame->frameNumber())));
+            queue->note(reason.isEmpty() ? reason : diskProblem(reason));
         } catch (const std::exception& error) {
-            queue->note(QString::fromUtf8(error.what()));
+            queue->note(pictureProblem(QString::fromUtf8(error.what())));
         }
     }
     queue->announceEnd();

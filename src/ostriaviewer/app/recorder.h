@@ -21,7 +21,8 @@ struct RecordingResult
     std::uint64_t written = 0;
     std::uint64_t dropped = 0; ///< came faster than they could be written
     std::uint64_t failed = 0;  ///< the camera did not deliver them whole
-    QString error;             ///< what ended the recording; empty if it was asked to end
+    QString error;             ///< what ended the recording and what to do, for people;
+                               ///< empty if it was asked to end
 };
 
 /// Records one camera, once, as 8-bit PNG files "000001.png" and so on, named by the number that

@@ -157,8 +157,7 @@ void RecordingCommands::onFinished(const HostCameraPtr& camera, const RecordingR
     const int written = static_cast<int>(result.written);
     if (!result.error.isEmpty())
         emit reported(
-            tr("The recording of %1 ended after %n picture(s): %2. What was recorded is in "
-               "%3. Make room on the disk or choose another folder.",
+            tr("The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.",
                nullptr, written)
                 .arg(camera->displayName(), result.error, folder),
             true);
@@ -166,9 +165,8 @@ void RecordingCommands::onFinished(const HostCameraPtr& camera, const RecordingR
         emit reported(tr("Recorded %n picture(s) of %1 in %2. %3 more came too fast to be written, "
                          "%4 failed in the camera; the numbers of the files show where.",
                          nullptr, written)
-                          .arg(camera->displayName(), folder)
-                          .arg(result.dropped)
-                          .arg(result.failed),
+                          .arg(camera->displayName(), folder, QString::number(result.dropped),
+                               QString::number(result.failed)),
                       false);
     else
         emit reported(tr("Recorded %n picture(s) of %1 in %2.", nullptr, written)

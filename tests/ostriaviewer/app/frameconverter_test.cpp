@@ -85,7 +85,9 @@ TEST_F(FrameConverterTest, TellsWhyAFrameCannotBeConverted)
         std::make_shared<CGrabResult>(COstriaImage(PixelType::BayerRG8, 8, 2), 4));
     ASSERT_TRUE(waitFor(4));
     EXPECT_TRUE(m_frames.constLast().picture.isNull());
-    EXPECT_FALSE(m_frames.constLast().error.isEmpty());
+    EXPECT_EQ(m_frames.constLast().error,
+              "It cannot be shown (A mosaic of 8 x 2 pixels is too small, interpolation needs 4 x "
+              "3). Choose another pixel format or another image size.");
 }
 
 TEST_F(FrameConverterTest, LeavesOutWhatComesThroughAnEarlierInlet)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Messages reach the user whole and in order, and can be filtered and copied.
 #include "animations.h"
+#include "language.h"
 #include "messagelogpanel.h"
 #include "messagelogservice.h"
 
@@ -55,6 +56,18 @@ TEST_F(MessageLogTest, ShowsWhatAnyThreadWritesToTheLog)
     EXPECT_EQ(m_model.message(0).source, "a.category");
     EXPECT_EQ(m_model.message(99).text, "99");
     EXPECT_EQ(m_model.message(99).level, Error);
+}
+
+TEST_F(MessageLogTest, NamesTheViewersOwnPartsInTheUsersLanguage)
+{
+    LanguageCatalogues catalogues;
+    catalogues.install("ja");
+    for (const char* category : {"Viewer", "Cameras", "a.category"})
+        createLogEntry(Warning, getCatId(category), category);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_model.rowCount() == 3; }, 60000));
+    EXPECT_EQ(m_model.message(0).source, u8"ビューアー");
+    EXPECT_EQ(m_model.message(1).source, u8"カメラ");
+    EXPECT_EQ(m_model.message(2).source, "a.category");
 }
 
 TEST_F(MessageLogTest, ShowsOnceWhatIsWrittenToTheLogAndToTheUser)

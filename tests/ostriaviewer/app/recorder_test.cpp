@@ -209,6 +209,22 @@ TEST_F(RecorderTest, EndsWithAMessageWhenTheDiskIsFullAndLeavesNoHalfFile)
     QTest::keyClick(messageBox(), Qt::Key_Return);
 }
 
+TEST_F(RecorderTest, AdvisesAnotherFormatWhereAPictureCannotBeConverted)
+{
+    Recorder recorder;
+    QString told;
+    QObject::connect(&recorder, &Recorder::finished,
+                     [&told](const RecordingResult& result) { told = result.error; });
+    ASSERT_EQ(recorder.start(m_first, target() + "/taken"), "");
+    emit m_first->cameraImageGrabbed(
+        m_first, std::make_shared<Ostria::CGrabResult>(
+                     Ostria::COstriaImage(Ostria::PixelType::BayerRG8, 8, 2), 1));
+    ASSERT_TRUE(waitUntil([&told] { return !told.isEmpty(); }));
+    EXPECT_EQ(told,
+              "A picture could not be converted (A mosaic of 8 x 2 pixels is too small, "
+              "interpolation needs 4 x 3). Choose another pixel format or another image size.");
+}
+
 TEST_F(RecorderTest, WritesWhatItHasTakenBeforeItEnds)
 {
     ASSERT_TRUE(m_first->open());

@@ -7,7 +7,7 @@
 #include "librarylog_p.h"
 #include "nodemap_p.h"
 #include "nodeproperties_p.h"
-#include "withoutfullstop_p.h"
+#include "withoutfullstop.h"
 
 #include <arv.h>
 
@@ -203,7 +203,7 @@ void Feature::check(const GErrorSlot& error) const
     const QString prefix = m_name + QLatin1String(": ");
     if (reason.startsWith(prefix))
         reason.remove(0, prefix.size());
-    fail(withoutFullStop(reason));
+    fail(Core::withoutFullStop(reason));
 }
 
 } // namespace Cameras::GenICam

@@ -3,6 +3,7 @@
 #include "librarylog_p.h"
 
 #include "logging.h"
+#include "withoutfullstop.h"
 
 #include <glib.h>
 
@@ -50,7 +51,7 @@ int note(const QString& text)
 
 QString describe(const char* complaint)
 {
-    const QString reason = QString::fromUtf8(complaint).trimmed();
+    const QString reason = Core::withoutFullStop(QString::fromUtf8(complaint).trimmed());
     if (!currentScope)
         return Texts::tr("The camera library reports: %1.").arg(reason);
     const QString camera = currentScope->camera();

@@ -8,7 +8,7 @@
 #include "nodemap_p.h"
 #include "patience.h"
 #include "registerdevice_p.h"
-#include "withoutfullstop_p.h"
+#include "withoutfullstop.h"
 
 #include <arv.h>
 
@@ -49,7 +49,7 @@ QString checkDescription(const std::string& xml)
     if (reader.hasError()) {
         refuseDescription(Texts::tr("line %1: %2")
                               .arg(reader.lineNumber())
-                              .arg(withoutFullStop(reader.errorString())));
+                              .arg(Core::withoutFullStop(reader.errorString())));
     }
     return model;
 }

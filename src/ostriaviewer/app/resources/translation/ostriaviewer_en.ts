@@ -5,10 +5,10 @@
 <context>
     <name>Viewer::RecordingCommands</name>
     <message numerus="yes">
-        <source>The recording of %1 ended after %n picture(s): %2. What was recorded is in %3. Make room on the disk or choose another folder.</source>
+        <source>The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.</source>
         <translation>
-            <numerusform>The recording of %1 ended after %n picture: %2. What was recorded is in %3. Make room on the disk or choose another folder.</numerusform>
-            <numerusform>The recording of %1 ended after %n pictures: %2. What was recorded is in %3. Make room on the disk or choose another folder.</numerusform>
+            <numerusform>The recording of %1 ended after %n picture. %2 What was recorded is in %3.</numerusform>
+            <numerusform>The recording of %1 ended after %n pictures. %2 What was recorded is in %3.</numerusform>
         </translation>
     </message>
     <message numerus="yes">

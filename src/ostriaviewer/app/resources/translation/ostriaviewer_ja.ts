@@ -57,6 +57,10 @@
         <source>The acquisition mode could not be put back; set AcquisitionMode to &quot;%1&quot;.</source>
         <translation>取り込みモードを元に戻せませんでした。AcquisitionMode を「%1」に設定してください。</translation>
     </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1：%2（%3）</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::CameraFinder</name>
@@ -101,14 +105,14 @@
     </message>
     <message>
         <source>%1: the camera does not take packets of %2 bytes, as the settings want them; it uses packets of %3 bytes.</source>
-        <translation>%1：カメラは設定された %2バイトのパケットに対応していません。%3バイトのパケットを使用します。</translation>
+        <translation>%1：カメラは設定された%2バイトのパケットに対応していません。%3バイトのパケットを使用します。</translation>
     </message>
     <message>
         <source>the camera refuses it</source>
         <translation>カメラが拒否しました</translation>
     </message>
     <message>
-        <source>the camera refuses it, and does not answer why</source>
+        <source>the camera refuses it, and does not answer when asked why</source>
         <translation>カメラが拒否し、その理由の問い合わせに応答しません</translation>
     </message>
     <message>
@@ -268,6 +272,10 @@
         <source>The pixel format 0x%1 is not known; choose another one.</source>
         <translation>ピクセルフォーマット0x%1には対応していません。別のピクセルフォーマットを選択してください。</translation>
     </message>
+    <message>
+        <source>The frame cannot be used (%1). Choose another pixel format or another image size.</source>
+        <translation>このフレームは使用できません（%1）。別のピクセルフォーマットまたは別の画像サイズを選択してください。</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::FrameStream</name>
@@ -297,6 +305,10 @@
     <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
         <translation>%1：%3枚中%2枚の画像は、このコンピューターの処理が追いつかなかったため、破棄しました。フレームレートを下げるか、画像を小さくしてください。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -716,6 +728,13 @@ Do you want to end the recording and close the viewer?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::FrameConverter</name>
+    <message>
+        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
+        <translation>この画像は表示できません（%1）。別のピクセルフォーマットまたは別の画像サイズを選択してください。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::MainMenu</name>
     <message>
         <source>Open the camera to see its tools</source>
@@ -949,6 +968,10 @@ Do you want to end the recording and close the viewer?</source>
         <source>Viewer</source>
         <translation>ビューアー</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::PluginManager</name>
@@ -967,6 +990,10 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>A service of the viewer that it needs is missing; install a version of the plugin for this viewer.</source>
         <translation>必要なビューアーのサービスがありません。このビューアーに対応するバージョンのプラグインをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
     </message>
     <message>
         <source>It could not be initialized.</source>
@@ -1033,13 +1060,21 @@ Do you want to end the recording and close the viewer?</source>
         <source>The folder %1 cannot be made. Choose another one for recordings.</source>
         <translation>フォルダー %1 を作成できません。録画用に別のフォルダーを選択してください。</translation>
     </message>
+    <message>
+        <source>A picture could not be written (%1). Make room on the disk or choose another folder.</source>
+        <translation>画像を書き込めませんでした（%1）。ディスクの空き容量を増やすか、別のフォルダーを選択してください。</translation>
+    </message>
+    <message>
+        <source>A picture could not be converted (%1). Choose another pixel format or another image size.</source>
+        <translation>画像を変換できませんでした（%1）。別のピクセルフォーマットまたは別の画像サイズを選択してください。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::RecordingCommands</name>
     <message numerus="yes">
-        <source>The recording of %1 ended after %n picture(s): %2. What was recorded is in %3. Make room on the disk or choose another folder.</source>
+        <source>The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.</source>
         <translation>
-            <numerusform>%1 の録画は%n枚で終了しました：%2。録画した画像は %3 にあります。ディスクの空き容量を増やすか、別のフォルダーを選択してください。</numerusform>
+            <numerusform>%1 の録画は%n枚で終了しました。%2録画した画像は %3 にあります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -57,6 +57,10 @@
         <source>The acquisition mode could not be put back; set AcquisitionMode to &quot;%1&quot;.</source>
         <translation>획득 모드를 원래대로 되돌리지 못했습니다. AcquisitionMode를 &quot;%1&quot;(으)로 설정하십시오.</translation>
     </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1: %2(%3)</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::CameraFinder</name>
@@ -108,7 +112,7 @@
         <translation>카메라가 거부했습니다</translation>
     </message>
     <message>
-        <source>the camera refuses it, and does not answer why</source>
+        <source>the camera refuses it, and does not answer when asked why</source>
         <translation>카메라가 거부했고, 그 이유를 묻는 요청에 응답하지 않습니다</translation>
     </message>
     <message>
@@ -268,6 +272,10 @@
         <source>The pixel format 0x%1 is not known; choose another one.</source>
         <translation>픽셀 형식 0x%1은(는) 지원되지 않습니다. 다른 형식을 선택하십시오.</translation>
     </message>
+    <message>
+        <source>The frame cannot be used (%1). Choose another pixel format or another image size.</source>
+        <translation>이 프레임을 사용할 수 없습니다(%1). 다른 픽셀 형식이나 다른 이미지 크기를 선택하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::FrameStream</name>
@@ -292,11 +300,15 @@
     </message>
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
-        <translation>%1: 이미지 %3장 중 %2장이 전송 중에 손상되어 제외되었습니다(누락된 패킷 %4개). 패킷 크기를 늘리거나 패킷 지연을 설정하십시오.</translation>
+        <translation>%1: 이미지 %3장 중 %2장이 전송 중에 손상되어 버려졌습니다(누락된 패킷 %4개). 패킷 크기를 늘리거나 패킷 지연을 설정하십시오.</translation>
     </message>
     <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
         <translation>%1: 이 컴퓨터의 처리가 따라가지 못해 이미지 %3장 중 %2장이 버려졌습니다. 프레임 속도를 낮추거나 이미지 크기를 줄이십시오.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -716,6 +728,13 @@ Do you want to end the recording and close the viewer?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::FrameConverter</name>
+    <message>
+        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
+        <translation>이 이미지를 표시할 수 없습니다(%1). 다른 픽셀 형식이나 다른 이미지 크기를 선택하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::MainMenu</name>
     <message>
         <source>Open the camera to see its tools</source>
@@ -949,6 +968,10 @@ Do you want to end the recording and close the viewer?</source>
         <source>Viewer</source>
         <translation>뷰어</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>카메라</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::PluginManager</name>
@@ -967,6 +990,10 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>A service of the viewer that it needs is missing; install a version of the plugin for this viewer.</source>
         <translation>필요한 뷰어 서비스가 없습니다. 이 뷰어에 맞는 버전의 플러그인을 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>It could not be initialized.</source>
@@ -1033,13 +1060,21 @@ Do you want to end the recording and close the viewer?</source>
         <source>The folder %1 cannot be made. Choose another one for recordings.</source>
         <translation>%1 폴더를 만들 수 없습니다. 다른 녹화 폴더를 선택하십시오.</translation>
     </message>
+    <message>
+        <source>A picture could not be written (%1). Make room on the disk or choose another folder.</source>
+        <translation>이미지를 쓸 수 없습니다(%1). 디스크의 여유 공간을 늘리거나 다른 폴더를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>A picture could not be converted (%1). Choose another pixel format or another image size.</source>
+        <translation>이미지를 변환할 수 없습니다(%1). 다른 픽셀 형식이나 다른 이미지 크기를 선택하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::RecordingCommands</name>
     <message numerus="yes">
-        <source>The recording of %1 ended after %n picture(s): %2. What was recorded is in %3. Make room on the disk or choose another folder.</source>
+        <source>The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.</source>
         <translation>
-            <numerusform>%1 카메라의 녹화가 %n장에서 종료되었습니다: %2. 녹화한 이미지는 %3 폴더에 있습니다. 디스크의 여유 공간을 늘리거나 다른 폴더를 선택하십시오.</numerusform>
+            <numerusform>%1 카메라의 녹화가 %n장에서 종료되었습니다. %2 녹화한 이미지는 %3 폴더에 있습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -57,6 +57,10 @@
         <source>The acquisition mode could not be put back; set AcquisitionMode to &quot;%1&quot;.</source>
         <translation>无法恢复采集模式；请将 AcquisitionMode 设置为“%1”。</translation>
     </message>
+    <message>
+        <source>%1: %2 (%3)</source>
+        <translation>%1：%2（%3）</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::CameraFinder</name>
@@ -108,8 +112,8 @@
         <translation>相机拒绝了该操作</translation>
     </message>
     <message>
-        <source>the camera refuses it, and does not answer why</source>
-        <translation>相机拒绝了该操作，且未回应原因查询</translation>
+        <source>the camera refuses it, and does not answer when asked why</source>
+        <translation>相机拒绝了该操作，询问原因时也没有响应</translation>
     </message>
     <message>
         <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
@@ -268,6 +272,10 @@
         <source>The pixel format 0x%1 is not known; choose another one.</source>
         <translation>不支持像素格式 0x%1，请选择其他格式。</translation>
     </message>
+    <message>
+        <source>The frame cannot be used (%1). Choose another pixel format or another image size.</source>
+        <translation>无法使用该帧（%1）。请选择其他像素格式或其他图像尺寸。</translation>
+    </message>
 </context>
 <context>
     <name>Cameras::GenICam::FrameStream</name>
@@ -297,6 +305,10 @@
     <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
         <translation>%1：%3 帧图像中有 %2 帧因本计算机来不及处理而被丢弃。请降低帧率或减小图像尺寸。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -427,7 +439,7 @@
     </message>
     <message>
         <source>%1 takes no picture, as another part of the program is using it. Try again later.</source>
-        <translation>%1 正被本程序的另一项任务使用，无法采集单帧图像。请稍后重试。</translation>
+        <translation>%1 正被本程序的其他任务使用，无法采集单帧图像。请稍后重试。</translation>
     </message>
     <message>
         <source>%1 takes no picture. %2</source>
@@ -716,6 +728,13 @@ Do you want to end the recording and close the viewer?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::FrameConverter</name>
+    <message>
+        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
+        <translation>无法显示该图像（%1）。请选择其他像素格式或其他图像尺寸。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::MainMenu</name>
     <message>
         <source>Open the camera to see its tools</source>
@@ -949,6 +968,10 @@ Do you want to end the recording and close the viewer?</source>
         <source>Viewer</source>
         <translation>查看器</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>相机</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::PluginManager</name>
@@ -967,6 +990,10 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>A service of the viewer that it needs is missing; install a version of the plugin for this viewer.</source>
         <translation>缺少所需的查看器服务。请安装适用于此查看器的插件版本。</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1%2</translation>
     </message>
     <message>
         <source>It could not be initialized.</source>
@@ -1033,13 +1060,21 @@ Do you want to end the recording and close the viewer?</source>
         <source>The folder %1 cannot be made. Choose another one for recordings.</source>
         <translation>无法创建文件夹 %1。请为录制选择其他文件夹。</translation>
     </message>
+    <message>
+        <source>A picture could not be written (%1). Make room on the disk or choose another folder.</source>
+        <translation>无法写入图像（%1）。请释放磁盘空间或选择其他文件夹。</translation>
+    </message>
+    <message>
+        <source>A picture could not be converted (%1). Choose another pixel format or another image size.</source>
+        <translation>无法转换图像（%1）。请选择其他像素格式或其他图像尺寸。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::RecordingCommands</name>
     <message numerus="yes">
-        <source>The recording of %1 ended after %n picture(s): %2. What was recorded is in %3. Make room on the disk or choose another folder.</source>
+        <source>The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.</source>
         <translation>
-            <numerusform>%1 的录制在 %n 帧后结束：%2。已录制的图像位于 %3。请释放磁盘空间或选择其他文件夹。</numerusform>
+            <numerusform>%1 的录制在 %n 帧后结束。%2已录制的图像位于 %3。</numerusform>
         </translation>
     </message>
     <message numerus="yes">

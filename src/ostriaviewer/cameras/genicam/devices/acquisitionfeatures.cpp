@@ -7,6 +7,7 @@
 #include "logging.h"
 #include "nodemap_p.h"
 #include "patience.h"
+#include "withoutfullstop.h"
 
 #include <QCoreApplication>
 
@@ -131,8 +132,9 @@ void AcquisitionFeatures::tryStep(const QString& what, const Step& step) noexcep
     } catch (const std::exception& error) {
         Core::Logging::createLogEntry(
             Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
-            QStringLiteral("%1: %2 (%3)")
-                .arg(m_nodeMap->d().camera(), what, QString::fromUtf8(error.what())));
+            Texts::tr("%1: %2 (%3)")
+                .arg(m_nodeMap->d().camera(), Core::withoutFullStop(what),
+                     Core::withoutFullStop(QString::fromUtf8(error.what()))));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "pixeltype.h"
 #include "stride.h"
+#include "withoutfullstop.h"
 
 #include <arv.h>
 
@@ -66,7 +67,10 @@ Ostria::CGrabResultPtr toGrabResult(ArvBuffer* buffer, std::uint64_t number)
     try {
         return std::make_shared<Ostria::CGrabResult>(copyImage(buffer, type), number);
     } catch (const std::exception& error) {
-        return failure(QString::fromUtf8(error.what()), number);
+        return failure(Texts::tr("The frame cannot be used (%1). Choose another pixel format or "
+                                 "another image size.")
+                           .arg(Core::withoutFullStop(QString::fromUtf8(error.what()))),
+                       number);
     }
 }
 

@@ -11,6 +11,7 @@
 #include "librarylog_p.h"
 #include "libraryparsing_p.h"
 #include "patience.h"
+#include "withoutfullstop.h"
 
 #include <arv.h>
 
@@ -99,9 +100,7 @@ void tellPacketSize(ArvGvDevice* device, const QString& id, int wanted)
         Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
         Texts::tr("%1: the camera does not take packets of %2 bytes, as the settings want them; it "
                   "uses packets of %3 bytes.")
-            .arg(id)
-            .arg(wanted)
-            .arg(kept));
+            .arg(id, QString::number(wanted), QString::number(kept)));
 }
 
 void applySettings(ArvDevice* device, const QString& id, const TransportSettings& settings)
@@ -221,7 +220,7 @@ QString Device::denial(ArvDevice* device)
     guint32 privilege = 0;
     if (ARV_IS_GV_DEVICE(device) &&
         arv_device_read_register(device, controlPrivilege, &privilege, error) == FALSE)
-        return Texts::tr("the camera refuses it, and does not answer why");
+        return Texts::tr("the camera refuses it, and does not answer when asked why");
     if (!ARV_IS_GV_DEVICE(device) || (privilege & controlBits) != 0)
         return Texts::tr("the camera refuses it");
     const QString reason =
@@ -330,7 +329,7 @@ ArvStream* Device::createStream()
         });
     } catch (const std::exception& error) {
         fail(Texts::tr("The camera's images cannot be received: %1.")
-                 .arg(QString::fromUtf8(error.what())));
+                 .arg(Core::withoutFullStop(QString::fromUtf8(error.what()))));
     }
     ArvStream* stream = std::exchange(holder->stream, nullptr);
     if (ARV_IS_GV_STREAM(stream))

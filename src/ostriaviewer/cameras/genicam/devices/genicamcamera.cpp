@@ -96,7 +96,7 @@ GenicamCamera::~GenicamCamera()
     close();
     const QString mode = m_unfinished ? m_unfinished->owedMode() : QString();
     if (!mode.isEmpty())
-        log(QStringLiteral("%1: %2").arg(displayName(), AcquisitionFeatures::notPutBack(mode)));
+        log(tr("%1: %2").arg(displayName(), AcquisitionFeatures::notPutBack(mode)));
 }
 
 QString GenicamCamera::displayName() const
@@ -443,7 +443,7 @@ bool GenicamCamera::begin(std::optional<std::chrono::milliseconds> timeout)
     if (!isDone)
         StepQueue::whenDone(step, [self = strongSelf(), beginning, isSingle] {
             if (beginning->hasFailed)
-                log(QStringLiteral("%1: %2").arg(self->displayName(), self->lastErrorText()));
+                log(tr("%1: %2").arg(self->displayName(), self->lastErrorText()));
             if (beginning->hasFailed && !isSingle)
                 emit self->stateChanged();
         });

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-namespace Cameras::GenICam {
+namespace Core {
 
 /// What others say may end as a sentence does in the user's language, also where it stands in
 /// another sentence then.
@@ -16,4 +16,4 @@ inline QString withoutFullStop(QString text)
     return text;
 }
 
-} // namespace Cameras::GenICam
+} // namespace Core

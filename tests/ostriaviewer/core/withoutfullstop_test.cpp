@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 // Reasons within sentences.
-#include "withoutfullstop_p.h"
+#include "withoutfullstop.h"
 
 #include <gtest/gtest.h>
 
-using Cameras::GenICam::withoutFullStop;
+using Core::withoutFullStop;
 
 TEST(WithoutFullStop, TakesAwayTheLastOneOfEachLanguage)
 {
