@@ -69,6 +69,16 @@ TEST_F(RefusedLines, AreMetWhereTheCameraHasTheValue)
     EXPECT_EQ(unmet(refused), refused);
 }
 
+TEST_F(RefusedLines, AreUnderstoodInEachLanguage)
+{
+    const QStringList refused{u8"1行目：Gammaを変更できません。",
+                              u8"1번째 줄: Gamma을(를) 변경할 수 없습니다.",
+                              u8"第1行：Gamma无法更改。"};
+    EXPECT_EQ(unmet(refused), QStringList());
+    change("Gamma", 0.5);
+    EXPECT_EQ(unmet(refused), refused);
+}
+
 TEST_F(RefusedLines, OfOtherFeaturesAreNotAskedFor)
 {
     change("Width", 240);

@@ -128,14 +128,15 @@ void QmlDataModelInterface::checkOpenGl()
     QOpenGLContext context;
     context.setFormat(m_view->requestedFormat());
     if (!context.create())
-        setDrawingProblem(QStringLiteral("OpenGL cannot be used."));
+        setDrawingProblem(QCoreApplication::translate("SceneProblem", "OpenGL cannot be used."));
 }
 
 // Where it was told to do without OpenGL, Qt draws no video, and says nothing.
 void QmlDataModelInterface::checkDrawing()
 {
     if (m_view && m_view->rendererInterface()->graphicsApi() == QSGRendererInterface::Software)
-        setDrawingProblem(QStringLiteral("The camera's image cannot be drawn without OpenGL."));
+        setDrawingProblem(QCoreApplication::translate(
+            "SceneProblem", "The camera's image cannot be drawn without OpenGL."));
 }
 
 void QmlDataModelInterface::setDrawingProblem(const QString& error)

@@ -33,6 +33,11 @@ public:
     BusyCursor& operator=(const BusyCursor&) = delete;
 };
 
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(QmlDataModelInterface)
+};
+
 QString compactText(const QJsonObject& object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
@@ -124,16 +129,16 @@ bool QmlDataModelInterface::saveSettingsToFilePath()
     if (m_calibrationFileToSave.isEmpty())
         return true;
     return tellOutcome(m_model->SaveSettingsToFile(m_calibrationFileToSave),
-                       tr("Settings have been saved successfully in "),
-                       tr("Settings couldn’t be saved in "), m_calibrationFileToSave);
+                       Texts::tr("Settings have been saved successfully in "),
+                       Texts::tr("Settings couldn’t be saved in "), m_calibrationFileToSave);
 }
 
 bool QmlDataModelInterface::storeSettingsInUserSet(QString userSetSelectorName, bool setAsDefault)
 {
     const BusyCursor busy;
     return tellOutcome(m_model->StoreSettingsInUserSet(userSetSelectorName, setAsDefault),
-                       tr("Settings were saved successfully in "),
-                       tr("Settings couldn’t be saved in "), userSetSelectorName);
+                       Texts::tr("Settings were saved successfully in "),
+                       Texts::tr("Settings couldn’t be saved in "), userSetSelectorName);
 }
 
 bool QmlDataModelInterface::saveSummaryToFilePath()
@@ -142,8 +147,8 @@ bool QmlDataModelInterface::saveSummaryToFilePath()
     if (m_summaryFileToSave.isEmpty())
         return true;
     return tellOutcome(m_model->SaveSummaryToFile(m_summaryFileToSave),
-                       tr("Summary has been saved successfully in "),
-                       tr("Summary couldn’t be saved in "), m_summaryFileToSave);
+                       Texts::tr("Summary has been saved successfully in "),
+                       Texts::tr("Summary couldn’t be saved in "), m_summaryFileToSave);
 }
 
 void QmlDataModelInterface::getGridPosition()

@@ -5,6 +5,7 @@
 #include "calibrationinterface.h"
 #include "logging.h"
 
+#include <QCoreApplication>
 #include <QPolygon>
 
 #include <algorithm>
@@ -159,11 +160,14 @@ void QmlTrapezoidList::loadPatchColors()
     m_originalColors.clear();
     m_targetColors.clear();
     if (m_model->GetColorPatchValues(m_calibratedColors, true) == 0)
-        fail(QStringLiteral("Unable to fetch color patch values! <br> "));
+        fail(QCoreApplication::translate("QmlTrapezoidList",
+                                         "Unable to fetch color patch values! <br> "));
     else if (m_model->GetInitialColorPatchValues(m_originalColors) == 0)
-        fail(QStringLiteral("Unable to fetch original color patch values! <br> "));
+        fail(QCoreApplication::translate("QmlTrapezoidList",
+                                         "Unable to fetch original color patch values! <br> "));
     else if (m_model->GetTargetColorPatchValues(m_targetColors) == 0)
-        fail(QStringLiteral("Unable to fetch target color patch values! <br> "));
+        fail(QCoreApplication::translate("QmlTrapezoidList",
+                                         "Unable to fetch target color patch values! <br> "));
 }
 
 void QmlTrapezoidList::fail(const QString& text)

@@ -2,12 +2,18 @@
 // From errors of the QML engine to a text that says what to do.
 #include "sceneproblem.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
 
 namespace ColorCalibration {
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(SceneProblem)
+};
 
 #if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
 constexpr bool hasPackages = false;
@@ -17,7 +23,7 @@ constexpr bool hasPackages = true;
 
 QString headline()
 {
-    return QStringLiteral("The Color Calibrator cannot be shown.");
+    return Texts::tr("The Color Calibrator cannot be shown.");
 }
 
 // Names of Debian's packages; elsewhere the module's own name is the best hint.
@@ -42,8 +48,8 @@ QString packageOf(const QString& module)
 QString remedyFor(const QString& module)
 {
     if (!hasPackages)
-        return QStringLiteral("Install the viewer again.");
-    return QStringLiteral("Install the package %1, then start the Color Calibrator again.")
+        return Texts::tr("Install the viewer again.");
+    return Texts::tr("Install the package %1, then start the Color Calibrator again.")
         .arg(packageOf(module));
 }
 
@@ -67,11 +73,10 @@ QString adviceOn(const QQmlError& error)
 {
     const QString module = missingModule(error);
     if (!module.isEmpty())
-        return QStringLiteral("The QML module \"%1\" is missing or damaged. %2")
+        return Texts::tr("The QML module \"%1\" is missing or damaged. %2")
             .arg(module, remedyFor(module));
     if (isMissingFile(error))
-        return QStringLiteral("%1 is missing. Install the viewer again.")
-            .arg(error.url().toString());
+        return Texts::tr("%1 is missing. Install the viewer again.").arg(error.url().toString());
     return error.toString();
 }
 
@@ -96,11 +101,12 @@ QString sceneProblemText(const QList<QQmlError>& errors)
 
 QString drawingProblemText(const QString& error)
 {
-    const QString package =
-        hasPackages ? QStringLiteral(", in Debian the package libgl1-mesa-dri") : QString();
-    return headline() + QLatin1Char('\n') + error + QLatin1Char('\n') +
-           QStringLiteral("Install a graphics driver with OpenGL%1, then start the viewer again.")
-               .arg(package);
+    const QString remedy =
+        hasPackages ? Texts::tr("Install a graphics driver with OpenGL, in Debian the package "
+                                "libgl1-mesa-dri, then start the viewer again.")
+                    : Texts::tr("Install a graphics driver with OpenGL, then start the viewer "
+                                "again.");
+    return headline() + QLatin1Char('\n') + error + QLatin1Char('\n') + remedy;
 }
 
 } // namespace ColorCalibration

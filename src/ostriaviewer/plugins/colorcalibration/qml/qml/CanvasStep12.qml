@@ -164,7 +164,7 @@ Item {
         DragPoint {
             id: upperLeft
             objectName: "upperLeft"
-            cornerName: "Upper left corner of the grid"
+            cornerName: qsTr("Upper left corner of the grid")
 
             readonly property Item first: upperRight
             readonly property Item second: lowerLeft
@@ -178,7 +178,7 @@ Item {
         DragPoint {
             id: upperRight
             objectName: "upperRight"
-            cornerName: "Upper right corner of the grid"
+            cornerName: qsTr("Upper right corner of the grid")
 
             readonly property Item first: lowerRight
             readonly property Item second: upperLeft
@@ -192,7 +192,7 @@ Item {
         DragPoint {
             id: lowerRight
             objectName: "lowerRight"
-            cornerName: "Lower right corner of the grid"
+            cornerName: qsTr("Lower right corner of the grid")
 
             readonly property Item first: lowerLeft
             readonly property Item second: upperRight
@@ -206,7 +206,7 @@ Item {
         DragPoint {
             id: lowerLeft
             objectName: "lowerLeft"
-            cornerName: "Lower left corner of the grid"
+            cornerName: qsTr("Lower left corner of the grid")
 
             readonly property Item first: upperLeft
             readonly property Item second: lowerRight

@@ -16,7 +16,7 @@ Item {
 
     QMLFileDialog {
         id: dialog
-        title: "Choose a file"
+        title: qsTr("Choose a file")
         selectMultiple: false
         selectFolder: false
         onAccepted: signalFileName(Utility.pathOfUrl(fileUrl))

@@ -16,7 +16,7 @@ Item {
 
     QMLFileDialog {
         id: dialog
-        title: "Choose a Folder"
+        title: qsTr("Choose a Folder")
         selectMultiple: false
         selectFolder: true
         onAccepted: signalFileName(Utility.pathOfUrl(fileUrl))

@@ -62,7 +62,7 @@ Item {
     FiledialogCalibration {
         id: fileDialog
         objectName: "previousCalibrationDialog"
-        useFilters: ["OstriaFeatureStream files (*.cst )"]
+        useFilters: [qsTr("OstriaFeatureStream files (*.cst )")]
         folder: pathSettings.folder
         onSignalFileName: {
             pathSettings.folder = folder

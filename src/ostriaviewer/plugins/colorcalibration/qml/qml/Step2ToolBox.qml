@@ -232,7 +232,7 @@ Item {
             id: autoAdjustGrayError
             objectName: "autoAdjustGrayError"
             modality: Qt.ApplicationModal
-            title: "autoadjust error"
+            title: qsTr("autoadjust error")
             text: tAutoAdjustValuesImpossible
             width: 300
         }

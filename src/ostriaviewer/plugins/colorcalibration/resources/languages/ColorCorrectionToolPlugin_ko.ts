@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Apply initial values failed.</source>
-        <translation>초기값을 적용하지 못했습니다.</translation>
+        <translation>초깃값을 적용하지 못했습니다.</translation>
     </message>
     <message>
         <source>Calibration process failed.</source>
