@@ -11,6 +11,8 @@ ClosingQuestion::ClosingQuestion(RecordingCommands& recordings, QWidget& window,
     , m_recordings(recordings)
     , m_window(window)
 {
+    // Who records again while the last pictures are written has thought better of it.
+    connect(&recordings, &RecordingCommands::begun, this, [this] { m_isAgreed = false; });
     connect(&recordings, &RecordingCommands::allEnded, this, [this] {
         if (m_isAgreed)
             m_window.close();

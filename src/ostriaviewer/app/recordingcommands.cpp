@@ -127,6 +127,7 @@ void RecordingCommands::start(const HostCameraPtr& camera)
     if (!camera->isGrabbing())
         recorder->stop();
     m_cameras.announce(camera);
+    emit begun();
 }
 
 void RecordingCommands::stop(const HostCamera* camera)

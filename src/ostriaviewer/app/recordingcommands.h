@@ -50,6 +50,9 @@ signals:
     /// What the user should know; `isFailure` if the recording is not what was asked for.
     void reported(const QString& text, bool isFailure);
 
+    /// A recording has begun.
+    void begun();
+
     /// The last recording that ran has ended, and what is to be known of it has been reported.
     void allEnded();
 

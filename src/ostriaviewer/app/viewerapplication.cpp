@@ -280,14 +280,15 @@ void ViewerApplication::quit()
     m_isQuitting = true;
     QWidget* dialog = QApplication::activeModalWidget();
     if (!dialog) {
-        m_window->close();
+        m_isQuitting = m_window->close();
         return;
     }
     dialog->close();
     QMetaObject::invokeMethod(
         this,
         [this, dialog] {
-            if (QApplication::activeModalWidget() != dialog)
+            m_isQuitting = QApplication::activeModalWidget() != dialog;
+            if (m_isQuitting)
                 quit();
         },
         Qt::QueuedConnection);

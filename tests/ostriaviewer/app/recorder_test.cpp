@@ -4,6 +4,8 @@
 
 #include "recorder.h"
 
+#include <QCloseEvent>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
@@ -153,6 +155,19 @@ TEST_F(ClosedWhileRecording, ClosesWhenAllIsWritten)
     EXPECT_TRUE(hasMessage("Recorded"));
 }
 
+TEST_F(ClosedWhileRecording, StaysOpenForARecordingThatBeginsMeanwhile)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    answer("&End Recording");
+    // What ends the first recording still waits in the event queue.
+    clickCamera(1);
+    window().recording().recordAction()->trigger();
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    window().recording().recordAction()->trigger();
+    EXPECT_TRUE(waitUntil([this] { return window().recording().recorded().isEmpty(); }));
+    EXPECT_TRUE(window().isVisible());
+}
+
 TEST_F(ClosedWhileRecording, ClosesWhereTheRecordingHasEndedByItself)
 {
     ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
@@ -171,6 +186,27 @@ TEST_F(ClosedWhileRecording, QuittingAsksNothing)
     EXPECT_FALSE(window().isVisible());
     m_viewer.reset();
     EXPECT_GE(recording().entryList({"*.png"}).size(), 2);
+}
+
+class StubbornDialog : public QDialog
+{
+protected:
+    void closeEvent(QCloseEvent* event) override { event->ignore(); }
+};
+
+TEST_F(ClosedWhileRecording, AsksAgainAfterQuittingWasRefused)
+{
+    startRecording();
+    StubbornDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    m_viewer->quit();
+    QCoreApplication::processEvents();
+    dialog.hide();
+    window().close();
+    ASSERT_TRUE(window().isVisible());
+    ASSERT_TRUE(messageBox());
+    answer("Cancel");
 }
 
 TEST_F(RecorderTest, TellsThatTheFolderCannotBeMade)
