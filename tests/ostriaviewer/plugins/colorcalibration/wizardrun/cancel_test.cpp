@@ -53,18 +53,46 @@ TEST_P(CancelOnStep, LeavesTheCameraAsItWas)
     cancelBy("window closed", [this] { m_dialog->close(); });
 }
 
-class HeldEscape : public WizardRun
+/// Keys as a window gets them, with the time at which the user pressed them.
+class TimedKeys : public WizardRun
 {
 protected:
-    template <typename Receiver>
-    static void repeat(Receiver* receiver)
+    /// What comes of a key that is held: a repeat where the system tells so, else a release and a
+    /// press of one moment.
+    void repeat(QWindow* window, Qt::Key key, bool isTold)
     {
-        QKeyEvent event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(receiver, &event);
+        ++m_time;
+        if (!isTold)
+            send(window, QEvent::KeyRelease, key, false);
+        send(window, QEvent::KeyPress, key, isTold);
     }
+
+    void pressAndRelease(QWindow* window, Qt::Key key)
+    {
+        ++m_time;
+        send(window, QEvent::KeyPress, key, false);
+        ++m_time;
+        send(window, QEvent::KeyRelease, key, false);
+    }
+
+private:
+    void send(QWindow* window, QEvent::Type type, Qt::Key key, bool isRepeat) const
+    {
+        QKeyEvent event(type, key, Qt::NoModifier, QString(), isRepeat);
+        event.setTimestamp(m_time);
+        QCoreApplication::sendEvent(window, &event);
+    }
+
+    ulong m_time = 1000;
 };
 
-TEST_F(HeldEscape, LeavesTheQuestionOpen)
+class HeldKey : public TimedKeys, public testing::WithParamInterface<bool>
+{
+protected:
+    void repeat(QWindow* window, Qt::Key key) { TimedKeys::repeat(window, key, GetParam()); }
+};
+
+TEST_P(HeldKey, LeavesTheQuestionOpen)
 {
     ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
     run([this] {
@@ -72,14 +100,16 @@ TEST_F(HeldEscape, LeavesTheQuestionOpen)
         press(Qt::Key_Escape);
         ASSERT_TRUE(waitFor([] { return box() != nullptr; }));
         const QPointer<QMessageBox> question = box();
-        repeat(question->button(QMessageBox::No));
-        repeat(question->windowHandle());
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Space}) {
+            repeat(question->windowHandle(), key);
+            repeat(question->windowHandle(), key);
+        }
         ASSERT_TRUE(question && question->isVisible());
 
-        question->button(QMessageBox::No)->click();
-        repeat(m_dialog.get());
-        repeat(m_dialog->windowHandle());
-        repeat(m_data->view());
+        pressAndRelease(question->windowHandle(), Qt::Key_Escape);
+        EXPECT_TRUE(waitFor([] { return box() == nullptr; }));
+        repeat(m_dialog->windowHandle(), Qt::Key_Escape);
+        repeat(m_data->view(), Qt::Key_Escape);
         EXPECT_TRUE(m_dialog->isVisible());
         EXPECT_FALSE(box());
         EXPECT_EQ(m_data->activeStep(), 2);
@@ -87,7 +117,27 @@ TEST_F(HeldEscape, LeavesTheQuestionOpen)
     });
 }
 
-class QuestionOfTheWizard : public WizardRun
+TEST_P(HeldKey, GoesNoFurtherThanOnePress)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    run([this] {
+        ASSERT_NO_FATAL_FAILURE(goTo(3));
+        repeat(m_data->view(), Qt::Key_Return);
+        repeat(m_data->view(), Qt::Key_Return);
+        EXPECT_EQ(m_data->activeStep(), 3);
+        pressAndRelease(m_data->view(), Qt::Key_Return);
+        EXPECT_TRUE(waitFor([this] { return m_data->activeStep() == 4; }));
+        repeat(m_data->view(), Qt::Key_Return);
+        repeat(m_data->view(), Qt::Key_Return);
+        EXPECT_TRUE(m_dialog->isVisible());
+        m_dialog->close();
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Told, HeldKey, testing::Bool(),
+                         [](const auto& each) { return each.param ? "AsRepeat" : "AsPress"; });
+
+class QuestionOfTheWizard : public TimedKeys
 {};
 
 TEST_F(QuestionOfTheWizard, StandsOverItsWindow)
@@ -104,6 +154,27 @@ TEST_F(QuestionOfTheWizard, StandsOverItsWindow)
             EXPECT_LE(from.manhattanLength(), 2);
             box()->button(QMessageBox::No)->click();
             ASSERT_TRUE(waitFor([] { return box() == nullptr; }));
+        }
+        m_dialog->close();
+    });
+}
+
+TEST_F(QuestionOfTheWizard, GivesTheKeysBack)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    run([this] {
+        ASSERT_NO_FATAL_FAILURE(goTo(2));
+        for (const char* way : {"first", "again"}) {
+            SCOPED_TRACE(way);
+            ASSERT_NE(QGuiApplication::focusWindow(), nullptr);
+            pressAndRelease(QGuiApplication::focusWindow(), Qt::Key_Escape);
+            ASSERT_TRUE(waitFor([] { return box() != nullptr; }));
+            ASSERT_TRUE(
+                waitFor([] { return QGuiApplication::focusWindow() == box()->windowHandle(); }));
+            pressAndRelease(box()->windowHandle(), Qt::Key_Escape);
+            ASSERT_TRUE(waitFor([] { return box() == nullptr; }));
+            ASSERT_TRUE(
+                waitFor([this] { return QGuiApplication::focusWindow() == m_data->view(); }));
         }
         m_dialog->close();
     });

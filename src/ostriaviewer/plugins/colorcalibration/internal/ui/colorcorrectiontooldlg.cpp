@@ -3,6 +3,7 @@
 #include "colorcorrectiontooldlg.h"
 
 #include "colorcorrectionmodel.h"
+#include "heldkeys.h"
 #include "modalbox.h"
 #include "qmldatamodelinterface.h"
 #include "qmlostriacamera.h"
@@ -76,7 +77,8 @@ void ColorCorrectionToolDlg::connectDataModel()
 int ColorCorrectionToolDlg::exec()
 {
     const QPointer<ColorCorrectionToolDlg> self(this);
-    const SceneBoxes boxes(this);
+    const HeldKeys keys;
+    const SceneBoxes boxes(this, m_dataModel->view());
     m_running = true;
     const int result = QDialog::exec();
     // The application quit, or the parent's end took the window from the screen.

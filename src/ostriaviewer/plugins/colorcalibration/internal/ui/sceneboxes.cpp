@@ -2,46 +2,49 @@
 // The scene's own message boxes and file dialogs over the wizard's window.
 #include "sceneboxes.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDialog>
-#include <QKeyEvent>
-#include <QMessageBox>
 #include <QScreen>
-#include <QWindow>
 
 namespace ColorCalibration {
-namespace {
-
-bool isHeldKeyOfABox(const QObject* object, const QEvent* event)
-{
-    if (!static_cast<const QKeyEvent*>(event)->isAutoRepeat() || !object->isWidgetType())
-        return false;
-    const auto* box = qobject_cast<QMessageBox*>(static_cast<const QWidget*>(object)->window());
-    return box && !box->parentWidget();
-}
-
-} // namespace
-
-SceneBoxes::SceneBoxes(QWidget* window)
+SceneBoxes::SceneBoxes(QWidget* window, QWindow* scene)
     : m_window(window)
+    , m_scene(scene)
 {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
 bool SceneBoxes::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress)
-        return isHeldKeyOfABox(object, event);
-    if (event->type() != QEvent::Show || event->spontaneous())
+    const bool isShown = event->type() == QEvent::Show;
+    if ((!isShown && event->type() != QEvent::Hide) || event->spontaneous())
         return false;
     auto* dialog = qobject_cast<QDialog*>(object);
     if (!dialog || !isPlaced(dialog))
         return false;
+    if (isShown)
+        return show(dialog, event);
+    QMetaObject::invokeMethod(this, &SceneBoxes::giveKeysBack, Qt::QueuedConnection);
+    return false;
+}
+
+bool SceneBoxes::show(QWidget* dialog, QEvent* event)
+{
     dialog->windowHandle()->setTransientParent(m_window->windowHandle());
     // Only in its own answer to this event does it find its size, and a place that is none.
-    object->event(event);
+    static_cast<QObject*>(dialog)->event(event);
     place(dialog);
     return true;
+}
+
+// Without a window manager nobody else does it.
+void SceneBoxes::giveKeysBack()
+{
+    if (!m_window || !m_window->isVisible() || QApplication::activeModalWidget() != m_window)
+        return;
+    m_window->activateWindow();
+    if (m_scene)
+        m_scene->requestActivate();
 }
 
 bool SceneBoxes::isPlaced(const QWidget* dialog) const
