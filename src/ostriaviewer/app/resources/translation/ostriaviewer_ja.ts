@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>%1: the camera does not take packets of %2 bytes, as the settings want them; it uses packets of %3 bytes.</source>
-        <translation>%1：カメラは設定された%2バイトのパケットに対応していません。%3バイトのパケットを使用します。</translation>
+        <translation>%1：設定されたパケットサイズ（%2バイト）にカメラが対応していないため、%3バイトのパケットを使用します。</translation>
     </message>
     <message>
         <source>the camera refuses it</source>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>the camera refuses it, and does not answer when asked why</source>
-        <translation>カメラが拒否し、その理由の問い合わせに応答しません</translation>
+        <translation>カメラが要求を拒否し、その理由を問い合わせても応答しませんでした</translation>
     </message>
     <message>
         <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
@@ -705,6 +705,13 @@ Do you want to end the recording and close the viewer?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::FrameConverter</name>
+    <message>
+        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
+        <translation>この画像は表示できません（%1）。別のピクセルフォーマットまたは別の画像サイズを選択してください。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::LiveSession</name>
     <message>
         <source>Select a camera in the list.</source>
@@ -725,13 +732,6 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Waiting for the first picture of %1.</source>
         <translation>%1 の最初の画像を待っています。</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::FrameConverter</name>
-    <message>
-        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
-        <translation>この画像は表示できません（%1）。別のピクセルフォーマットまたは別の画像サイズを選択してください。</translation>
     </message>
 </context>
 <context>
@@ -1074,7 +1074,7 @@ Do you want to end the recording and close the viewer?</source>
     <message numerus="yes">
         <source>The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.</source>
         <translation>
-            <numerusform>%1 の録画は%n枚で終了しました。%2録画した画像は %3 にあります。</numerusform>
+            <numerusform>%1 の録画は、%n枚を記録したところで終了しました。%2録画した画像は %3 にあります。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1106,7 +1106,7 @@ Do you want to end the recording and close the viewer?</source>
     <name>Viewer::ViewerApplication</name>
     <message>
         <source>A picture of %1 failed: %2</source>
-        <translation>%1 の画像の取り込みに失敗しました：%2</translation>
+        <translation>%1 の画像に問題があります：%2</translation>
     </message>
     <message>
         <source>The connection to %1 is lost. Reconnect the camera and open it again.</source>

@@ -59,7 +59,7 @@
     </message>
     <message>
         <source>%1: %2 (%3)</source>
-        <translation>%1: %2(%3)</translation>
+        <translation>%1: %2 (%3)</translation>
     </message>
 </context>
 <context>
@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>the camera refuses it, and does not answer when asked why</source>
-        <translation>카메라가 거부했고, 그 이유를 묻는 요청에 응답하지 않습니다</translation>
+        <translation>카메라가 요청을 거부했으며, 그 이유를 조회했으나 응답하지 않았습니다</translation>
     </message>
     <message>
         <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
@@ -300,11 +300,11 @@
     </message>
     <message>
         <source>%1: %2 of %3 images were damaged on their way and left out (%4 packets are missing). Set a larger packet size or a packet delay.</source>
-        <translation>%1: 이미지 %3장 중 %2장이 전송 중에 손상되어 버려졌습니다(누락된 패킷 %4개). 패킷 크기를 늘리거나 패킷 지연을 설정하십시오.</translation>
+        <translation>%1: 이미지 %3장 중 %2장이 전송 과정에서 손상되어 폐기되었습니다(누락된 패킷 %4개). 패킷 크기를 늘리거나 패킷 지연을 설정하십시오.</translation>
     </message>
     <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
-        <translation>%1: 이 컴퓨터의 처리가 따라가지 못해 이미지 %3장 중 %2장이 버려졌습니다. 프레임 속도를 낮추거나 이미지 크기를 줄이십시오.</translation>
+        <translation>%1: 이 컴퓨터의 처리가 따라가지 못해 이미지 %3장 중 %2장이 폐기되었습니다. 프레임 속도를 낮추거나 이미지 크기를 줄이십시오.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -705,6 +705,13 @@ Do you want to end the recording and close the viewer?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::FrameConverter</name>
+    <message>
+        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
+        <translation>이 이미지를 표시할 수 없습니다(%1). 다른 픽셀 형식이나 다른 이미지 크기를 선택하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::LiveSession</name>
     <message>
         <source>Select a camera in the list.</source>
@@ -725,13 +732,6 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Waiting for the first picture of %1.</source>
         <translation>%1 카메라의 첫 이미지를 기다리는 중입니다.</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::FrameConverter</name>
-    <message>
-        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
-        <translation>이 이미지를 표시할 수 없습니다(%1). 다른 픽셀 형식이나 다른 이미지 크기를 선택하십시오.</translation>
     </message>
 </context>
 <context>
@@ -1062,11 +1062,11 @@ Do you want to end the recording and close the viewer?</source>
     </message>
     <message>
         <source>A picture could not be written (%1). Make room on the disk or choose another folder.</source>
-        <translation>이미지를 쓸 수 없습니다(%1). 디스크의 여유 공간을 늘리거나 다른 폴더를 선택하십시오.</translation>
+        <translation>이미지를 저장하지 못했습니다(%1). 디스크의 여유 공간을 확보하거나 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>A picture could not be converted (%1). Choose another pixel format or another image size.</source>
-        <translation>이미지를 변환할 수 없습니다(%1). 다른 픽셀 형식이나 다른 이미지 크기를 선택하십시오.</translation>
+        <translation>이미지를 변환하지 못했습니다(%1). 다른 픽셀 형식이나 다른 이미지 크기를 선택하십시오.</translation>
     </message>
 </context>
 <context>
@@ -1074,7 +1074,7 @@ Do you want to end the recording and close the viewer?</source>
     <message numerus="yes">
         <source>The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.</source>
         <translation>
-            <numerusform>%1 카메라의 녹화가 %n장에서 종료되었습니다. %2 녹화한 이미지는 %3 폴더에 있습니다.</numerusform>
+            <numerusform>%1 카메라의 녹화가 이미지 %n장을 기록한 후 종료되었습니다. %2 녹화한 이미지는 %3 폴더에 있습니다.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1106,7 +1106,7 @@ Do you want to end the recording and close the viewer?</source>
     <name>Viewer::ViewerApplication</name>
     <message>
         <source>A picture of %1 failed: %2</source>
-        <translation>%1 카메라의 이미지 획득에 실패했습니다: %2</translation>
+        <translation>%1 카메라의 이미지에 문제가 있습니다: %2</translation>
     </message>
     <message>
         <source>The connection to %1 is lost. Reconnect the camera and open it again.</source>

@@ -113,7 +113,7 @@
     </message>
     <message>
         <source>the camera refuses it, and does not answer when asked why</source>
-        <translation>相机拒绝了该操作，询问原因时也没有响应</translation>
+        <translation>相机拒绝了该操作，且未响应对拒绝原因的查询</translation>
     </message>
     <message>
         <source>the camera has not heard from this program for too long and does not obey it any more; open the camera again</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>The frame cannot be used (%1). Choose another pixel format or another image size.</source>
-        <translation>无法使用该帧（%1）。请选择其他像素格式或其他图像尺寸。</translation>
+        <translation>无法使用该帧（%1）。请选择其他像素格式或图像尺寸。</translation>
     </message>
 </context>
 <context>
@@ -705,6 +705,13 @@ Do you want to end the recording and close the viewer?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::FrameConverter</name>
+    <message>
+        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
+        <translation>无法显示该图像（%1）。请选择其他像素格式或图像尺寸。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::LiveSession</name>
     <message>
         <source>Select a camera in the list.</source>
@@ -725,13 +732,6 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Waiting for the first picture of %1.</source>
         <translation>正在等待 %1 的第一帧图像。</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::FrameConverter</name>
-    <message>
-        <source>It cannot be shown (%1). Choose another pixel format or another image size.</source>
-        <translation>无法显示该图像（%1）。请选择其他像素格式或其他图像尺寸。</translation>
     </message>
 </context>
 <context>
@@ -1066,7 +1066,7 @@ Do you want to end the recording and close the viewer?</source>
     </message>
     <message>
         <source>A picture could not be converted (%1). Choose another pixel format or another image size.</source>
-        <translation>无法转换图像（%1）。请选择其他像素格式或其他图像尺寸。</translation>
+        <translation>无法转换图像（%1）。请选择其他像素格式或图像尺寸。</translation>
     </message>
 </context>
 <context>
@@ -1074,7 +1074,7 @@ Do you want to end the recording and close the viewer?</source>
     <message numerus="yes">
         <source>The recording of %1 ended after %n picture(s). %2 What was recorded is in %3.</source>
         <translation>
-            <numerusform>%1 的录制在 %n 帧后结束。%2已录制的图像位于 %3。</numerusform>
+            <numerusform>%1 的录制已结束，共录制 %n 帧。%2已录制的图像位于 %3。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1106,7 +1106,7 @@ Do you want to end the recording and close the viewer?</source>
     <name>Viewer::ViewerApplication</name>
     <message>
         <source>A picture of %1 failed: %2</source>
-        <translation>%1 的图像采集失败：%2</translation>
+        <translation>%1 的图像有问题：%2</translation>
     </message>
     <message>
         <source>The connection to %1 is lost. Reconnect the camera and open it again.</source>

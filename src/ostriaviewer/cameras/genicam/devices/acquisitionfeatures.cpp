@@ -133,7 +133,7 @@ void AcquisitionFeatures::tryStep(const QString& what, const Step& step) noexcep
         Core::Logging::createLogEntry(
             Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
             Texts::tr("%1: %2 (%3)")
-                .arg(m_nodeMap->d().camera(), Core::withoutFullStop(what),
+                .arg(m_nodeMap->d().camera(), what,
                      Core::withoutFullStop(QString::fromUtf8(error.what()))));
     }
 }

@@ -13,6 +13,8 @@
 
 #include <cstring>
 #include <exception>
+#include <memory>
+#include <utility>
 
 namespace Cameras::GenICam {
 namespace {
@@ -34,22 +36,36 @@ bool holdsImage(ArvBuffer* buffer)
            type == ARV_BUFFER_PAYLOAD_TYPE_EXTENDED_CHUNK_DATA;
 }
 
-Ostria::COstriaImage copyImage(ArvBuffer* buffer, Ostria::PixelType type)
+/// What the buffer says of its image.
+struct Layout
+{
+    Ostria::PixelType type;
+    int width;
+    int height;
+    std::size_t padding; ///< bytes behind each row
+};
+
+Layout layoutOf(ArvBuffer* buffer, Ostria::PixelType type)
 {
     gint paddingX = 0;
     gint paddingY = 0;
     arv_buffer_get_image_padding(buffer, &paddingX, &paddingY);
-    const int width = arv_buffer_get_image_width(buffer);
-    const int height = arv_buffer_get_image_height(buffer);
+    return {type, arv_buffer_get_image_width(buffer), arv_buffer_get_image_height(buffer),
+            static_cast<std::size_t>(paddingX)};
+}
+
+/// \return  null where the camera has sent less than it says; any size can be said
+std::unique_ptr<Ostria::COstriaImage> copyImage(ArvBuffer* buffer, const Layout& layout)
+{
     const std::size_t wanted = Ostria::ComputeImageSize(
-        Ostria::ComputeStride(type, width, static_cast<std::size_t>(paddingX)), height);
+        Ostria::ComputeStride(layout.type, layout.width, layout.padding), layout.height);
     std::size_t size = 0;
     const void* data = arv_buffer_get_image_data(buffer, &size);
-    // A camera may say any size; memory is taken for what it has sent alone.
     if (!data || size < wanted)
-        throw std::length_error(Texts::tr("The frame holds less than its image.").toStdString());
-    Ostria::COstriaImage image(type, width, height, static_cast<std::size_t>(paddingX));
-    std::memcpy(image.writableData(), data, image.size());
+        return nullptr;
+    auto image = std::make_unique<Ostria::COstriaImage>(layout.type, layout.width, layout.height,
+                                                        layout.padding);
+    std::memcpy(image->writableData(), data, image->size());
     return image;
 }
 
@@ -65,7 +81,10 @@ Ostria::CGrabResultPtr toGrabResult(ArvBuffer* buffer, std::uint64_t number)
                            .arg(static_cast<quint32>(type), 8, 16, QLatin1Char('0')),
                        number);
     try {
-        return std::make_shared<Ostria::CGrabResult>(copyImage(buffer, type), number);
+        const auto image = copyImage(buffer, layoutOf(buffer, type));
+        if (!image)
+            return failure(Texts::tr("The frame holds less than its image."), number);
+        return std::make_shared<Ostria::CGrabResult>(std::move(*image), number);
     } catch (const std::exception& error) {
         return failure(Texts::tr("The frame cannot be used (%1). Choose another pixel format or "
                                  "another image size.")
