@@ -82,8 +82,9 @@ TEST(UsedTexts, AreInTheCataloguesButForThoseThatStayEnglish)
 
 TEST(UsedTexts, OfThePagesGoThroughTheTranslator)
 {
-    const QString property = QStringLiteral(R"(^\s*(?:readonly )?(?:property \w+ )?[\w.]*)"
-                                            R"((?<!object)(?:title|text|name|tooltip|filters?)\s*:\s*)");
+    const QString property =
+        QStringLiteral(R"(^\s*(?:readonly )?(?:property \w+ )?[\w.]*)"
+                       R"((?<!object)(?:title|text|name|tooltip|filters?)\s*:\s*)");
     const QString literal = QStringLiteral(R"re(\[?\s*"[^"]*[A-Za-z][^"]*")re");
     const QRegularExpression plain(property + literal, QRegularExpression::CaseInsensitiveOption |
                                                            QRegularExpression::MultilineOption);

@@ -40,23 +40,34 @@ WizardRun::~WizardRun()
     qInstallMessageHandler(nullptr);
 }
 
-void WizardRun::openCamera(FeatureNames names)
+CameraModel WizardRun::fastModel(FeatureNames names)
 {
     CameraModel model = modelWith(names);
     model.sensor.width = 480;
     model.sensor.height = 320;
     model.readoutTime = 100.0;
-    m_camera = makeCamera(model);
-    m_pool = std::make_unique<Cameras::CameraPool>(QList<Cameras::HostCameraPtr>{m_camera});
+    return model;
+}
+
+void WizardRun::openCamera(FeatureNames names)
+{
+    m_camera = makeCamera(fastModel(names));
+    open(m_camera);
+}
+
+void WizardRun::open(const Cameras::HostCameraPtr& camera)
+{
+    m_host = camera;
+    m_pool = std::make_unique<Cameras::CameraPool>(QList<Cameras::HostCameraPtr>{m_host});
     m_pool->registerServices(m_registry);
     m_model.SetCameraStatusService(
         m_registry.find<Plugin::CameraPool::ICameraStatusService>().data());
     m_model.SetCameraControlService(
         m_registry.find<Plugin::CameraPool::ICameraControlService>().data());
     m_data = std::make_unique<QmlDataModelInterface>(&m_model);
-    ASSERT_TRUE(m_pool->open(m_camera)) << m_camera->lastErrorText().toStdString();
+    ASSERT_TRUE(m_pool->open(m_host)) << m_host->lastErrorText().toStdString();
 
-    const auto parameters = m_camera->parameterCollection();
+    const auto parameters = m_host->parameterCollection();
     parameters->floatParameter("ExposureTime|ExposureTimeAbs")->setValue(4000);
     parameters->enumerationParameter("BalanceRatioSelector")->setValue("Red");
     parameters->floatParameter("BalanceRatio|BalanceRatioAbs")->setValue(1.25);
@@ -65,7 +76,7 @@ void WizardRun::openCamera(FeatureNames names)
 
 void WizardRun::run(const std::function<void()>& inWizard)
 {
-    ASSERT_TRUE(m_model.Open(m_camera));
+    ASSERT_TRUE(m_model.Open(m_host));
     if (m_dialog)
         m_data->resetScene();
     else
@@ -79,8 +90,8 @@ void WizardRun::run(const std::function<void()>& inWizard)
         m_dialog->close();
     });
     m_dialog->exec();
-    EXPECT_EQ(m_camera->isOpen(), !m_isCameraLost) << "the host's own";
-    EXPECT_FALSE(m_camera->isGrabbing());
+    EXPECT_EQ(m_host->isOpen(), !m_isCameraLost) << "the host's own";
+    EXPECT_FALSE(m_host->isGrabbing());
 }
 
 void WizardRun::goTo(int step)
@@ -189,7 +200,7 @@ bool WizardRun::waitFor(const std::function<bool()>& condition)
 QStringList WizardRun::settings()
 {
     QString text;
-    m_camera->parameterCollection()->saveFeatures(text, "@CameraDevice");
+    m_host->parameterCollection()->saveFeatures(text, "@CameraDevice");
     QStringList lines;
     for (const QString& line : text.split('\n'))
         if (!line.startsWith('#'))
@@ -199,7 +210,7 @@ QStringList WizardRun::settings()
 
 double WizardRun::value(const QString& feature, const QString& selector, const QString& entry)
 {
-    const auto parameters = m_camera->parameterCollection();
+    const auto parameters = m_host->parameterCollection();
     if (!selector.isEmpty())
         parameters->enumerationParameter(selector)->setValue(entry);
     return parameters->floatParameter(feature)->value();

@@ -24,8 +24,13 @@ protected:
     WizardRun();
     ~WizardRun() override;
 
-    /// Opens a camera for the host, before the chart and with settings of the user's own.
+    /// A camera that stands before the chart and makes small images fast.
+    static Cameras::Emulation::CameraModel fastModel(FeatureNames names);
+
+    /// Opens an emulated camera, before the chart and with settings of the user's own.
     void openCamera(FeatureNames names);
+    /// The same for any camera, which is the wizard's from then on.
+    void open(const Cameras::HostCameraPtr& camera);
 
     /// Starts the wizard as the plugin does, does this in it, and returns when it has ended. A
     /// window that is still open after it counts as a failure.
@@ -49,7 +54,7 @@ protected:
     static QMessageBox* box();
     /// All that are open.
     static QVector<QMessageBox*> boxes();
-    /// Breaks the camera's connection. It is no longer open after the wizard then.
+    /// Breaks the emulated camera's connection. It is no longer open after the wizard then.
     void loseCamera();
     /// Reconnects and opens it.
     void findCameraAgain();
@@ -61,13 +66,13 @@ protected:
     /// The same for one of the gains of the color matrix.
     double gain(int row, int column);
 
-    QSharedPointer<Cameras::Emulation::EmulatedCamera> m_camera;
+    Cameras::HostCameraPtr m_host;                               // the wizard's camera
+    QSharedPointer<Cameras::Emulation::EmulatedCamera> m_camera; // the same where it is emulated
     Core::Service::CServiceRegistry m_registry;
     std::unique_ptr<Cameras::CameraPool> m_pool;
     ColorCalibration::ColorCorrectionModel m_model;
     std::unique_ptr<ColorCalibration::QmlDataModelInterface> m_data;
     std::unique_ptr<ColorCalibration::ColorCorrectionToolDlg> m_dialog;
 
-private:
-    bool m_isCameraLost = false;
+    bool m_isCameraLost = false; // it is not open after the wizard
 };

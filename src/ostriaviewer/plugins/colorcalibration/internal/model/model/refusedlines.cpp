@@ -64,8 +64,8 @@ public:
 
     bool isUnmet(const QString& refusedLine) const
     {
-        // Lines come in the user's language, where no blank need part a name from its sentence: only
-        // letters without accents make a word here, as they do in names of features.
+        // Lines come in the user's language, where no blank need part a name from its sentence:
+        // only letters without accents make a word here, as they do in names of features.
         static const QRegularExpression word(QStringLiteral("\\w+"));
         bool namesAny = false;
         auto words = word.globalMatch(refusedLine);
