@@ -13,6 +13,12 @@
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
 
+// What the libraries do among themselves is not seen whole, so nothing is said of it.
+extern "C" __attribute__((visibility("default"))) const char* __tsan_default_options()
+{
+    return "ignore_noninstrumented_modules=1";
+}
+
 namespace {
 
 template <typename Function>
