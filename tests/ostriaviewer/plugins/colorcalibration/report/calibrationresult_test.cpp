@@ -153,6 +153,29 @@ TEST_F(CalibrationResultTest, SavesWhileOthersHoldAllThreadsOfThePool)
     EXPECT_EQ(entries(m_reportFolder).size(), 5);
 }
 
+TEST_F(CalibrationResultTest, AnImageWithoutRoomEndsASummaryBehindTheFilesBeforeIt)
+{
+    const LogRecorder log;
+    EXPECT_FALSE(m_result.SaveSummary(m_folder.path(), imageWithoutRoom(), image(qRgb(9, 8, 7)),
+                                      sampleResults()));
+    EXPECT_EQ(entries(m_reportFolder), (QStringList{"calibrated.cst", "calibrated.png",
+                                                    "calibration_report.html", "original.cst"}));
+    ASSERT_EQ(log.entries().size(), 1);
+    EXPECT_EQ(log.entries().first().text, "Cannot write the file \"" +
+                                              path(m_reportFolder + "/original.png") +
+                                              "\": there is not enough memory for the image.");
+}
+
+TEST_F(CalibrationResultTest, AnImageWithoutRoomDoesNotHideAnEarlierFailure)
+{
+    const LogRecorder log;
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(m_reportFolder + "/original.cst"));
+    EXPECT_FALSE(m_result.SaveSummary(m_folder.path(), imageWithoutRoom(), imageWithoutRoom(),
+                                      sampleResults()));
+    ASSERT_EQ(log.entries().size(), 1);
+    EXPECT_TRUE(log.entries().first().text.contains("original.cst"));
+}
+
 TEST_F(CalibrationResultTest, SavesNothingWithoutADirectory)
 {
     const LogRecorder log;

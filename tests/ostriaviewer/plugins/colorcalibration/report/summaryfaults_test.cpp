@@ -135,8 +135,9 @@ TEST_F(SummaryFaults, InsideWhatTakesLittle)
     for (int y = 0; y < noise.height(); ++y)
         for (int x = 0; x < noise.width(); ++x)
             noise.setPixel(x, y, static_cast<QRgb>(generator()));
-    ASSERT_GT(encodePng(noise).size(), 65536);
-    EXPECT_FALSE(WritePngFile(disk + "/i.png", noise));
+    const EncodedPng png = encodePng(noise);
+    ASSERT_GT(png.bytes.size(), 65536);
+    EXPECT_FALSE(WritePngFile(disk + "/i.png", png));
     EXPECT_EQ(QDir(disk).entryList(QDir::Files | QDir::Hidden), QStringList("f.cst"))
         << "no half of a file, under whatever name";
     ASSERT_EQ(logTexts().size(), 2);

@@ -70,17 +70,17 @@ bool CalibrationResult::SaveSummary(const QString& directory, const QImage& init
         return false;
     // Nearly all of the time goes into compressing, so both images are compressed side by side; the
     // files are still written, and fail, one after another.
-    const QFuture<QByteArray> initialPng = QtConcurrent::run(encodePng, initialImage);
-    const QFuture<QByteArray> latestPng = QtConcurrent::run(encodePng, latestImage);
+    const QFuture<EncodedPng> initialPng = QtConcurrent::run(encodePng, initialImage);
+    const QFuture<EncodedPng> latestPng = QtConcurrent::run(encodePng, latestImage);
     // The pixels may be lent: they are let go of before the caller goes on.
-    QFutureSynchronizer<QByteArray> atTheEnd;
+    QFutureSynchronizer<EncodedPng> atTheEnd;
     atTheEnd.addFuture(initialPng);
     atTheEnd.addFuture(latestPng);
     return WriteTextFile(folder + QStringLiteral("original.cst"), m_originalSettings) &&
            WriteTextFile(folder + QStringLiteral("calibration_report.html"),
                          BuildHtml(m_cameraModel, results, now)) &&
-           writePngBytes(folder + QStringLiteral("calibrated.png"), latestPng.result()) &&
-           writePngBytes(folder + QStringLiteral("original.png"), initialPng.result());
+           WritePngFile(folder + QStringLiteral("calibrated.png"), latestPng.result()) &&
+           WritePngFile(folder + QStringLiteral("original.png"), initialPng.result());
 }
 
 } // namespace ColorCalibration
