@@ -17,7 +17,7 @@ struct FeatureStreamHead
 };
 
 /// Writes all features that are readable, writable and streamable now, in the order of the category
-/// tree.
+/// tree, but for texts that would not come back as they are: with line ends, or no UTF-8.
 ///
 /// Features that depend on selectors are written for each position of these, each position behind
 /// the selector's own line; the selector's present value comes last. Selectors move meanwhile and
