@@ -29,7 +29,9 @@ QString writeFeatureStream(NodeMapPrivate& map, const FeatureStreamHead& head);
 ///
 /// Lines that the camera refuses may become possible through later lines (limits that depend on
 /// each other, locks), so the whole is repeated as long as that helps. Lines behind a selector that
-/// could not be set are skipped too: they would go to another position. Needs the node map's mutex.
+/// could not be set are skipped too: they would go to another position. So are features that
+/// writeFeatureStream never writes, and texts that it leaves out at present, as no backup would
+/// bring them back. Needs the node map's mutex.
 /// \return  "Line 7: reason" for each line that was skipped in the end; of many, the first thousand
 ///          and how many more there are
 /// \throws ::GenICam::RuntimeException  connection lost

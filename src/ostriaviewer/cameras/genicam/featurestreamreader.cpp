@@ -119,6 +119,7 @@ private:
     {
         const int index = m_map.tree().indexOf(feature.name());
         try {
+            requireRestorable(feature, index);
             requireSelectors(feature, index);
             setFeatureText(feature, value);
             m_lostSelectors.remove(index);
@@ -139,6 +140,15 @@ private:
                 feature.fail(
                     Texts::tr("skipped, as %1 could not be set")
                         .arg(m_map.tree().features()[static_cast<std::size_t>(selector)].name()));
+    }
+
+    /// What no backup holds could not be given back.
+    void requireRestorable(const Feature& feature, int index) const
+    {
+        if (hasText(feature) && (index < 0 || !m_map.tree().isStreamed(index)))
+            feature.fail(Texts::tr("skipped, as it is not saved with the camera's settings"));
+        if (feature.kind() == FeatureKind::Text && feature.isReadable() && !restorableText(feature))
+            feature.fail(Texts::tr("skipped, as its present text could not be given back"));
     }
 
     NodeMapPrivate& m_map;

@@ -235,9 +235,8 @@ private:
     {
         if (!feature.isSurelyReadWrite())
             return;
-        const std::optional<QString> value = restorableText(feature);
-        // Written back changed it would be worse than not at all; a line end breaks the line.
-        if (value && !value->contains(QLatin1Char('\n')) && !value->contains(QLatin1Char('\r')))
+        // Written back changed it would be worse than not at all.
+        if (const std::optional<QString> value = restorableText(feature))
             writeLine(feature, *value);
     }
 

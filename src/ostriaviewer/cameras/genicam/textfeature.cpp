@@ -101,7 +101,9 @@ std::optional<QString> restorableText(const Feature& feature)
         return featureText(feature);
     const QByteArray bytes = stringBytes(feature);
     const QString text = QString::fromUtf8(bytes);
-    return text.toUtf8() == bytes ? std::optional(text) : std::nullopt;
+    const bool isRestorable =
+        text.toUtf8() == bytes && !bytes.contains('\n') && !bytes.contains('\r');
+    return isRestorable ? std::optional(text) : std::nullopt;
 }
 
 void setFeatureText(const Feature& feature, const QString& text)

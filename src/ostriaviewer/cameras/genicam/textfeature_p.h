@@ -20,8 +20,8 @@ bool hasText(const Feature& feature);
 /// back exactly.
 QString featureText(const Feature& feature);
 
-/// The present value where setFeatureText would bring back the same; not of a text with bytes that
-/// are no UTF-8.
+/// The present value where a line of a stream brings it back as it is; not of a text with line
+/// ends, or with bytes that are no UTF-8.
 std::optional<QString> restorableText(const Feature& feature);
 
 /// Refuses text that stands for no value of the feature's kind, and what the feature refuses.
