@@ -276,6 +276,21 @@ TEST_F(FeatureStreamReader, TriesARefusedTextOnceMore)
     EXPECT_EQ(gains, 1);
 }
 
+// Thousands of refusals are no settings that depend on each other, and take seconds a time.
+TEST_F(FeatureStreamReader, TriesATextWithThousandsOfRefusalsOnce)
+{
+    int gains = 0;
+    port->onWrite = [&](std::uint64_t address) {
+        gains += address == Register::gain ? 1 : 0;
+    };
+    const QString refused = "Gamma\t9\n"_q;
+    EXPECT_EQ(load("Gain\t2\n"_q + refused.repeated(1000)).count(QLatin1Char('\n')), 1000);
+    EXPECT_EQ(gains, 2);
+    gains = 0;
+    EXPECT_TRUE(load("Gain\t2\n"_q + refused.repeated(1001)).endsWith("And 1 more lines.\n"_q));
+    EXPECT_EQ(gains, 1);
+}
+
 TEST_F(FeatureStreamReader, ReadsAMillionLines)
 {
     QString many;

@@ -119,12 +119,17 @@ TEST_F(ModelTest, FilesThatAreNoSettingsAreRefused)
                                      "feature's name, a tab and a value.");
     }
     QBuffer large;
-    large.setData(QByteArray(16 * 1024 * 1024 - 8, '#') + "\nGamma\t3\n");
+    large.setData(QByteArray(1024 * 1024 - 8, '#') + "\nGamma\t3\n");
     large.open(QIODevice::ReadOnly);
     EXPECT_FALSE(m_model.LoadSettingsFromDevice(&large));
     EXPECT_EQ(logTexts().last(), "2 ColorCorrectionModelImpl::LoadSettingsFromDevice:The file is "
                                  "too large for a settings file.");
     EXPECT_TRUE(writes().isEmpty());
+    QByteArray longest = large.data().mid(1);
+    QBuffer device(&longest);
+    device.open(QIODevice::ReadOnly);
+    EXPECT_TRUE(m_model.LoadSettingsFromDevice(&device));
+    EXPECT_EQ(m_camera->features().get("Gamma").value, "3");
 }
 
 TEST_F(ModelTest, BinaryFilesAreRefusedWhateverTheyHold)

@@ -13,7 +13,8 @@ namespace {
 
 QByteArray readAll(QIODevice& device)
 {
-    constexpr qint64 longestFile = 16 * 1024 * 1024;
+    // What the camera is asked to take cannot be stopped, and each line takes it a millisecond or so.
+    constexpr qint64 longestFile = 1024 * 1024;
     // Devices and pipes do not tell their size.
     QByteArray bytes;
     while (bytes.size() <= longestFile) {
