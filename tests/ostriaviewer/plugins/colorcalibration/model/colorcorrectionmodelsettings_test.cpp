@@ -165,6 +165,17 @@ TEST_F(ModelTest, TextInUtf8IsNoBinaryFile)
     EXPECT_EQ(m_camera->features().get("Gamma").value, "3");
 }
 
+TEST_F(ModelTest, NamesThatAFileCannotMeanAreNotTheCamerasOwn)
+{
+    ASSERT_TRUE(open());
+    m_camera->parameters().addCommand("UserSetSave");
+    EXPECT_TRUE(m_model.AreOwnSettings("Gamma\t1\n"));
+    for (const QString other : {"Foo|Gamma", "Gamma|Foo", "@CameraDevice/Gamma", "UserSetSave"}) {
+        EXPECT_FALSE(m_model.AreOwnSettings(other + "\t1\n")) << other.toStdString();
+        EXPECT_TRUE(m_model.AreOwnSettings(other + "\t1\nGamma\t1\n")) << other.toStdString();
+    }
+}
+
 TEST_F(ModelTest, AFileOfAnotherCamerasSettingsIsRefused)
 {
     EXPECT_TRUE(m_model.AreOwnSettings("Other\t3\n")) << "no camera to ask";

@@ -40,6 +40,17 @@ QString toText(const QByteArray& bytes)
     return text;
 }
 
+/// Parameters are found by names with alternatives and node maps too; a line has none of these, and
+/// a command has no value.
+bool isSetting(const QString& name, Core::ParameterCollection::IParameterCollection& parameters)
+{
+    if (name.contains(QLatin1Char('|')) || name.contains(QLatin1Char('/')))
+        return false;
+    const auto parameter = parameters.parameter(name);
+    return !parameter->isEmpty() &&
+           !qobject_cast<Core::ParameterCollection::ICommandParameter*>(parameter.data());
+}
+
 } // namespace
 
 QString readSettingsText(QIODevice& device)
@@ -74,7 +85,7 @@ bool hasOwnSettings(const QString& text,
     for (const QString& name : settingNames(text)) {
         if (foreign.contains(name))
             continue;
-        if (!parameters.parameter(name)->isEmpty())
+        if (isSetting(name, parameters))
             return true;
         foreign.insert(name);
     }
