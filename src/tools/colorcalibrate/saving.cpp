@@ -39,12 +39,22 @@ QString writableFolder(const CommandLine& line, const QString& option)
     return QFileInfo(folder).absoluteFilePath();
 }
 
-void attempt(QStringList& failures, const QString& what, const std::function<bool()>& save)
+/// What the log says of a failure.
+using Reason = QString (FailureLog::*)() const;
+
+/// That a folder could not be made comes before the file that cannot be written therefore.
+constexpr Reason reasonOfFiles = &FailureLog::firstFailure;
+
+/// The model says what has failed, then why.
+constexpr Reason reasonOfUserSet = &FailureLog::lastFailure;
+
+void attempt(QStringList& failures, const QString& what, Reason reasonIn,
+             const std::function<bool()>& save)
 {
-    FailureLog log;
+    const FailureLog log;
     if (save())
         return;
-    const QString reason = log.lastFailure();
+    const QString reason = (log.*reasonIn)();
     failures.append(reason.isEmpty() ? what : QStringLiteral("%1 (%2)").arg(what, reason));
 }
 
@@ -104,25 +114,25 @@ SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
                           const std::function<bool()>& isCancelled)
 {
     SavingOutcome outcome;
-    const auto save = [&](const QString& step, const QString& what,
+    const auto save = [&](const QString& step, const QString& what, Reason reasonIn,
                           const std::function<bool()>& call) {
         outcome.isCancelled = outcome.isCancelled || isCancelled();
         if (outcome.isCancelled)
             return;
         progress(step);
-        attempt(outcome.failures, what, call);
+        attempt(outcome.failures, what, reasonIn, call);
     };
     if (!options.settingsFolder.isEmpty())
         save(QStringLiteral("Saving the settings"),
-             QStringLiteral("settings in %1").arg(options.settingsFolder),
+             QStringLiteral("settings in %1").arg(options.settingsFolder), reasonOfFiles,
              [&] { return model.SaveSettingsToFile(options.settingsFolder); });
     if (!options.summaryFolder.isEmpty())
         save(QStringLiteral("Saving the summary"),
-             QStringLiteral("summary in %1").arg(options.summaryFolder),
+             QStringLiteral("summary in %1").arg(options.summaryFolder), reasonOfFiles,
              [&] { return model.SaveSummaryToFile(options.summaryFolder); });
     if (!options.userSet.isEmpty())
         save(QStringLiteral("Storing the user set"),
-             QStringLiteral("user set %1").arg(options.userSet),
+             QStringLiteral("user set %1").arg(options.userSet), reasonOfUserSet,
              [&] { return model.StoreSettingsInUserSet(options.userSet, options.asDefault); });
     else
         outcome.isCancelled = outcome.isCancelled || isCancelled();

@@ -201,7 +201,9 @@ TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
          QStringLiteral("--user-set"), QStringLiteral("UserSet3"), QStringLiteral("--default")});
     EXPECT_EQ(outcome.code, WorkFailed);
     EXPECT_THAT(outcome.err, HasSubstr("the camera is calibrated and stays so"));
-    EXPECT_THAT(outcome.err, HasSubstr("xxx (Cannot write the file"));
+    EXPECT_THAT(outcome.err, HasSubstr("xxx (Cannot make the folder"));
+    EXPECT_THAT(outcome.err,
+                HasSubstr("File name too long. Choose a folder that may be written to.)"));
     EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
 }
 

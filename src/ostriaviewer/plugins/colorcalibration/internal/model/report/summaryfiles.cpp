@@ -60,10 +60,13 @@ QString MakeOutputFolder(const QString& directory, const QString& stem, const QS
         path += QDir::separator();
     path += stem + QLatin1Char('_') + fileSystemName(cameraModel) + QLatin1Char('_') +
             time.toString(QStringLiteral("yyyyMMdd_hhmmss"));
-    if (!QDir().mkpath(path))
-        logReportFailure(QStringLiteral("Cannot make the folder \"%1\": choose a folder that may "
-                                        "be written to.")
-                             .arg(QDir::toNativeSeparators(path)));
+    if (!QDir().mkpath(path)) {
+        // Qt has no question for it; it is what the system said last.
+        const QString reason = qt_error_string();
+        logReportFailure(QStringLiteral("Cannot make the folder \"%1\": %2. Choose a folder that "
+                                        "may be written to.")
+                             .arg(QDir::toNativeSeparators(path), reason));
+    }
     return path;
 }
 
