@@ -205,6 +205,10 @@ TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
     EXPECT_THAT(outcome.err,
                 HasSubstr("File name too long. Choose a folder that may be written to.)"));
     EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
+    const QJsonObject printed =
+        QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).object();
+    EXPECT_EQ(printed.value(QStringLiteral("results")).toObject().size(), 4)
+        << "the outcome is what a report can still be made of: " << outcome.out;
 }
 
 TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
