@@ -183,6 +183,8 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
         report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
         report.after = deltasToTargets(toPatchColors(report.result.currentColors, true));
         report.saved = saveOutcome(model, saving, progress, isCancelled);
+        for (const QString& folder : report.saved.folders)
+            err << "Saved " << folder.toStdString() << std::endl;
         if (report.saved.isCancelled) {
             sequence.giveBack();
             throw Cancelled();

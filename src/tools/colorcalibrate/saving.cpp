@@ -48,14 +48,16 @@ constexpr Reason reasonOfFiles = &FailureLog::firstFailure;
 /// The model says what has failed, then why.
 constexpr Reason reasonOfUserSet = &FailureLog::lastFailure;
 
-void attempt(QStringList& failures, const QString& what, Reason reasonIn,
+/// \return  whether it was saved
+bool attempt(QStringList& failures, const QString& what, Reason reasonIn,
              const std::function<bool()>& save)
 {
     const FailureLog log;
     if (save())
-        return;
+        return true;
     const QString reason = (log.*reasonIn)();
     failures.append(reason.isEmpty() ? what : QStringLiteral("%1 (%2)").arg(what, reason));
+    return false;
 }
 
 } // namespace
@@ -118,18 +120,23 @@ SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
                           const std::function<bool()>& call) {
         outcome.isCancelled = outcome.isCancelled || isCancelled();
         if (outcome.isCancelled)
-            return;
+            return false;
         progress(step);
-        attempt(outcome.failures, what, reasonIn, call);
+        return attempt(outcome.failures, what, reasonIn, call);
+    };
+    const auto saveFiles = [&](const QString& step, const QString& what,
+                               const std::function<bool()>& call) {
+        if (save(step, what, reasonOfFiles, call))
+            outcome.folders.append(QDir::toNativeSeparators(model.LastSavedFolder()));
     };
     if (!options.settingsFolder.isEmpty())
-        save(QStringLiteral("Saving the settings"),
-             QStringLiteral("settings in %1").arg(options.settingsFolder), reasonOfFiles,
-             [&] { return model.SaveSettingsToFile(options.settingsFolder); });
+        saveFiles(QStringLiteral("Saving the settings"),
+                  QStringLiteral("settings in %1").arg(options.settingsFolder),
+                  [&] { return model.SaveSettingsToFile(options.settingsFolder); });
     if (!options.summaryFolder.isEmpty())
-        save(QStringLiteral("Saving the summary"),
-             QStringLiteral("summary in %1").arg(options.summaryFolder), reasonOfFiles,
-             [&] { return model.SaveSummaryToFile(options.summaryFolder); });
+        saveFiles(QStringLiteral("Saving the summary"),
+                  QStringLiteral("summary in %1").arg(options.summaryFolder),
+                  [&] { return model.SaveSummaryToFile(options.summaryFolder); });
     if (!options.userSet.isEmpty())
         save(QStringLiteral("Storing the user set"),
              QStringLiteral("user set %1").arg(options.userSet), reasonOfUserSet,

@@ -35,6 +35,7 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
 struct SavingOutcome
 {
     bool isCancelled = false; ///< before the user set: the camera keeps nothing
+    QStringList folders;      ///< that settings and summary were saved into
     QStringList failures;     ///< what could not be saved, with the reasons
 };
 

@@ -21,6 +21,8 @@
 
 using namespace ColorCalibrate;
 using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
 
 namespace {
 
@@ -95,6 +97,11 @@ TEST_F(Saving, WritesSettingsAndSummary)
         QStringList({QStringLiteral("Calibrated.cst"), QStringLiteral("calibrated.cst"),
                      QStringLiteral("calibrated.png"), QStringLiteral("calibration_report.html"),
                      QStringLiteral("original.cst"), QStringLiteral("original.png")}));
+    const auto madeFolder = [this](const QString& name) {
+        return path(QDir(folder.path()).entryList({name}, QDir::Dirs).value(0)).toStdString();
+    };
+    EXPECT_EQ(outcome.err, "Saved " + madeFolder(QStringLiteral("Camera_Settings_*")) + "\nSaved " +
+                               madeFolder(QStringLiteral("Calibration_Report_*")) + "\n");
 }
 
 TEST_F(Saving, MakesTheFolderThatIsNamed)
@@ -204,11 +211,25 @@ TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
     EXPECT_THAT(outcome.err, HasSubstr("xxx (Cannot make the folder"));
     EXPECT_THAT(outcome.err,
                 HasSubstr("File name too long. Choose a folder that may be written to.)"));
+    EXPECT_THAT(outcome.err, Not(HasSubstr("Saved")));
     EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
     const QJsonObject printed =
         QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).object();
     EXPECT_EQ(printed.value(QStringLiteral("results")).toObject().size(), 4)
         << "the outcome is what a report can still be made of: " << outcome.out;
+}
+
+TEST_F(Saving, TellsWhatWasSavedBesideWhatCouldNotBe)
+{
+    const Outcome outcome =
+        calibrate({QStringLiteral("--save-settings"), path(QString(5000, QLatin1Char('x'))),
+                   QStringLiteral("--save-summary"), folder.path()});
+    EXPECT_EQ(outcome.code, WorkFailed);
+    const QString made = QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0);
+    EXPECT_THAT(outcome.err,
+                StartsWith("Saved " + path(made).toStdString() + "\ncolorcalibrate: "));
+    EXPECT_THAT(outcome.err, HasSubstr("could not be saved: settings in "));
+    EXPECT_THAT(outcome.err, Not(HasSubstr("summary in")));
 }
 
 TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
