@@ -256,9 +256,7 @@ void calibrateCommand(const QStringList& arguments, const Streams& streams)
         writeText(streams.out, report);
     // The outcome holds all the same, and the state before cannot be measured again.
     if (!report.saved.failures.isEmpty())
-        throw CommandError(
-            QStringLiteral("the camera is calibrated and stays so, but this could not be saved: %1")
-                .arg(report.saved.failures.join(QStringLiteral("; "))));
+        throw CommandError(unsavedMessage(report.saved));
 }
 
 } // namespace ColorCalibrate

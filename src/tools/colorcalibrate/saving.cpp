@@ -49,14 +49,19 @@ constexpr Reason reasonOfFiles = &FailureLog::firstFailure;
 constexpr Reason reasonOfUserSet = &FailureLog::lastFailure;
 
 /// \return  whether it was saved
-bool attempt(QStringList& failures, const QString& what, Reason reasonIn,
+bool attempt(SavingOutcome& outcome, const QString& what, Reason reasonIn,
              const std::function<bool()>& save)
 {
     const FailureLog log;
     if (save())
         return true;
-    const QString reason = (log.*reasonIn)();
-    failures.append(reason.isEmpty() ? what : QStringLiteral("%1 (%2)").arg(what, reason));
+    QString reason = (log.*reasonIn)();
+    // The model has nothing to say where it has no camera any more.
+    if (reason.isEmpty()) {
+        reason = QStringLiteral("the camera has been disconnected");
+        outcome.isCameraLost = true;
+    }
+    outcome.failures.append(QStringLiteral("%1 (%2)").arg(what, reason));
     return false;
 }
 
@@ -110,6 +115,18 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
                   .arg(options.userSet, names.join(QStringLiteral(", "))));
 }
 
+QString unsavedMessage(const SavingOutcome& outcome)
+{
+    const QString what = outcome.failures.join(QStringLiteral("; "));
+    return outcome.isCameraLost
+               ? QStringLiteral("the camera was calibrated and then lost, so look whether it still "
+                                "is; this could not be saved: %1")
+                     .arg(what)
+               : QStringLiteral("the camera is calibrated and stays so, but this could not be "
+                                "saved: %1")
+                     .arg(what);
+}
+
 SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
                           const SavingOptions& options,
                           const std::function<void(const QString& step)>& progress,
@@ -122,7 +139,7 @@ SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
         if (outcome.isCancelled)
             return false;
         progress(step);
-        return attempt(outcome.failures, what, reasonIn, call);
+        return attempt(outcome, what, reasonIn, call);
     };
     const auto saveFiles = [&](const QString& step, const QString& what,
                                const std::function<bool()>& call) {

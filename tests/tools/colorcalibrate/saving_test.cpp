@@ -232,6 +232,19 @@ TEST_F(Saving, TellsWhatWasSavedBesideWhatCouldNotBe)
     EXPECT_THAT(outcome.err, Not(HasSubstr("summary in")));
 }
 
+TEST_F(Saving, NoSettingsFileDecidesHowTheCameraStarts)
+{
+    const Outcome outcome =
+        calibrate({QStringLiteral("--settings"),
+                   writeFile(QStringLiteral("start.cst"), "UserSetDefault\tUserSet3\nGamma\t1\n"),
+                   // The table beside the chart.
+                   QStringLiteral("--grid"), QStringLiteral("0,0 200,0 0,120 200,120")});
+    EXPECT_EQ(outcome.code, WorkFailed);
+    EXPECT_THAT(outcome.err, HasSubstr("Line 1: UserSetDefault: skipped"));
+    EXPECT_THAT(outcome.err, HasSubstr("the camera's settings are as they were"));
+    EXPECT_EQ(nextStart().userSet, QStringLiteral("Default"));
+}
+
 TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
 {
     EmulatedHost host(reduced(supportedModels().at(1)));
@@ -280,4 +293,32 @@ TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
     sequence.giveBack();
     EXPECT_EQ(host.settings().toStdString(), before.toStdString());
     EXPECT_FALSE(host.model().StopGrabbing()) << "the model has been closed";
+}
+
+TEST_F(CommandTest, SavingSaysThatTheCameraWasLostBeforeIt)
+{
+    EmulatedHost host(reduced(supportedModels().at(1)));
+    ASSERT_TRUE(host.camera().open());
+    host.setExposure(20000.0);
+    CalibrationSequence sequence(
+        host.model(), [](const QString&) {}, [] { return false; });
+    SequenceOptions sequenceOptions;
+    sequenceOptions.grid = host.chartGrid();
+    sequenceOptions.adjustExposure = false;
+    sequence.run(host.pointer(), sequenceOptions);
+    host.camera().loseConnection();
+
+    SavingOptions options;
+    options.settingsFolder = path(QStringLiteral("settings"));
+    options.userSet = QStringLiteral("UserSet1");
+    const SavingOutcome outcome = saveOutcome(
+        host.model(), options, [](const QString&) {}, [] { return false; });
+    EXPECT_EQ(
+        outcome.failures,
+        QStringList({QStringLiteral("settings in %1 (the camera has been disconnected)")
+                         .arg(options.settingsFolder),
+                     QStringLiteral("user set UserSet1 (the camera has been disconnected)")}));
+    EXPECT_THAT(unsavedMessage(outcome).toStdString(),
+                StartsWith("the camera was calibrated and then lost, so look whether it still is; "
+                           "this could not be saved: settings in "));
 }
