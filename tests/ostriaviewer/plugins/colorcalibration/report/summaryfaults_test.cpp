@@ -135,6 +135,30 @@ TEST_F(SummaryFaults, AReadOnlyDiskIsReported)
              "SummaryFaults.InsideAReadOnlyDisk");
 }
 
+TEST_F(SummaryFaults, ADiskThatFillsUpEndsASummaryInItsMiddle)
+{
+    runAfter("mount -t tmpfs -o size=1m tmpfs \"$REPORT_TEST_DISK\" && "
+             "! head -c 2000000 /dev/zero > \"$REPORT_TEST_DISK/probe\" && "
+             "rm \"$REPORT_TEST_DISK/probe\"",
+             inOwnMounts, "SummaryFaults.InsideWhatTakesHalfOfASummary");
+}
+
+TEST_F(SummaryFaults, InsideWhatTakesHalfOfASummary)
+{
+    const QString disk = qEnvironmentVariable("REPORT_TEST_DISK");
+    if (disk.isEmpty())
+        GTEST_SKIP() << "runs where another test has made room for half of a summary";
+    CalibrationResult result("M", [] { return QDateTime({2031, 2, 3}, {23, 5, 9}); });
+    const QImage image = noise(1000);
+    EXPECT_FALSE(result.SaveSummary(disk, image, image, sampleResults()));
+    EXPECT_EQ(
+        QDir(disk + "/Calibration_Report_M_20310203_230509").entryList(QDir::Files | QDir::Hidden),
+        (QStringList{"calibrated.cst", "calibration_report.html", "original.cst"}));
+    ASSERT_EQ(logTexts().size(), 1);
+    EXPECT_TRUE(logTexts().first().endsWith("calibrated.png\": No space left on device."))
+        << logTexts().first().toStdString();
+}
+
 TEST_F(SummaryFaults, InsideWhatTakesLittle)
 {
     const QString disk = qEnvironmentVariable("REPORT_TEST_DISK");
