@@ -30,7 +30,7 @@ using namespace ColorCalibration;
 namespace ColorCalibrate {
 namespace {
 
-/// All that is printed of a calibration.
+/// All that is told of a calibration.
 struct Report
 {
     QString camera;
@@ -40,6 +40,7 @@ struct Report
     CalibrationSettings settings;
     Deltas before;
     Deltas after;
+    SavingOutcome saved;
 };
 
 void addOptions(CommandLine& line)
@@ -176,22 +177,19 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
         return Interruption::isRequested();
     };
     CalibrationSequence sequence(model, progress, isCancelled, warn);
-    SavingOutcome saved;
     giveBackOnFailure(guard, report.camera, [&] {
         report.result = sequence.run(camera, options);
         report.settings = model.LastCalibration();
         report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));
         report.after = deltasToTargets(toPatchColors(report.result.currentColors, true));
-        saved = saveOutcome(model, saving, progress, isCancelled);
-        if (saved.isCancelled) {
+        report.saved = saveOutcome(model, saving, progress, isCancelled);
+        for (const QString& folder : report.saved.folders)
+            err << "Saved " << folder.toStdString() << std::endl;
+        if (report.saved.isCancelled) {
             sequence.giveBack();
             throw Cancelled();
         }
     });
-    if (!saved.failures.isEmpty())
-        throw CommandError(
-            QStringLiteral("the camera is calibrated and stays so, but this could not be saved: %1")
-                .arg(saved.failures.join(QStringLiteral("; "))));
     model.Close();
     return report;
 }
@@ -256,6 +254,9 @@ void calibrateCommand(const QStringList& arguments, const Streams& streams)
         streams.out << toJsonText(toJson(report)).toStdString() << "\n";
     else
         writeText(streams.out, report);
+    // The outcome holds all the same, and the state before cannot be measured again.
+    if (!report.saved.failures.isEmpty())
+        throw CommandError(unsavedMessage(report.saved));
 }
 
 } // namespace ColorCalibrate

@@ -7,10 +7,16 @@
 namespace ColorCalibrate {
 namespace {
 
-void requireNotEmpty(const QStringList& values, const QString& hint)
+void requireText(const QStringList& values, const QString& hint)
 {
-    if (values.contains(QString()))
-        throw CommandError(QStringLiteral("an argument is empty") + hint, WrongUsage);
+    for (const QString& value : values) {
+        if (value.isEmpty())
+            throw CommandError(QStringLiteral("an argument is empty") + hint, WrongUsage);
+        // What stands for bytes that could not be read would name another file.
+        if (value.contains(QChar(QChar::ReplacementCharacter)))
+            throw CommandError(
+                QStringLiteral("\"%1\" has bytes that are no text").arg(value) + hint, WrongUsage);
+    }
 }
 
 } // namespace
@@ -52,9 +58,9 @@ bool CommandLine::parse(const QStringList& arguments, int positionals, std::ostr
         throw CommandError(
             QStringLiteral("\"%1\" is an argument too many").arg(given.at(positionals)) + hint,
             WrongUsage);
-    requireNotEmpty(given, hint);
+    requireText(given, hint);
     for (const QString& name : m_parser.optionNames())
-        requireNotEmpty(m_parser.values(name), hint);
+        requireText(m_parser.values(name), hint);
     return true;
 }
 

@@ -24,7 +24,8 @@ public:
     /// Parses; with --help among the arguments it writes the help instead.
     /// \param positionals  how many arguments beside the options there must be
     /// \return  false if help was asked for and nothing else is to be done
-    /// \throws CommandError  WrongUsage: unknown or incomplete options, a wrong number of arguments
+    /// \throws CommandError  WrongUsage: unknown or incomplete options, too few or many arguments,
+    ///                       or one that is empty or has bytes that are no text
     bool parse(const QStringList& arguments, int positionals, std::ostream& out);
 
     bool isSet(const QString& name) const { return m_parser.isSet(name); }

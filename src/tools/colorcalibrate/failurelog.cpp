@@ -60,6 +60,12 @@ QStringList FailureLog::failures() const
     return m_kept->failures;
 }
 
+QString FailureLog::firstFailure() const
+{
+    const QMutexLocker lock(&m_kept->mutex);
+    return m_kept->failures.value(0);
+}
+
 QString FailureLog::lastFailure() const
 {
     const QMutexLocker lock(&m_kept->mutex);

@@ -11,9 +11,9 @@
 namespace ColorCalibrate {
 
 /// While it lives, log entries that tell of a failure are kept: the last one names the reason
-/// behind a step that has failed. What cameras say of themselves is no step's failure: it goes on
-/// to the sink before this one, and is not kept, so that nobody is told of it twice. They may be
-/// nested. Thread-safe.
+/// behind a step of the model that has failed. What cameras say of themselves is no step's failure:
+/// it goes on to the sink before this one, and is not kept, so that nobody is told of it twice.
+/// They may be nested. Thread-safe.
 class FailureLog
 {
 public:
@@ -27,6 +27,10 @@ public:
 
     /// All entries that were kept, without their functions.
     QStringList failures() const;
+
+    /// The first of them, empty if there was none: of entries that follow from each other the
+    /// cause.
+    QString firstFailure() const;
 
     /// The last of them, empty if there was none.
     QString lastFailure() const;

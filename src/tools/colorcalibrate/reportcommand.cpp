@@ -47,7 +47,7 @@ void reportCommand(const QStringList& arguments, const Streams& streams)
     if (!ColorCalibration::WriteTextFile(report,
                                          ColorCalibration::BuildHtml(model, saved.results, now)))
         throw CommandError(
-            QStringLiteral("the report could not be written (%1)").arg(log.lastFailure()));
+            QStringLiteral("the report could not be written (%1)").arg(log.firstFailure()));
     streams.out << report.toStdString() << "\n";
 }
 

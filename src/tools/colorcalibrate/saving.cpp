@@ -39,13 +39,30 @@ QString writableFolder(const CommandLine& line, const QString& option)
     return QFileInfo(folder).absoluteFilePath();
 }
 
-void attempt(QStringList& failures, const QString& what, const std::function<bool()>& save)
+/// What the log says of a failure.
+using Reason = QString (FailureLog::*)() const;
+
+/// That a folder could not be made comes before the file that cannot be written therefore.
+constexpr Reason reasonOfFiles = &FailureLog::firstFailure;
+
+/// The model says what has failed, then why.
+constexpr Reason reasonOfUserSet = &FailureLog::lastFailure;
+
+/// \return  whether it was saved
+bool attempt(SavingOutcome& outcome, const QString& what, Reason reasonIn,
+             const std::function<bool()>& save)
 {
-    FailureLog log;
+    const FailureLog log;
     if (save())
-        return;
-    const QString reason = log.lastFailure();
-    failures.append(reason.isEmpty() ? what : QStringLiteral("%1 (%2)").arg(what, reason));
+        return true;
+    QString reason = (log.*reasonIn)();
+    // The model has nothing to say where it has no camera any more.
+    if (reason.isEmpty()) {
+        reason = QStringLiteral("the camera has been disconnected");
+        outcome.isCameraLost = true;
+    }
+    outcome.failures.append(QStringLiteral("%1 (%2)").arg(what, reason));
+    return false;
 }
 
 } // namespace
@@ -98,31 +115,48 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
                   .arg(options.userSet, names.join(QStringLiteral(", "))));
 }
 
+QString unsavedMessage(const SavingOutcome& outcome)
+{
+    const QString what = outcome.failures.join(QStringLiteral("; "));
+    return outcome.isCameraLost
+               ? QStringLiteral("the camera was calibrated and then lost, so look whether it still "
+                                "is; this could not be saved: %1")
+                     .arg(what)
+               : QStringLiteral("the camera is calibrated and stays so, but this could not be "
+                                "saved: %1")
+                     .arg(what);
+}
+
 SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
                           const SavingOptions& options,
                           const std::function<void(const QString& step)>& progress,
                           const std::function<bool()>& isCancelled)
 {
     SavingOutcome outcome;
-    const auto save = [&](const QString& step, const QString& what,
+    const auto save = [&](const QString& step, const QString& what, Reason reasonIn,
                           const std::function<bool()>& call) {
         outcome.isCancelled = outcome.isCancelled || isCancelled();
         if (outcome.isCancelled)
-            return;
+            return false;
         progress(step);
-        attempt(outcome.failures, what, call);
+        return attempt(outcome, what, reasonIn, call);
+    };
+    const auto saveFiles = [&](const QString& step, const QString& what,
+                               const std::function<bool()>& call) {
+        if (save(step, what, reasonOfFiles, call))
+            outcome.folders.append(QDir::toNativeSeparators(model.LastSavedFolder()));
     };
     if (!options.settingsFolder.isEmpty())
-        save(QStringLiteral("Saving the settings"),
-             QStringLiteral("settings in %1").arg(options.settingsFolder),
-             [&] { return model.SaveSettingsToFile(options.settingsFolder); });
+        saveFiles(QStringLiteral("Saving the settings"),
+                  QStringLiteral("settings in %1").arg(options.settingsFolder),
+                  [&] { return model.SaveSettingsToFile(options.settingsFolder); });
     if (!options.summaryFolder.isEmpty())
-        save(QStringLiteral("Saving the summary"),
-             QStringLiteral("summary in %1").arg(options.summaryFolder),
-             [&] { return model.SaveSummaryToFile(options.summaryFolder); });
+        saveFiles(QStringLiteral("Saving the summary"),
+                  QStringLiteral("summary in %1").arg(options.summaryFolder),
+                  [&] { return model.SaveSummaryToFile(options.summaryFolder); });
     if (!options.userSet.isEmpty())
         save(QStringLiteral("Storing the user set"),
-             QStringLiteral("user set %1").arg(options.userSet),
+             QStringLiteral("user set %1").arg(options.userSet), reasonOfUserSet,
              [&] { return model.StoreSettingsInUserSet(options.userSet, options.asDefault); });
     else
         outcome.isCancelled = outcome.isCancelled || isCancelled();

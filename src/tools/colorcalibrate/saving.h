@@ -34,9 +34,14 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
 
 struct SavingOutcome
 {
-    bool isCancelled = false; ///< before the user set: the camera keeps nothing
-    QStringList failures;     ///< what could not be saved, with the reasons
+    bool isCancelled = false;  ///< before the user set: the camera keeps nothing
+    bool isCameraLost = false; ///< before all was saved
+    QStringList folders;       ///< that settings and summary were saved into
+    QStringList failures;      ///< what could not be saved, with the reasons
 };
+
+/// What could not be saved, and whether the camera is still calibrated. There must be failures.
+QString unsavedMessage(const SavingOutcome& outcome);
 
 /// Saves in the wizard's order: settings, summary, user set; one that fails keeps none of the
 /// others from being tried. Nothing is saved any more once it was cancelled; a user set that is

@@ -49,6 +49,31 @@ TEST(ColorCalibrateTool, RefusesEmptyArguments)
                   2, {QStringLiteral("an argument is empty")});
 }
 
+TEST(ColorCalibrateTool, RefusesArgumentsThatAreNoText)
+{
+    const QString name = QStringLiteral("bad\uFFFD");
+    const QString words = QStringLiteral("\"bad\uFFFD\" has bytes that are no text");
+    expectFailure(runTool({QStringLiteral("find"), name}), 2, {words});
+    expectFailure(
+        runTool({QStringLiteral("find"), QStringLiteral("a.png"), QStringLiteral("--draw"), name}),
+        2, {words});
+
+    // Where they come from: names of files may have any bytes.
+    const QTemporaryDir folder;
+    QProcess program;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    program.setProcessEnvironment(environment);
+    program.setWorkingDirectory(folder.path());
+    program.start(QStringLiteral("sh"), {QStringLiteral("-c"),
+                                         QStringLiteral("exec \"$0\" calibrate --camera none "
+                                                        "--save-settings \"$(printf 'bad\\377')\""),
+                                         QStringLiteral(COLORCALIBRATE_PROGRAM)});
+    ASSERT_TRUE(program.waitForFinished(60000));
+    EXPECT_EQ(program.exitCode(), 2);
+    EXPECT_TRUE(QString::fromUtf8(program.readAllStandardError()).contains(words));
+}
+
 TEST(ColorCalibrateTool, RunsAsAProgramInAPipe)
 {
     QProcess program;

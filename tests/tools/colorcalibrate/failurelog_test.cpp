@@ -40,8 +40,10 @@ TEST_F(FailureLogTest, KeepsWarningsWithoutTheirFunctions)
     say(Warning, "Model", "Model::open: no answer");
     say(Error, "Model", "gone");
     EXPECT_EQ(log.failures(), (QStringList{"no answer", "gone"}));
+    EXPECT_EQ(log.firstFailure(), "no answer");
     EXPECT_EQ(log.lastFailure(), "gone");
     log.clear();
+    EXPECT_EQ(log.firstFailure(), "");
     EXPECT_EQ(log.lastFailure(), "");
 }
 

@@ -97,5 +97,7 @@ TEST_F(ReportCommand, SaysWhatIsWrongWithAFile)
 TEST_F(ReportCommand, SaysSoWhereItCannotWrite)
 {
     writeFile(QStringLiteral("out"), "a file");
-    expectFailure(report(smallest, namedCamera), 1, {QStringLiteral("could not be written")});
+    expectFailure(report(smallest, namedCamera), 1,
+                  {QStringLiteral("could not be written"), QStringLiteral("Cannot make the folder"),
+                   QStringLiteral("Not a directory")});
 }

@@ -21,6 +21,8 @@
 
 using namespace ColorCalibrate;
 using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
 
 namespace {
 
@@ -95,6 +97,11 @@ TEST_F(Saving, WritesSettingsAndSummary)
         QStringList({QStringLiteral("Calibrated.cst"), QStringLiteral("calibrated.cst"),
                      QStringLiteral("calibrated.png"), QStringLiteral("calibration_report.html"),
                      QStringLiteral("original.cst"), QStringLiteral("original.png")}));
+    const auto madeFolder = [this](const QString& name) {
+        return path(QDir(folder.path()).entryList({name}, QDir::Dirs).value(0)).toStdString();
+    };
+    EXPECT_EQ(outcome.err, "Saved " + madeFolder(QStringLiteral("Camera_Settings_*")) + "\nSaved " +
+                               madeFolder(QStringLiteral("Calibration_Report_*")) + "\n");
 }
 
 TEST_F(Saving, MakesTheFolderThatIsNamed)
@@ -201,8 +208,41 @@ TEST_F(Saving, SaysThatTheCalibrationStandsWhereItCannotBeSaved)
          QStringLiteral("--user-set"), QStringLiteral("UserSet3"), QStringLiteral("--default")});
     EXPECT_EQ(outcome.code, WorkFailed);
     EXPECT_THAT(outcome.err, HasSubstr("the camera is calibrated and stays so"));
-    EXPECT_THAT(outcome.err, HasSubstr("xxx (Cannot write the file"));
+    EXPECT_THAT(outcome.err, HasSubstr("xxx (Cannot make the folder"));
+    EXPECT_THAT(outcome.err,
+                HasSubstr("File name too long. Choose a folder that may be written to.)"));
+    EXPECT_THAT(outcome.err, Not(HasSubstr("Saved")));
     EXPECT_EQ(nextStart().userSet, QStringLiteral("UserSet3"));
+    const QJsonObject printed =
+        QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).object();
+    EXPECT_EQ(printed.value(QStringLiteral("results")).toObject().size(), 4)
+        << "the outcome is what a report can still be made of: " << outcome.out;
+}
+
+TEST_F(Saving, TellsWhatWasSavedBesideWhatCouldNotBe)
+{
+    const Outcome outcome =
+        calibrate({QStringLiteral("--save-settings"), path(QString(5000, QLatin1Char('x'))),
+                   QStringLiteral("--save-summary"), folder.path()});
+    EXPECT_EQ(outcome.code, WorkFailed);
+    const QString made = QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0);
+    EXPECT_THAT(outcome.err,
+                StartsWith("Saved " + path(made).toStdString() + "\ncolorcalibrate: "));
+    EXPECT_THAT(outcome.err, HasSubstr("could not be saved: settings in "));
+    EXPECT_THAT(outcome.err, Not(HasSubstr("summary in")));
+}
+
+TEST_F(Saving, NoSettingsFileDecidesHowTheCameraStarts)
+{
+    const Outcome outcome =
+        calibrate({QStringLiteral("--settings"),
+                   writeFile(QStringLiteral("start.cst"), "UserSetDefault\tUserSet3\nGamma\t1\n"),
+                   // The table beside the chart.
+                   QStringLiteral("--grid"), QStringLiteral("0,0 200,0 0,120 200,120")});
+    EXPECT_EQ(outcome.code, WorkFailed);
+    EXPECT_THAT(outcome.err, HasSubstr("Line 1: UserSetDefault: skipped"));
+    EXPECT_THAT(outcome.err, HasSubstr("the camera's settings are as they were"));
+    EXPECT_EQ(nextStart().userSet, QStringLiteral("Default"));
 }
 
 TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
@@ -253,4 +293,32 @@ TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
     sequence.giveBack();
     EXPECT_EQ(host.settings().toStdString(), before.toStdString());
     EXPECT_FALSE(host.model().StopGrabbing()) << "the model has been closed";
+}
+
+TEST_F(CommandTest, SavingSaysThatTheCameraWasLostBeforeIt)
+{
+    EmulatedHost host(reduced(supportedModels().at(1)));
+    ASSERT_TRUE(host.camera().open());
+    host.setExposure(20000.0);
+    CalibrationSequence sequence(
+        host.model(), [](const QString&) {}, [] { return false; });
+    SequenceOptions sequenceOptions;
+    sequenceOptions.grid = host.chartGrid();
+    sequenceOptions.adjustExposure = false;
+    sequence.run(host.pointer(), sequenceOptions);
+    host.camera().loseConnection();
+
+    SavingOptions options;
+    options.settingsFolder = path(QStringLiteral("settings"));
+    options.userSet = QStringLiteral("UserSet1");
+    const SavingOutcome outcome = saveOutcome(
+        host.model(), options, [](const QString&) {}, [] { return false; });
+    EXPECT_EQ(
+        outcome.failures,
+        QStringList({QStringLiteral("settings in %1 (the camera has been disconnected)")
+                         .arg(options.settingsFolder),
+                     QStringLiteral("user set UserSet1 (the camera has been disconnected)")}));
+    EXPECT_THAT(unsavedMessage(outcome).toStdString(),
+                StartsWith("the camera was calibrated and then lost, so look whether it still is; "
+                           "this could not be saved: settings in "));
 }

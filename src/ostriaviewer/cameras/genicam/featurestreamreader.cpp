@@ -26,6 +26,9 @@ struct Texts
 constexpr int mostErrors = 1000;
 constexpr int mostPasses = 5;
 
+/// Of a text with more of them no pass is likely to help, and each takes seconds.
+constexpr int mostRefusals = 1000;
+
 /// What a badly written line may have meant as its name.
 QStringRef firstWord(const QStringRef& line)
 {
@@ -87,8 +90,8 @@ public:
 
     const Errors& errors() const { return m_errors; }
 
-    /// Whether there are features that refused a value.
-    bool hasRefusals() const { return m_hasRefusals; }
+    /// How many values features have refused.
+    int refusals() const { return m_refusals; }
 
 private:
     const Feature* find(const QStringRef& name)
@@ -119,13 +122,14 @@ private:
     {
         const int index = m_map.tree().indexOf(feature.name());
         try {
+            requireRestorable(feature, index);
             requireSelectors(feature, index);
             setFeatureText(feature, value);
             m_lostSelectors.remove(index);
         } catch (const ::GenICam::RuntimeException& refusal) {
             m_map.requireConnection();
             m_errors.add(number, QString::fromStdString(refusal.what()));
-            m_hasRefusals = true;
+            ++m_refusals;
             lose(index);
         }
     }
@@ -141,11 +145,20 @@ private:
                         .arg(m_map.tree().features()[static_cast<std::size_t>(selector)].name()));
     }
 
+    /// What no backup holds could not be given back.
+    void requireRestorable(const Feature& feature, int index) const
+    {
+        if (hasText(feature) && (index < 0 || !m_map.tree().isStreamed(index)))
+            feature.fail(Texts::tr("skipped, as it is not saved with the camera's settings"));
+        if (feature.kind() == FeatureKind::Text && feature.isReadable() && !restorableText(feature))
+            feature.fail(Texts::tr("skipped, as its present text could not be given back"));
+    }
+
     NodeMapPrivate& m_map;
     QHash<QString, Feature> m_features;
     QSet<int> m_lostSelectors;
     Errors m_errors;
-    bool m_hasRefusals = false;
+    int m_refusals = 0;
 };
 
 void readAll(Reader& reader, const QString& text)
@@ -173,7 +186,8 @@ QString readFeatureStream(NodeMapPrivate& map, const QString& text)
         Reader reader(map);
         readAll(reader, text);
         const int count = reader.errors().count();
-        if (!reader.hasRefusals() || count >= fewest || pass == mostPasses)
+        const bool mayHelp = reader.refusals() > 0 && reader.refusals() <= mostRefusals;
+        if (!mayHelp || count >= fewest || pass == mostPasses)
             return reader.errors().text();
         fewest = count;
     }

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Cameras::GenICam {
@@ -234,11 +235,9 @@ private:
     {
         if (!feature.isSurelyReadWrite())
             return;
-        const QString value = featureText(feature);
-        // A line could not hold it.
-        if (value.contains(QLatin1Char('\n')) || value.contains(QLatin1Char('\r')))
-            return;
-        writeLine(feature, value);
+        // Written back changed it would be worse than not at all.
+        if (const std::optional<QString> value = restorableText(feature))
+            writeLine(feature, *value);
     }
 
     void writeBlock(const Block& block)

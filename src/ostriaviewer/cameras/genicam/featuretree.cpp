@@ -4,6 +4,7 @@
 
 #include "nodemap_p.h"
 #include "nodeproperties_p.h"
+#include "textfeature_p.h"
 
 #include <arv.h>
 
@@ -20,6 +21,7 @@ FeatureTree::FeatureTree(NodeMapPrivate& map)
 {
     addCategory(map, ARV_GC_FEATURE_NODE(arv_gc_get_node(map.gc(), "Root")), 0);
     findSelectors();
+    findStreamed();
 }
 
 const std::vector<int>& FeatureTree::selectorsOf(int index) const
@@ -61,6 +63,18 @@ void FeatureTree::findSelectors()
         std::vector<bool> visited(m_features.size());
         visited[index] = true;
         orderSelectors(static_cast<int>(index), m_selectors[index], visited);
+    }
+}
+
+void FeatureTree::findStreamed()
+{
+    m_isStreamed.resize(m_features.size());
+    for (std::size_t index = 0; index < m_features.size(); ++index) {
+        if (!hasText(m_features[index]) || !m_features[index].isStreamable())
+            continue;
+        m_isStreamed[index] = true;
+        for (const int selector : m_selectors[index])
+            m_isStreamed[static_cast<std::size_t>(selector)] = true;
     }
 }
 

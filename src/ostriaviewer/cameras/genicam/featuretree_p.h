@@ -28,15 +28,21 @@ public:
     /// stands after those that it depends on itself.
     const std::vector<int>& selectorsOf(int index) const;
 
+    /// Whether a line of a feature stream may be of this feature: it has a value and is streamable,
+    /// or such a one depends on it as a selector.
+    bool isStreamed(int index) const { return m_isStreamed[static_cast<std::size_t>(index)]; }
+
 private:
     void addCategory(NodeMapPrivate& map, ArvGcFeatureNode* category, int depth);
     void findSelectors();
+    void findStreamed();
     void orderSelectors(int index, std::vector<int>& order, std::vector<bool>& visited) const;
 
     std::vector<Feature> m_features;
     QHash<QString, int> m_indices;
     std::vector<std::vector<int>> m_directSelectors;
     std::vector<std::vector<int>> m_selectors;
+    std::vector<bool> m_isStreamed;
 };
 
 } // namespace Cameras::GenICam

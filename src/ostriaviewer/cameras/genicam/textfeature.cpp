@@ -14,13 +14,13 @@ namespace Cameras::GenICam {
 
 namespace {
 
-QString stringValue(const Feature& feature)
+QByteArray stringBytes(const Feature& feature)
 {
     feature.requireReadable();
     GErrorSlot error;
     const char* text = arv_gc_string_get_value(ARV_GC_STRING(feature.node()), error);
     feature.check(error);
-    return QString::fromUtf8(text);
+    return text;
 }
 
 void setString(const Feature& feature, const QString& text)
@@ -87,12 +87,23 @@ QString featureText(const Feature& feature)
     case FeatureKind::Enumeration:
         return enumerationValue(feature);
     case FeatureKind::Text:
-        return stringValue(feature);
+        return QString::fromUtf8(stringBytes(feature));
     case FeatureKind::Command:
     case FeatureKind::Other:
         break;
     }
     feature.fail(FeatureTexts::tr("has no value"));
+}
+
+std::optional<QString> restorableText(const Feature& feature)
+{
+    if (feature.kind() != FeatureKind::Text)
+        return featureText(feature);
+    const QByteArray bytes = stringBytes(feature);
+    const QString text = QString::fromUtf8(bytes);
+    const bool isRestorable =
+        text.toUtf8() == bytes && !bytes.contains('\n') && !bytes.contains('\r');
+    return isRestorable ? std::optional(text) : std::nullopt;
 }
 
 void setFeatureText(const Feature& feature, const QString& text)

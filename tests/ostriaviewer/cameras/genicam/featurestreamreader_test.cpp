@@ -47,6 +47,44 @@ TEST_F(FeatureStreamReader, SkipsWhatCannotBeAppliedAndSaysWhere)
     EXPECT_EQ(port->word(Register::save), 0U);
 }
 
+// No backup has it, so nothing would bring it back.
+TEST_F(FeatureStreamReader, SkipsWhatIsNotSaved)
+{
+    use(describe("<pFeature>Saved</pFeature><pFeature>Unsaved</pFeature>"
+                 "<pFeature>OfSaved</pFeature><pFeature>OfUnsaved</pFeature>",
+                 R"(<Integer Name="Saved"><Streamable>Yes</Streamable><pValue>SavedReg</pValue>
+</Integer>
+<IntReg Name="SavedReg"><Address>0x600</Address><pIndex Offset="4">OfSaved</pIndex>
+<Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort><Sign>Unsigned</Sign>
+<Endianess>BigEndian</Endianess></IntReg>
+<Integer Name="Unsaved"><Value>3</Value></Integer>
+<Integer Name="Uncategorized"><Streamable>Yes</Streamable><Value>3</Value></Integer>
+<Integer Name="OfSaved"><Value>0</Value><Min>0</Min><Max>1</Max><pSelected>Saved</pSelected></Integer>
+<Integer Name="OfUnsaved"><Value>0</Value><Min>0</Min><Max>1</Max><pSelected>Unsaved</pSelected>
+</Integer>)"));
+    EXPECT_EQ(load("OfSaved\t1\nSaved\t7\nUnsaved\t7\nOfUnsaved\t1\nUncategorized\t7\n"_q),
+              "Line 3: Unsaved: skipped, as it is not saved with the camera's settings.\n"
+              "Line 4: OfUnsaved: skipped, as it is not saved with the camera's settings.\n"
+              "Line 5: Uncategorized: skipped, as it is not saved with the camera's settings.\n"_q);
+    EXPECT_EQ(port->word(0x604), 7U);
+    EXPECT_EQ(camera->integerParameter("OfSaved"_q)->value(), 1) << "as the text has left it";
+    EXPECT_EQ(camera->integerParameter("Unsaved"_q)->value(), 3);
+    EXPECT_EQ(camera->integerParameter("OfUnsaved"_q)->value(), 0);
+    EXPECT_EQ(camera->integerParameter("Uncategorized"_q)->value(), 3);
+}
+
+TEST_F(FeatureStreamReader, SkipsATextInThePlaceOfOneThatIsNotSaved)
+{
+    // "K\xFCr", which is no UTF-8, and a text of two lines.
+    for (const std::uint32_t name : {0x4BFC7200U, 0x4B0A7200U}) {
+        port->setWord(Register::deviceName, name);
+        EXPECT_EQ(load("DeviceName\tleft\nGain\t3\n"_q),
+                  "Line 1: DeviceName: skipped, as its present text could not be given back.\n"_q);
+        EXPECT_EQ(port->word(Register::deviceName), name);
+        EXPECT_EQ(camera->floatParameter("Gain"_q)->value(), 3.0);
+    }
+}
+
 TEST_F(FeatureStreamReader, ReplacesOldErrors)
 {
     QString errors = "old"_q;
@@ -235,6 +273,21 @@ TEST_F(FeatureStreamReader, TriesARefusedTextOnceMore)
     EXPECT_EQ(gains, 2);
     gains = 0;
     EXPECT_EQ(load("Gain\t2\nWidth\t320\n"_q), QString());
+    EXPECT_EQ(gains, 1);
+}
+
+// Thousands of refusals are no settings that depend on each other, and take seconds a time.
+TEST_F(FeatureStreamReader, TriesATextWithThousandsOfRefusalsOnce)
+{
+    int gains = 0;
+    port->onWrite = [&](std::uint64_t address) {
+        gains += address == Register::gain ? 1 : 0;
+    };
+    const QString refused = "Gamma\t9\n"_q;
+    EXPECT_EQ(load("Gain\t2\n"_q + refused.repeated(1000)).count(QLatin1Char('\n')), 1000);
+    EXPECT_EQ(gains, 2);
+    gains = 0;
+    EXPECT_TRUE(load("Gain\t2\n"_q + refused.repeated(1001)).endsWith("And 1 more lines.\n"_q));
     EXPECT_EQ(gains, 1);
 }
 

@@ -196,6 +196,28 @@ TEST_F(FeatureStreamWriter, CountsIntegerSelectorsThroughTheirRange)
     EXPECT_EQ(savedLines(), "S\t1\nV\t11\nS\t3\nV\t33\nS\t5\nV\t55\nS\t3\n"_q);
 }
 
+// In the text it would stand changed, and be written back so.
+TEST_F(FeatureStreamWriter, LeavesTextsOutWhoseBytesWouldNotComeBack)
+{
+    // "K\xFCr" is no UTF-8; a byte order mark before "A" would be lost.
+    for (const std::uint32_t name : {0x4BFC7200U, 0xEFBBBF41U}) {
+        port->setWord(Register::deviceName, name);
+        const QString saved = savedLines();
+        EXPECT_FALSE(saved.contains("DeviceName"_q)) << saved.toStdString();
+        EXPECT_EQ(load(saved), QString());
+        EXPECT_EQ(port->word(Register::deviceName), name);
+    }
+    // The same sign in UTF-8, and the one that stands for what cannot be read.
+    for (const std::uint32_t name : {0x4BC3BC72U, 0xEFBFBD00U}) {
+        port->setWord(Register::deviceName, name);
+        const QString saved = savedLines();
+        EXPECT_TRUE(saved.contains("DeviceName\t"_q));
+        port->setWord(Register::deviceName, 0);
+        EXPECT_EQ(load(saved), QString());
+        EXPECT_EQ(port->word(Register::deviceName), name);
+    }
+}
+
 TEST_F(FeatureStreamWriter, LeavesHugeSelectorsWhereTheyAre)
 {
     use(describe("<pFeature>S</pFeature><pFeature>V</pFeature>",

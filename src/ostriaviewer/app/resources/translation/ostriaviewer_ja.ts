@@ -254,6 +254,14 @@
         <translation>%1 は設定できなかったため、スキップしました</translation>
     </message>
     <message>
+        <source>skipped, as it is not saved with the camera&apos;s settings</source>
+        <translation>カメラの設定と一緒に保存されない機能のため、スキップしました</translation>
+    </message>
+    <message>
+        <source>skipped, as its present text could not be given back</source>
+        <translation>現在のテキストを元に戻せなくなるため、スキップしました</translation>
+    </message>
+    <message>
         <source>%1: %2 could not be put back while settings were read; set it to &quot;%3&quot;. (%4)</source>
         <translation>%1：設定の読み取り中に %2 を元に戻せませんでした。「%3」に設定してください。（%4）</translation>
     </message>

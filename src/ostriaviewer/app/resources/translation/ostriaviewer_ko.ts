@@ -254,6 +254,14 @@
         <translation>%1 기능을 설정하지 못하여 건너뛰었습니다</translation>
     </message>
     <message>
+        <source>skipped, as it is not saved with the camera&apos;s settings</source>
+        <translation>카메라 설정과 함께 저장되지 않는 기능이므로 건너뛰었습니다</translation>
+    </message>
+    <message>
+        <source>skipped, as its present text could not be given back</source>
+        <translation>현재 텍스트를 되돌릴 수 없게 되므로 건너뛰었습니다</translation>
+    </message>
+    <message>
         <source>%1: %2 could not be put back while settings were read; set it to &quot;%3&quot;. (%4)</source>
         <translation>%1: 설정을 읽는 중에 %2을(를) 되돌리지 못했습니다. &quot;%3&quot;(으)로 설정하십시오. (%4)</translation>
     </message>

@@ -254,6 +254,14 @@
         <translation>无法设置 %1，已跳过</translation>
     </message>
     <message>
+        <source>skipped, as it is not saved with the camera&apos;s settings</source>
+        <translation>该功能不随相机设置一起保存，已跳过</translation>
+    </message>
+    <message>
+        <source>skipped, as its present text could not be given back</source>
+        <translation>当前文本将无法恢复，已跳过</translation>
+    </message>
+    <message>
         <source>%1: %2 could not be put back while settings were read; set it to &quot;%3&quot;. (%4)</source>
         <translation>%1：读取设置时无法恢复 %2；请将其设置为“%3”。（%4）</translation>
     </message>

@@ -257,6 +257,36 @@ TEST_F(ModelResultsTest, ADefaultThatDoesNotComeBackIsTold)
                            "not be told to start with \"Default\" again. reason"}));
 }
 
+TEST_F(ModelResultsTest, ADefaultThatDoesNotComeBackIsToldOfALostCamera)
+{
+    m_camera->parameters().addEnumeration("UserSetDefault", {"Default", "UserSet1"});
+    ASSERT_TRUE(open());
+    bool isLost = false;
+    m_camera->features().beforeCall = [&isLost](const QString& call) {
+        isLost = isLost || call.startsWith("execute UserSetSave");
+        if (isLost && call != "features")
+            throw Core::Exception::BaseException("lost");
+    };
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", true));
+    EXPECT_TRUE(logTexts().last().contains("The camera may start with the user set \"UserSet1\""))
+        << logTexts().last().toStdString();
+}
+
+TEST_F(ModelResultsTest, ADefaultThatWasNeverLeftIsNotMissed)
+{
+    m_camera->parameters().addEnumeration("UserSetDefault", {"Default", "UserSet1"});
+    ASSERT_TRUE(open());
+    m_camera->features().beforeCall = [](const QString& call) {
+        if (call.startsWith("UserSetDefault = ") || call.startsWith("try UserSetDefault"))
+            throw Core::Exception::BaseException("reason");
+    };
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", true));
+    EXPECT_EQ(m_camera->features().get("UserSetDefault").value, "Default");
+    EXPECT_EQ(logTexts(),
+              (QStringList{"2 Store settings in UserSet failed.",
+                           "2 ColorCorrectionModelImpl::StoreSettingsInUserSet:reason"}));
+}
+
 TEST_F(ModelResultsTest, WhatWasMeasuredBeforeACalibrationIsNotItsOutcome)
 {
     ASSERT_TRUE(open());

@@ -107,9 +107,8 @@ TEST_F(ModelTest, FilesThatAreNoSettingsAreRefused)
 {
     ASSERT_TRUE(open());
     m_camera->features().forget();
-    for (const QByteArray& bytes :
-         {QByteArray(), QByteArray("# Gamma\t1\n"), QByteArray("Gamma 1\r\n"), QByteArray("\t1\n"),
-          QByteArray(100'000, '\xff')}) {
+    for (const QByteArray& bytes : {QByteArray(), QByteArray("# Gamma\t1\n"),
+                                    QByteArray("Gamma 1\r\n"), QByteArray("\t1\n")}) {
         QBuffer device;
         device.setData(bytes);
         device.open(QIODevice::ReadOnly);
@@ -119,23 +118,32 @@ TEST_F(ModelTest, FilesThatAreNoSettingsAreRefused)
                                      "feature's name, a tab and a value.");
     }
     QBuffer large;
-    large.setData(QByteArray(16 * 1024 * 1024 - 8, '#') + "\nGamma\t3\n");
+    large.setData(QByteArray(1024 * 1024 - 8, '#') + "\nGamma\t3\n");
     large.open(QIODevice::ReadOnly);
     EXPECT_FALSE(m_model.LoadSettingsFromDevice(&large));
     EXPECT_EQ(logTexts().last(), "2 ColorCorrectionModelImpl::LoadSettingsFromDevice:The file is "
                                  "too large for a settings file.");
     EXPECT_TRUE(writes().isEmpty());
+    QByteArray longest = large.data().mid(1);
+    QBuffer device(&longest);
+    device.open(QIODevice::ReadOnly);
+    EXPECT_TRUE(m_model.LoadSettingsFromDevice(&device));
+    EXPECT_EQ(m_camera->features().get("Gamma").value, "3");
 }
 
 TEST_F(ModelTest, BinaryFilesAreRefusedWhateverTheyHold)
 {
     ASSERT_TRUE(open());
     m_camera->features().forget();
-    for (const QByteArray& bytes : {QByteArray("\x7f"
-                                               "ELF\0\1\2\xff",
-                                               8),
-                                    QByteArray(100'000, '\0'), QByteArray("Gamma\t3\n\0", 9),
-                                    QByteArray("G\0a\0m\0m\0a\0\t\0003\0\n\0", 16)}) {
+    for (const QByteArray& bytes :
+         {QByteArray("\x7f"
+                     "ELF\0\1\2\xff",
+                     8),
+          QByteArray(100'000, '\0'), QByteArray("Gamma\t3\n\0", 9),
+          QByteArray("G\0a\0m\0m\0a\0\t\0003\0\n\0", 16), QByteArray(100'000, '\xff'),
+          // Each with a sign that is none, at the end half of one.
+          QByteArray("Gamma\t3\nName\tK\xfcr\n"), QByteArray("# K\xfcr\nGamma\t3\n"),
+          QByteArray("Gamma\t3\n\xed\xa0\x80\n"), QByteArray("Gamma\t3\n# \xe6\xa0")}) {
         QBuffer device;
         device.setData(bytes);
         device.open(QIODevice::ReadOnly);
@@ -144,6 +152,28 @@ TEST_F(ModelTest, BinaryFilesAreRefusedWhateverTheyHold)
                                      "no settings file: it is no text in UTF-8.");
     }
     EXPECT_TRUE(writes().isEmpty());
+}
+
+TEST_F(ModelTest, TextInUtf8IsNoBinaryFile)
+{
+    ASSERT_TRUE(open());
+    // A byte order mark, umlauts, Japanese, and the sign for what another program could not read.
+    QByteArray bytes("\xef\xbb\xbf# K\xc3\xbcr \xe6\xa0\xa1 \xef\xbf\xbd\nGamma\t3\n");
+    QBuffer device(&bytes);
+    device.open(QIODevice::ReadOnly);
+    EXPECT_TRUE(m_model.LoadSettingsFromDevice(&device));
+    EXPECT_EQ(m_camera->features().get("Gamma").value, "3");
+}
+
+TEST_F(ModelTest, NamesThatAFileCannotMeanAreNotTheCamerasOwn)
+{
+    ASSERT_TRUE(open());
+    m_camera->parameters().addCommand("UserSetSave");
+    EXPECT_TRUE(m_model.AreOwnSettings("Gamma\t1\n"));
+    for (const QString other : {"Foo|Gamma", "Gamma|Foo", "@CameraDevice/Gamma", "UserSetSave"}) {
+        EXPECT_FALSE(m_model.AreOwnSettings(other + "\t1\n")) << other.toStdString();
+        EXPECT_TRUE(m_model.AreOwnSettings(other + "\t1\nGamma\t1\n")) << other.toStdString();
+    }
 }
 
 TEST_F(ModelTest, AFileOfAnotherCamerasSettingsIsRefused)

@@ -30,7 +30,7 @@ protected:
         image.fill(color);
         return image;
     }
-    bool saveSummary() const
+    bool saveSummary()
     {
         return m_result.SaveSummary(m_folder.path(), image(qRgb(1, 2, 3)), image(qRgb(9, 8, 7)),
                                     sampleResults());
@@ -88,6 +88,15 @@ TEST_F(CalibrationResultTest, SavesFiveFilesInASummary)
     EXPECT_TRUE(report.contains("<title>Calibration Report for M/1</title>"));
     EXPECT_TRUE(report.contains("<div class=\"report-info\">23:05:09<br/>2031\\02\\03</div>"));
     EXPECT_TRUE(log.entries().isEmpty());
+}
+
+TEST_F(CalibrationResultTest, KnowsTheFolderThatWasMadeLast)
+{
+    EXPECT_EQ(m_result.LastFolder(), "");
+    ASSERT_TRUE(saveSummary());
+    EXPECT_EQ(m_result.LastFolder(), path(m_reportFolder));
+    ASSERT_TRUE(m_result.SaveSettingsFile(m_folder.path()));
+    EXPECT_EQ(m_result.LastFolder(), path(m_settingsFolder));
 }
 
 TEST_F(CalibrationResultTest, TwoSavesWithinOneSecondShareAFolder)
@@ -151,6 +160,29 @@ TEST_F(CalibrationResultTest, SavesWhileOthersHoldAllThreadsOfThePool)
     for (QFuture<void>& other : others)
         other.waitForFinished();
     EXPECT_EQ(entries(m_reportFolder).size(), 5);
+}
+
+TEST_F(CalibrationResultTest, AnImageWithoutRoomEndsASummaryBehindTheFilesBeforeIt)
+{
+    const LogRecorder log;
+    EXPECT_FALSE(m_result.SaveSummary(m_folder.path(), imageWithoutRoom(), image(qRgb(9, 8, 7)),
+                                      sampleResults()));
+    EXPECT_EQ(entries(m_reportFolder), (QStringList{"calibrated.cst", "calibrated.png",
+                                                    "calibration_report.html", "original.cst"}));
+    ASSERT_EQ(log.entries().size(), 1);
+    EXPECT_EQ(log.entries().first().text, "Cannot write the file \"" +
+                                              path(m_reportFolder + "/original.png") +
+                                              "\": there is not enough memory for the image.");
+}
+
+TEST_F(CalibrationResultTest, AnImageWithoutRoomDoesNotHideAnEarlierFailure)
+{
+    const LogRecorder log;
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(m_reportFolder + "/original.cst"));
+    EXPECT_FALSE(m_result.SaveSummary(m_folder.path(), imageWithoutRoom(), imageWithoutRoom(),
+                                      sampleResults()));
+    ASSERT_EQ(log.entries().size(), 1);
+    EXPECT_TRUE(log.entries().first().text.contains("original.cst"));
 }
 
 TEST_F(CalibrationResultTest, SavesNothingWithoutADirectory)

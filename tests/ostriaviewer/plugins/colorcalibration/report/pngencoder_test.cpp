@@ -2,12 +2,15 @@
 // Tests of images as PNG, read back by Qt.
 #include "pngencoder.h"
 
+#include "reportdata.h"
+
 #include <QBuffer>
 
 #include <gtest/gtest.h>
 
 #include <random>
 
+using ColorCalibration::EncodedPng;
 using ColorCalibration::encodePng;
 
 namespace {
@@ -45,7 +48,7 @@ TEST(EncodePng, ColorsComeBackPixelByPixel)
 {
     for (const QSize& size : {QSize(1, 1), QSize(1, 9), QSize(9, 1), QSize(333, 127)}) {
         const QImage image = picture(size.width(), size.height());
-        EXPECT_EQ(decoded(encodePng(image)).convertToFormat(QImage::Format_RGB32), image)
+        EXPECT_EQ(decoded(encodePng(image).bytes).convertToFormat(QImage::Format_RGB32), image)
             << size.width() << " x " << size.height();
     }
 }
@@ -54,7 +57,7 @@ TEST(EncodePng, PixelsMayBeLentRowsLongerThanTheImage)
 {
     const QImage whole = picture(100, 40);
     const QImage part(whole.constBits(), 61, 40, whole.bytesPerLine(), QImage::Format_RGB32);
-    EXPECT_EQ(decoded(encodePng(part)).convertToFormat(QImage::Format_RGB32),
+    EXPECT_EQ(decoded(encodePng(part).bytes).convertToFormat(QImage::Format_RGB32),
               whole.copy(0, 0, 61, 40));
 }
 
@@ -68,7 +71,7 @@ TEST(EncodePng, GrayImagesStayGray)
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, static_cast<uint>((x * 7 + y * 50) % 256));
-    const QImage back = decoded(encodePng(image));
+    const QImage back = decoded(encodePng(image).bytes);
     EXPECT_TRUE(back.format() == QImage::Format_Grayscale8 || back.isGrayscale());
     EXPECT_EQ(back.depth(), 8);
     EXPECT_EQ(back.convertToFormat(QImage::Format_RGB32),
@@ -81,7 +84,7 @@ TEST(EncodePng, TablesOfColorsComeBackAsColors)
     image.setColorTable({qRgb(255, 0, 3), qRgb(10, 200, 30)});
     image.setPixel(0, 0, 1);
     image.setPixel(1, 0, 0);
-    const QImage back = decoded(encodePng(image));
+    const QImage back = decoded(encodePng(image).bytes);
     EXPECT_EQ(back.pixel(0, 0), qRgb(10, 200, 30));
     EXPECT_EQ(back.pixel(1, 0), qRgb(255, 0, 3));
 }
@@ -101,12 +104,20 @@ TEST(EncodePng, OfACamerasImageIsNotLargerThanWhatQtWrites)
             image.setPixel(x, y,
                            qRgb(channel(patch * 9), channel(255 - patch * 7), channel(patch * 5)));
         }
-    EXPECT_LE(encodePng(image).size(), sizeByQt(image));
+    EXPECT_LE(encodePng(image).bytes.size(), sizeByQt(image));
+}
+
+TEST(EncodePng, SaysSoWhereThereIsNoRoomForThePixels)
+{
+    const EncodedPng png = encodePng(imageWithoutRoom());
+    EXPECT_TRUE(png.bytes.isEmpty());
+    EXPECT_EQ(png.problem, "there is not enough memory for the image");
 }
 
 TEST(EncodePng, ThereIsNothingOfANullImage)
 {
-    EXPECT_TRUE(encodePng(QImage()).isEmpty());
+    EXPECT_TRUE(encodePng(QImage()).bytes.isEmpty());
+    EXPECT_EQ(encodePng(QImage()).problem, "there is no image");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFile>
+#include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -24,4 +25,10 @@ inline QString testData(const QString& name)
 inline QJsonObject sampleResults()
 {
     return QJsonDocument::fromJson(fileBytes(testData("results.json"))).object();
+}
+
+/// Fits into memory with its one bit a pixel, but no computer's QImage holds its rows in colors.
+inline QImage imageWithoutRoom()
+{
+    return QImage(100'000'000, 1, QImage::Format_Mono);
 }

@@ -53,6 +53,8 @@ TEST_F(SummaryFaults, AFileInPlaceOfTheDirectoryIsReported)
     EXPECT_FALSE(saveSettings(path("file")));
     ASSERT_EQ(logTexts().size(), 2);
     EXPECT_TRUE(logTexts().first().startsWith("Cannot make the folder \"" + path("file")));
+    EXPECT_TRUE(logTexts().first().endsWith(
+        "\": Not a directory. Choose a folder that may be written to."));
     EXPECT_TRUE(logTexts().last().startsWith("Cannot write the file \"" + path("file")));
     EXPECT_TRUE(logTexts().last().contains("Not a directory")) << logTexts().last().toStdString();
 }
@@ -73,6 +75,17 @@ TEST_F(SummaryFaults, APlaceThatNobodyMayWriteToIsReported)
     EXPECT_FALSE(saveSettings("/proc/self"));
     ASSERT_EQ(logTexts().size(), 2);
     EXPECT_TRUE(logTexts().last().contains("No such file or directory"));
+}
+
+/// As many pixels wide and high, and no smaller as PNG.
+QImage noise(int size)
+{
+    QImage image(size, size, QImage::Format_RGB32);
+    std::mt19937 generator(1);
+    for (int y = 0; y < size; ++y)
+        for (int x = 0; x < size; ++x)
+            image.setPixel(x, y, static_cast<QRgb>(generator()));
+    return image;
 }
 
 /// Runs a test below again, in a shell that has done something before, with the folder in the
@@ -122,6 +135,30 @@ TEST_F(SummaryFaults, AReadOnlyDiskIsReported)
              "SummaryFaults.InsideAReadOnlyDisk");
 }
 
+TEST_F(SummaryFaults, ADiskThatFillsUpEndsASummaryInItsMiddle)
+{
+    runAfter("mount -t tmpfs -o size=1m tmpfs \"$REPORT_TEST_DISK\" && "
+             "! head -c 2000000 /dev/zero > \"$REPORT_TEST_DISK/probe\" && "
+             "rm \"$REPORT_TEST_DISK/probe\"",
+             inOwnMounts, "SummaryFaults.InsideWhatTakesHalfOfASummary");
+}
+
+TEST_F(SummaryFaults, InsideWhatTakesHalfOfASummary)
+{
+    const QString disk = qEnvironmentVariable("REPORT_TEST_DISK");
+    if (disk.isEmpty())
+        GTEST_SKIP() << "runs where another test has made room for half of a summary";
+    CalibrationResult result("M", [] { return QDateTime({2031, 2, 3}, {23, 5, 9}); });
+    const QImage image = noise(1000);
+    EXPECT_FALSE(result.SaveSummary(disk, image, image, sampleResults()));
+    EXPECT_EQ(
+        QDir(disk + "/Calibration_Report_M_20310203_230509").entryList(QDir::Files | QDir::Hidden),
+        (QStringList{"calibrated.cst", "calibration_report.html", "original.cst"}));
+    ASSERT_EQ(logTexts().size(), 1);
+    EXPECT_TRUE(logTexts().first().endsWith("calibrated.png\": No space left on device."))
+        << logTexts().first().toStdString();
+}
+
 TEST_F(SummaryFaults, InsideWhatTakesLittle)
 {
     const QString disk = qEnvironmentVariable("REPORT_TEST_DISK");
@@ -130,13 +167,9 @@ TEST_F(SummaryFaults, InsideWhatTakesLittle)
     ASSERT_TRUE(WriteTextFile(disk + "/f.cst", "before"));
     EXPECT_FALSE(WriteTextFile(disk + "/f.cst", QString(200000, 'x')));
     EXPECT_EQ(fileBytes(disk + "/f.cst"), "before\n") << "what was there stays";
-    QImage noise(200, 200, QImage::Format_RGB32);
-    std::mt19937 generator(1);
-    for (int y = 0; y < noise.height(); ++y)
-        for (int x = 0; x < noise.width(); ++x)
-            noise.setPixel(x, y, static_cast<QRgb>(generator()));
-    ASSERT_GT(encodePng(noise).size(), 65536);
-    EXPECT_FALSE(WritePngFile(disk + "/i.png", noise));
+    const EncodedPng png = encodePng(noise(200));
+    ASSERT_GT(png.bytes.size(), 65536);
+    EXPECT_FALSE(WritePngFile(disk + "/i.png", png));
     EXPECT_EQ(QDir(disk).entryList(QDir::Files | QDir::Hidden), QStringList("f.cst"))
         << "no half of a file, under whatever name";
     ASSERT_EQ(logTexts().size(), 2);
@@ -154,6 +187,7 @@ TEST_F(SummaryFaults, InsideAReadOnlyDisk)
     EXPECT_FALSE(WriteTextFile(disk + "/f.cst", "text"));
     ASSERT_EQ(logTexts().size(), 3);
     EXPECT_TRUE(logTexts().first().startsWith("Cannot make the folder"));
+    EXPECT_TRUE(logTexts().first().contains("\": Read-only file system. Choose"));
     EXPECT_TRUE(logTexts().last().contains("Read-only file system"));
 }
 

@@ -147,7 +147,7 @@ private:
     /// \return  empty if it cannot be read
     QString presentEntry(const QString& name) const;
     /// \param entry  empty: nothing to do
-    /// \return  false if the camera did not take it
+    /// \return  false if the camera has another one now
     bool restoreEntry(const QString& name, const QString& entry) const;
     void persistToUserSet();
 

@@ -3,7 +3,6 @@
 #include "camerajustify.h"
 
 #include "baseexception.h"
-#include "genicamexception.h"
 #include "logging.h"
 #include "refusedlines.h"
 #include "reportfailure.h"
@@ -146,7 +145,7 @@ QString CameraJustify::presentEntry(const QString& name) const
     try {
         const auto parameter = parameters()->enumerationParameter(name);
         return parameter->isReadable() ? parameter->value() : QString();
-    } catch (const GenICam::RuntimeException&) {
+    } catch (const std::exception&) {
         // Nothing to come back to is no reason not to go on.
         return {};
     }
@@ -158,7 +157,9 @@ bool CameraJustify::restoreEntry(const QString& name, const QString& entry) cons
         return true;
     const ParameterCollectionPtr collection =
         m_camera ? m_camera->parameterCollection() : ParameterCollectionPtr();
-    return collection && collection->enumerationParameter(name)->trySetValue(entry);
+    // What refused to change refuses to be put back, too, and is still what it was.
+    return collection && (collection->enumerationParameter(name)->trySetValue(entry) ||
+                          presentEntry(name) == entry);
 }
 
 void CameraJustify::persistToUserSet()

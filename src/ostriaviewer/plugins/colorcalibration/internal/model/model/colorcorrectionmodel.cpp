@@ -70,6 +70,11 @@ QString ColorCorrectionModel::OpeningFailure() const
     return m_impl->OpeningFailure();
 }
 
+QString ColorCorrectionModel::LastSavedFolder() const
+{
+    return m_impl->LastSavedFolder();
+}
+
 bool ColorCorrectionModel::Open(const Core::CameraPoolComponents::CameraPtr& camera)
 {
     return m_impl->Open(camera);

@@ -46,6 +46,10 @@ public:
     /// did not fail.
     QString OpeningFailure() const;
 
+    /// The folder that settings or a summary were saved into last, since the camera was opened;
+    /// empty before that.
+    QString LastSavedFolder() const;
+
     bool Open(const Core::CameraPoolComponents::CameraPtr& camera) override;
     bool Close() override;
     bool GrabImage(QImage& image, bool triggered) override;

@@ -108,4 +108,10 @@ bool ColorCorrectionModelImpl::SaveSummaryToFile(const QString& folder)
     });
 }
 
+QString ColorCorrectionModelImpl::LastSavedFolder() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_result ? m_result->LastFolder() : QString();
+}
+
 } // namespace ColorCalibration

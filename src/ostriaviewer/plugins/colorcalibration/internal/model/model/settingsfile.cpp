@@ -7,13 +7,15 @@
 #include <QFileDevice>
 #include <QSet>
 #include <QStringRef>
+#include <QTextCodec>
 
 namespace ColorCalibration {
 namespace {
 
 QByteArray readAll(QIODevice& device)
 {
-    constexpr qint64 longestFile = 16 * 1024 * 1024;
+    // Nothing stops what the camera is asked to take, and each line takes it a millisecond or so.
+    constexpr qint64 longestFile = 1024 * 1024;
     // Devices and pipes do not tell their size.
     QByteArray bytes;
     while (bytes.size() <= longestFile) {
@@ -26,6 +28,29 @@ QByteArray readAll(QIODevice& device)
         QStringLiteral("The file is too large for a settings file."));
 }
 
+/// Signs that could not be read would be written to the camera as others.
+QString toText(const QByteArray& bytes)
+{
+    QTextCodec::ConverterState state;
+    const QString text =
+        QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars > 0 || state.remainingChars > 0 || bytes.contains('\0'))
+        throw Core::Exception::BaseException(
+            QStringLiteral("This is no settings file: it is no text in UTF-8."));
+    return text;
+}
+
+/// Parameters are found by names with alternatives and node maps too; a line has none of these, and
+/// a command has no value.
+bool isSetting(const QString& name, Core::ParameterCollection::IParameterCollection& parameters)
+{
+    if (name.contains(QLatin1Char('|')) || name.contains(QLatin1Char('/')))
+        return false;
+    const auto parameter = parameters.parameter(name);
+    return !parameter->isEmpty() &&
+           !qobject_cast<Core::ParameterCollection::ICommandParameter*>(parameter.data());
+}
+
 } // namespace
 
 QString readSettingsText(QIODevice& device)
@@ -34,10 +59,7 @@ QString readSettingsText(QIODevice& device)
     const auto* file = qobject_cast<const QFileDevice*>(&device);
     if (file && file->error() != QFileDevice::NoError)
         throw Core::Exception::BaseException(file->errorString());
-    if (bytes.contains('\0'))
-        throw Core::Exception::BaseException(
-            QStringLiteral("This is no settings file: it is no text in UTF-8."));
-    const QString text = QString::fromUtf8(bytes);
+    const QString text = toText(bytes);
     if (settingNames(text).isEmpty())
         throw Core::Exception::BaseException(
             QStringLiteral("This is no settings file: no line has a feature's name, a tab and a "
@@ -63,7 +85,7 @@ bool hasOwnSettings(const QString& text,
     for (const QString& name : settingNames(text)) {
         if (foreign.contains(name))
             continue;
-        if (!parameters.parameter(name)->isEmpty())
+        if (isSetting(name, parameters))
             return true;
         foreign.insert(name);
     }

@@ -19,7 +19,7 @@ QString readSettingsText(QIODevice& device);
 /// What stands before the tab in each line that is a setting. Reentrant.
 QVector<QString> settingNames(const QString& text);
 
-/// Whether the camera has the feature of at least one setting. Reentrant.
+/// Whether the camera has the feature of at least one setting, and it is no command. Reentrant.
 bool hasOwnSettings(const QString& text,
                     Core::ParameterCollection::IParameterCollection& parameters);
 

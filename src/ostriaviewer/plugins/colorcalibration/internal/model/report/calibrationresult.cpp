@@ -48,39 +48,45 @@ QJsonObject CalibrationResult::SettingsToJson() const
             {QStringLiteral("Calibrated"), ParseSettings(m_calibratedSettings)}};
 }
 
-bool CalibrationResult::SaveSettingsFile(const QString& directory) const
+QString CalibrationResult::makeFolder(const QString& directory, const QString& stem,
+                                      const QDateTime& time)
+{
+    m_lastFolder = MakeOutputFolder(directory, stem, m_cameraModel, time);
+    return m_lastFolder;
+}
+
+bool CalibrationResult::SaveSettingsFile(const QString& directory)
 {
     if (!isNamed(directory))
         return false;
-    const QString folder = MakeOutputFolder(directory, QStringLiteral("Camera_Settings_Tavrin"),
-                                            m_cameraModel, m_clock());
+    const QString folder =
+        makeFolder(directory, QStringLiteral("Camera_Settings_Tavrin"), m_clock());
     return WriteTextFile(folder + QStringLiteral("/Calibrated.cst"), m_calibratedSettings);
 }
 
 bool CalibrationResult::SaveSummary(const QString& directory, const QImage& initialImage,
-                                    const QImage& latestImage, const QJsonObject& results) const
+                                    const QImage& latestImage, const QJsonObject& results)
 {
     if (!isNamed(directory))
         return false;
     const QDateTime now = m_clock();
     const QString folder =
-        MakeOutputFolder(directory, QStringLiteral("Calibration_Report"), m_cameraModel, now) +
-        QLatin1Char('/');
+        makeFolder(directory, QStringLiteral("Calibration_Report"), now) + QLatin1Char('/');
     if (!WriteTextFile(folder + QStringLiteral("calibrated.cst"), m_calibratedSettings))
         return false;
     // Nearly all of the time goes into compressing, so both images are compressed side by side; the
     // files are still written, and fail, one after another.
-    const QFuture<QByteArray> initialPng = QtConcurrent::run(encodePng, initialImage);
-    const QFuture<QByteArray> latestPng = QtConcurrent::run(encodePng, latestImage);
+    const QFuture<EncodedPng> initialPng = QtConcurrent::run(encodePng, initialImage);
+    const QFuture<EncodedPng> latestPng = QtConcurrent::run(encodePng, latestImage);
     // The pixels may be lent: they are let go of before the caller goes on.
-    QFutureSynchronizer<QByteArray> atTheEnd;
+    QFutureSynchronizer<EncodedPng> atTheEnd;
     atTheEnd.addFuture(initialPng);
     atTheEnd.addFuture(latestPng);
     return WriteTextFile(folder + QStringLiteral("original.cst"), m_originalSettings) &&
            WriteTextFile(folder + QStringLiteral("calibration_report.html"),
                          BuildHtml(m_cameraModel, results, now)) &&
-           writePngBytes(folder + QStringLiteral("calibrated.png"), latestPng.result()) &&
-           writePngBytes(folder + QStringLiteral("original.png"), initialPng.result());
+           WritePngFile(folder + QStringLiteral("calibrated.png"), latestPng.result()) &&
+           WritePngFile(folder + QStringLiteral("original.png"), initialPng.result());
 }
 
 } // namespace ColorCalibration

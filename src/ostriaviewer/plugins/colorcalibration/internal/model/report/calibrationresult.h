@@ -30,7 +30,7 @@ public:
 
     /// Writes "Calibrated.cst" into a new folder below the directory.
     /// \return  false if that failed; the log says why
-    bool SaveSettingsFile(const QString& directory) const;
+    bool SaveSettingsFile(const QString& directory);
 
     /// Writes settings, report and images into a new folder below the directory; ends with the
     /// first file that fails. Encodes the images on threads of the global pool.
@@ -39,12 +39,18 @@ public:
     /// \param results       the results object
     /// \return  false if one of them failed; the log says why
     bool SaveSummary(const QString& directory, const QImage& initialImage,
-                     const QImage& latestImage, const QJsonObject& results) const;
+                     const QImage& latestImage, const QJsonObject& results);
+
+    /// The folder that the last of both made or found; empty before the first.
+    QString LastFolder() const { return m_lastFolder; }
 
 private:
+    QString makeFolder(const QString& directory, const QString& stem, const QDateTime& time);
+
     QString m_originalSettings;
     QString m_calibratedSettings;
     QString m_cameraModel;
+    QString m_lastFolder;
     Clock m_clock;
 };
 

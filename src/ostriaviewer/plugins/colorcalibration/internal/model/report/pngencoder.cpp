@@ -85,17 +85,22 @@ private:
 
 } // namespace
 
-QByteArray encodePng(const QImage& image)
+EncodedPng encodePng(const QImage& image)
 {
     if (image.isNull())
-        return {};
-    const bool isGray = image.depth() == 8 && image.isGrayscale();
-    const QImage pixels =
-        image.convertToFormat(isGray ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
-    QByteArray out;
-    if (pixels.isNull() || !PngWriter(out).write(pixels))
-        throw std::bad_alloc();
-    return out;
+        return {{}, QStringLiteral("there is no image")};
+    const EncodedPng noRoom{{}, QStringLiteral("there is not enough memory for the image")};
+    try {
+        const bool isGray = image.depth() == 8 && image.isGrayscale();
+        const QImage pixels =
+            image.convertToFormat(isGray ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
+        EncodedPng png;
+        if (pixels.isNull() || !PngWriter(png.bytes).write(pixels))
+            return noRoom;
+        return png;
+    } catch (const std::bad_alloc&) {
+        return noRoom;
+    }
 }
 
 } // namespace ColorCalibration

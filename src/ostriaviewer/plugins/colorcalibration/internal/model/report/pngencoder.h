@@ -4,14 +4,21 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QString>
 
 namespace ColorCalibration {
 
-/// The bytes of a PNG file with the same picture: 8 bits of gray where the image has gray alone by
-/// its format, else 8 bits of red, green and blue. Reentrant.
+/// A PNG file, or why there is none.
+struct EncodedPng
+{
+    QByteArray bytes;
+    QString problem; ///< empty where there are bytes; else a clause without a full stop
+};
+
+/// A PNG file with the same picture: 8 bits of gray where the image has gray alone by its format,
+/// else 8 bits of red, green and blue. Too little memory is a problem like any other, as an
+/// exception would have to cross threads. Reentrant.
 /// \param image  opaque, up to 8 bits a channel
-/// \return  empty for a null image
-/// \throws std::bad_alloc
-QByteArray encodePng(const QImage& image);
+EncodedPng encodePng(const QImage& image);
 
 } // namespace ColorCalibration

@@ -2,7 +2,6 @@
 // Folder and files of a saved calibration.
 #include "summaryfiles.h"
 
-#include "pngencoder.h"
 #include "reportlog.h"
 
 #include <QDir>
@@ -19,6 +18,12 @@ QString fileSystemName(QString name)
             character = QLatin1Char('_');
     }
     return name;
+}
+
+QString notWritten(const QString& path, const QString& reason)
+{
+    return QStringLiteral("Cannot write the file \"%1\": %2.")
+        .arg(QDir::toNativeSeparators(path), reason);
 }
 
 /// A disk that fills up takes a part first and gives the reason with the next attempt.
@@ -41,8 +46,7 @@ bool replaceFile(const QString& path, const QByteArray& bytes)
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit())
         return true;
-    logReportFailure(QStringLiteral("Cannot write the file \"%1\": %2.")
-                         .arg(QDir::toNativeSeparators(path), file.errorString()));
+    logReportFailure(notWritten(path, file.errorString()));
     return false;
 }
 
@@ -56,10 +60,13 @@ QString MakeOutputFolder(const QString& directory, const QString& stem, const QS
         path += QDir::separator();
     path += stem + QLatin1Char('_') + fileSystemName(cameraModel) + QLatin1Char('_') +
             time.toString(QStringLiteral("yyyyMMdd_hhmmss"));
-    if (!QDir().mkpath(path))
-        logReportFailure(QStringLiteral("Cannot make the folder \"%1\": choose a folder that may "
-                                        "be written to.")
-                             .arg(QDir::toNativeSeparators(path)));
+    if (!QDir().mkpath(path)) {
+        // Qt has no question for it; it is what the system said last.
+        const QString reason = qt_error_string();
+        logReportFailure(QStringLiteral("Cannot make the folder \"%1\": %2. Choose a folder that "
+                                        "may be written to.")
+                             .arg(QDir::toNativeSeparators(path), reason));
+    }
     return path;
 }
 
@@ -68,19 +75,12 @@ bool WriteTextFile(const QString& path, const QString& text)
     return replaceFile(path, text.toUtf8() + '\n');
 }
 
-bool writePngBytes(const QString& path, const QByteArray& png)
+bool WritePngFile(const QString& path, const EncodedPng& png)
 {
-    if (png.isEmpty()) {
-        logReportFailure(QStringLiteral("Cannot write the file \"%1\": there is no image.")
-                             .arg(QDir::toNativeSeparators(path)));
-        return false;
-    }
-    return replaceFile(path, png);
-}
-
-bool WritePngFile(const QString& path, const QImage& image)
-{
-    return writePngBytes(path, encodePng(image));
+    if (png.problem.isEmpty())
+        return replaceFile(path, png.bytes);
+    logReportFailure(notWritten(path, png.problem));
+    return false;
 }
 
 } // namespace ColorCalibration

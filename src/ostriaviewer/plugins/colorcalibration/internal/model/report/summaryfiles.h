@@ -2,9 +2,9 @@
 // Folder and files of a saved calibration.
 #pragma once
 
-#include <QByteArray>
+#include "pngencoder.h"
+
 #include <QDateTime>
-#include <QImage>
 #include <QString>
 
 namespace ColorCalibration {
@@ -22,11 +22,8 @@ QString MakeOutputFolder(const QString& directory, const QString& stem, const QS
 /// \return  false if it could not be written; the log says why
 bool WriteTextFile(const QString& path, const QString& text);
 
-/// Writes what encodePng makes of an image; else like WriteTextFile. Reentrant.
-bool WritePngFile(const QString& path, const QImage& image);
-
 /// Writes what encodePng gave; else like WriteTextFile. Reentrant.
-/// \param png  empty: the file cannot be written
-bool writePngBytes(const QString& path, const QByteArray& png);
+/// \param png  one with a problem: the file cannot be written
+bool WritePngFile(const QString& path, const EncodedPng& png);
 
 } // namespace ColorCalibration
