@@ -74,8 +74,9 @@ void AcquisitionFeatures::setMode(bool single)
     const QString present = mode->value();
     if (present == wanted)
         return;
-    // A write that fails may have been done.
-    m_owed.mode = present;
+    // A write that fails may have been done. The mode from before an earlier acquisition counts.
+    if (m_owed.mode.isEmpty())
+        m_owed.mode = present;
     mode->setValue(wanted);
 }
 
@@ -158,6 +159,12 @@ void AcquisitionFeatures::takeOver(const AcquisitionFeatures& lost)
 {
     const std::scoped_lock lock(m_mutex, lost.m_mutex);
     m_owed = lost.m_owed;
+}
+
+void AcquisitionFeatures::replace(AcquisitionFeatures& previous)
+{
+    const std::scoped_lock lock(m_mutex, previous.m_mutex);
+    m_owed = std::exchange(previous.m_owed, {});
 }
 
 void AcquisitionFeatures::startAgain() noexcept

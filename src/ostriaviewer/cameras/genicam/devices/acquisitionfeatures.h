@@ -58,6 +58,10 @@ public:
     /// \param lost  of another node map of the same camera
     void takeOver(const AcquisitionFeatures& lost);
 
+    /// Takes over, before prepare, what the acquisition before this one has not put back, which
+    /// owes nothing any more then.
+    void replace(AcquisitionFeatures& previous);
+
 private:
     /// What the camera is to get back.
     struct Owed

@@ -17,7 +17,6 @@
 #include <QThread>
 
 #include <algorithm>
-#include <atomic>
 #include <exception>
 #include <utility>
 
@@ -411,7 +410,10 @@ struct GenicamCamera::Beginning
     std::shared_ptr<Connection> connection;
     std::shared_ptr<Acquisition> previous; ///< perhaps null
     std::shared_ptr<Acquisition> begun;
-    std::atomic<bool> hasFailed = false;
+
+    // Of the step, until that is done.
+    bool hasFailed = false;
+    bool isMissed = false; ///< it has failed, and images were still wanted
 };
 
 // Whoever does not wait until the camera has answered is told that images will come; if they do
@@ -442,7 +444,7 @@ bool GenicamCamera::begin(std::optional<std::chrono::milliseconds> timeout)
         emit stateChanged();
     if (!isDone)
         StepQueue::whenDone(step, [self = strongSelf(), beginning, isSingle] {
-            if (beginning->hasFailed)
+            if (beginning->isMissed)
                 log(tr("%1: %2").arg(self->displayName(), self->lastErrorText()));
             if (beginning->hasFailed && !isSingle)
                 emit self->stateChanged();
@@ -455,6 +457,7 @@ void GenicamCamera::carryOut(Beginning& beginning)
     const auto opened = std::exchange(beginning.connection, {});
     if (const auto previous = std::exchange(beginning.previous, {})) {
         previous->finish();
+        beginning.begun->replace(*previous);
         reportLosses(*previous, displayName());
     }
     const QWeakPointer<HostCamera> weak = sharedFromThis();
@@ -464,7 +467,7 @@ void GenicamCamera::carryOut(Beginning& beginning)
                 receiver->deliver(result);
         });
     } catch (const std::exception& error) {
-        beginning.begun->silence();
+        beginning.isMissed = beginning.begun->silence();
         beginning.begun->finish();
         setLastError(QString::fromUtf8(error.what()));
         beginning.hasFailed = true;

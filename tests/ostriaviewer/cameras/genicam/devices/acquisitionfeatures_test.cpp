@@ -184,6 +184,23 @@ TEST_F(PlainCamera, IsToldOfWhereTheLastAccessesFail)
         << texts.join(QLatin1Char('\n')).toStdString();
 }
 
+// The second one finds the camera as the first one has left it.
+TEST_F(PlainCamera, IsGivenBackAsItWasBeforeTheFirstOfTwo)
+{
+    const auto first = takingAPicture();
+    port->refused = {stopRegister, modeRegister};
+    first->stop();
+    port->refused.clear();
+    AcquisitionFeatures second(map, camera);
+    second.replace(*first);
+    EXPECT_TRUE(first->owedMode().isEmpty());
+    EXPECT_EQ(second.owedMode(), QStringLiteral("Continuous"));
+    second.prepare(true);
+    second.start();
+    second.stop();
+    expectAsBefore();
+}
+
 TEST_F(AcquisitionFeaturesTest, PutBackAModeWhoseWritingSeemedToFail)
 {
     const QString before = mode();
