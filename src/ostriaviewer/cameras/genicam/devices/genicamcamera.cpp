@@ -414,6 +414,7 @@ struct GenicamCamera::Beginning
     // Of the step, until that is done.
     bool hasFailed = false;
     bool isMissed = false; ///< it has failed, and images were still wanted
+    QString error;
 };
 
 // Whoever does not wait until the camera has answered is told that images will come; if they do
@@ -438,14 +439,16 @@ bool GenicamCamera::begin(std::optional<std::chrono::milliseconds> timeout)
         beginning->previous->silence();
     const auto step = m_steps.add([self = strongSelf(), beginning] { self->carryOut(*beginning); });
     const bool isDone = m_steps.wait(step, isDelivering ? noPatience : stepPatience());
-    if (isDone && beginning->hasFailed)
+    if (isDone && beginning->hasFailed) {
+        setLastError(beginning->error);
         return false;
+    }
     if (!isSingle)
         emit stateChanged();
     if (!isDone)
         StepQueue::whenDone(step, [self = strongSelf(), beginning, isSingle] {
             if (beginning->isMissed)
-                log(tr("%1: %2").arg(self->displayName(), self->lastErrorText()));
+                log(tr("%1: %2").arg(self->displayName(), beginning->error));
             if (beginning->hasFailed && !isSingle)
                 emit self->stateChanged();
         });
@@ -469,7 +472,7 @@ void GenicamCamera::carryOut(Beginning& beginning)
     } catch (const std::exception& error) {
         beginning.isMissed = beginning.begun->silence();
         beginning.begun->finish();
-        setLastError(QString::fromUtf8(error.what()));
+        beginning.error = QString::fromUtf8(error.what());
         beginning.hasFailed = true;
     }
 }

@@ -129,6 +129,7 @@ TEST_F(SilentCamera, SaysLaterThatItCannotStart)
     EXPECT_TRUE(log.entries().constFirst().text.contains(QLatin1String("AcquisitionStart")))
         << log.entries().constFirst().text.toStdString();
     EXPECT_FALSE(camera->isGrabbing());
+    EXPECT_TRUE(camera->lastErrorText().isEmpty()) << "nobody is to take it for a later failure";
 }
 
 TEST_F(SilentCamera, IsGivenBackAsItWasBeforeAStartThatCameTooEarly)
