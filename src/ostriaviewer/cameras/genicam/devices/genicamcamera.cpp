@@ -214,6 +214,7 @@ void GenicamCamera::carryOut(Opening& opening)
     if (opened) {
         opened->device->setLostHandler({});
         opened->nodeMap->disconnect();
+        giveBack(std::move(opened));
     }
 }
 
@@ -308,16 +309,31 @@ void GenicamCamera::close()
     if (running)
         running->silence();
     const QString name = displayName();
-    const auto step = m_steps.add([closed = std::move(closed), running = std::move(running), name] {
-        closed->nodeMap->disconnect([&running] {
+    const auto step =
+        m_steps.add([closed = std::move(closed), running = std::move(running), name]() mutable {
+            closed->nodeMap->disconnect([&running] {
+                if (running)
+                    running->finish();
+            });
             if (running)
-                running->finish();
+                reportLosses(*running, name);
+            running.reset();
+            giveBack(std::move(closed));
         });
-        if (running)
-            reportLosses(*running, name);
-    });
     m_steps.wait(step, isDelivering ? noPatience : stepPatience());
     emit stateChanged();
+}
+
+// Whoever opens it next is not to be refused because this program still has it. On a bad line the
+// camera has to be told several times. A delivery that has begun may keep the device for longer.
+void GenicamCamera::giveBack(std::shared_ptr<Connection> closed)
+{
+    const std::weak_ptr<Device> device = closed->device;
+    const auto released = closed->device->released();
+    const bool isLost = closed->device->isLost();
+    closed.reset();
+    if (!isLost && device.expired())
+        released.wait();
 }
 
 void GenicamCamera::lose(const Device* device)

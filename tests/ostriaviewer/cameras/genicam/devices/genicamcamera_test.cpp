@@ -274,6 +274,17 @@ TEST_F(GenicamCameraTest, OpensAndClosesManyTimes)
     }
 }
 
+// The library asks again after half a second each.
+TEST_F(GenicamCameraTest, IsNotItsOwnRivalWhereTheCameraHearsLateThatItIsGivenBack)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    rig.server().loseReleases(2);
+    camera->close();
+    EXPECT_TRUE(camera->open()) << camera->lastErrorText().toStdString();
+}
+
 TEST_F(GenicamCameraTest, WorksWithoutFeaturesThatOthersHave)
 {
     NetworkRig rig(smallModel(), {QStringLiteral("AcquisitionMode"), QStringLiteral("Gain")});
