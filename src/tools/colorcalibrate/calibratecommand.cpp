@@ -118,12 +118,13 @@ ToolCameras makeCameras(const CommandLine& line)
 /// The support test can be made on an open camera alone.
 void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera)
 {
-    if (!isCameraSupported(camera, cameras.parameterService()))
-        throw CommandError(
-            QStringLiteral(
-                "the camera \"%1\" cannot be calibrated: its model has no color pipeline "
-                "of the kind that is needed (DeviceColorPipelineVersion 1)")
-                .arg(camera->displayName()));
+    if (isCameraSupported(camera, cameras.parameterService()))
+        return;
+    requireParameters(camera);
+    throw CommandError(
+        QStringLiteral("the camera \"%1\" cannot be calibrated: its model has no color pipeline "
+                       "of the kind that is needed (DeviceColorPipelineVersion 1)")
+            .arg(camera->displayName()));
 }
 
 /// Whatever ends the work, the camera's settings are compared, and written back where they differ.
@@ -159,8 +160,8 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     resolveUserSet(camera, saving);
     if (!options.previousSettings.isEmpty())
         requireOwnSettings(options.previousSettings, options.previousFile,
-                           *camera->parameterCollection());
-    report.sfnc = camera->parameterCollection()->sfncVersion().toString();
+                           *requireParameters(camera));
+    report.sfnc = requireParameters(camera)->sfncVersion().toString();
 
     ColorCorrectionModel model;
     model.SetCameraStatusService(cameras.statusService());

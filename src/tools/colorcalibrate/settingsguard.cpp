@@ -39,6 +39,16 @@ QString firstDifference(const QStringList& wanted, const QStringList& found)
 
 } // namespace
 
+Core::ParameterCollection::ParameterCollectionPtr
+requireParameters(const Cameras::HostCameraPtr& camera)
+{
+    const auto parameters = camera->isOpen() ? camera->parameterCollection() : nullptr;
+    if (!parameters)
+        throw CommandError(
+            QStringLiteral("the camera \"%1\" has been disconnected").arg(camera->displayName()));
+    return parameters;
+}
+
 SettingsGuard::SettingsGuard(const Cameras::HostCameraPtr& camera)
     : m_camera(camera)
 {
@@ -61,11 +71,8 @@ SettingsGuard::~SettingsGuard()
 
 QString SettingsGuard::readSettings() const
 {
-    const auto parameters = m_camera->parameterCollection();
-    if (!parameters)
-        throw CommandError(QStringLiteral("the connection is lost"));
     QString text;
-    parameters->saveFeatures(text, cameraNodeMap);
+    requireParameters(m_camera)->saveFeatures(text, cameraNodeMap);
     return text;
 }
 
@@ -76,7 +83,7 @@ QString SettingsGuard::restore()
         const QStringList wanted = settingLines(m_settings);
         if (settingLines(readSettings()) != wanted) {
             QString ignoredErrors;
-            m_camera->parameterCollection()->loadFeatures(m_settings, ignoredErrors, cameraNodeMap);
+            requireParameters(m_camera)->loadFeatures(m_settings, ignoredErrors, cameraNodeMap);
         }
         const QString difference = firstDifference(wanted, settingLines(readSettings()));
         if (difference.isEmpty())

@@ -8,6 +8,12 @@
 
 namespace ColorCalibrate {
 
+/// The parameters of an open camera, which a loss of the connection may end at any time.
+/// \return  not null
+/// \throws CommandError  the camera is not open any more
+Core::ParameterCollection::ParameterCollectionPtr
+requireParameters(const Cameras::HostCameraPtr& camera);
+
 /// Opens a camera for the tool and keeps its settings as they are before anybody touches them.
 /// Closes the camera at its end. Thread-bound.
 class SettingsGuard

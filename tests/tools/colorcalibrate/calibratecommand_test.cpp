@@ -5,6 +5,7 @@
 #include "command.h"
 #include "commandtest.h"
 #include "emulatedcamera.h"
+#include "saving.h"
 #include "settingsguard.h"
 
 #include <QColor>
@@ -429,4 +430,19 @@ TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)
     EXPECT_TRUE(remark.contains(QLatin1String("Gamma"))) << remark.toStdString();
     m_camera->loseConnection();
     EXPECT_TRUE(guard.restore().contains(QLatin1String("COULD NOT BE RESTORED")));
+}
+
+TEST_F(FaultyCamera, HasNoUserSetsWhereItIsAway)
+{
+    m_camera->loseConnection();
+    SavingOptions saving;
+    saving.userSet = QStringLiteral("UserSet1");
+    try {
+        resolveUserSet(m_camera, saving);
+        ADD_FAILURE();
+    } catch (const CommandError& error) {
+        EXPECT_EQ(std::string(error.what()), "the camera \"" +
+                                                 m_camera->displayName().toStdString() +
+                                                 "\" has been disconnected");
+    }
 }

@@ -6,6 +6,7 @@
 #include "genicamcamera.h"
 #include "neededfeatures.h"
 #include "networkcameras.h"
+#include "registerstore.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -13,7 +14,10 @@
 #include <QSet>
 
 #include <chrono>
+#include <condition_variable>
 #include <csignal>
+#include <mutex>
+#include <utility>
 #include <vector>
 
 using namespace ColorCalibrate;
@@ -44,6 +48,52 @@ std::string featureName(const testing::TestParamInfo<Missing>& info)
 /// Cameras without one of the features that the calibrator cannot do without.
 class IncompleteCameras : public NetworkCameras, public testing::WithParamInterface<Missing>
 {};
+
+std::uint64_t addressOf(const Cameras::Emulation::RegisterStore& store, const QString& feature)
+{
+    return store.layout().address(store.table()->indexOf(feature));
+}
+
+/// A served camera that answers nothing any more once one register is read, until it is let go.
+class SilentAt final : public Cameras::Emulation::IServedDevice
+{
+public:
+    SilentAt(std::shared_ptr<IServedDevice> device, std::uint64_t address)
+        : m_device(std::move(device))
+        , m_address(address)
+    {}
+
+    void letGo()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isLetGo = true;
+        m_changed.notify_all();
+    }
+
+    Cameras::Emulation::ServedIdentity identity() const override { return m_device->identity(); }
+    std::string description() const override { return m_device->description(); }
+    void setReceiver(Receiver receiver) override { m_device->setReceiver(std::move(receiver)); }
+    void stopAcquisition() override { m_device->stopAcquisition(); }
+    void read(std::uint64_t address, void* data, std::size_t size) override
+    {
+        if (address == m_address) {
+            std::unique_lock lock(m_mutex);
+            m_changed.wait(lock, [this] { return m_isLetGo; });
+        }
+        m_device->read(address, data, size);
+    }
+    void write(std::uint64_t address, const void* data, std::size_t size) override
+    {
+        m_device->write(address, data, size);
+    }
+
+private:
+    const std::shared_ptr<IServedDevice> m_device;
+    const std::uint64_t m_address;
+    std::mutex m_mutex; // guards all below
+    std::condition_variable m_changed;
+    bool m_isLetGo = false;
+};
 
 } // namespace
 
@@ -123,6 +173,20 @@ TEST_F(NetworkCameras, AreGivenBackWhereImagesStopComingThrough)
                   {QStringLiteral("the camera delivered no image at the step \""),
                    QStringLiteral("; the camera's settings are as they were")});
     EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+TEST_F(NetworkCameras, AreNotTakenForUnsupportedOnesWhereTheyVanishEarly)
+{
+    m_server.reset();
+    const auto silent = std::make_shared<SilentAt>(
+        Cameras::Emulation::serveEmulation(m_served),
+        addressOf(*m_served->registers(), QStringLiteral("DeviceColorPipelineVersion")));
+    m_server = std::make_unique<Cameras::Emulation::GigeServer>(silent, m_address.toStdString());
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    silent->letGo();
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err, "colorcalibrate: the camera \"emA1920-60ucEMU (90010002)\" has been "
+                           "disconnected\n");
 }
 
 TEST_F(NetworkCameras, AreGivenBackWhereNoImageComesThrough)
