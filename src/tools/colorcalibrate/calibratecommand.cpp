@@ -130,6 +130,7 @@ void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& 
 /// Whatever ends the work, the camera's settings are compared, and written back where they differ.
 /// What the camera failed at is told with its name.
 void giveBackOnFailure(SettingsGuard& guard, const QString& cameraName,
+                       const std::function<void(const QString& step)>& progress,
                        const std::function<void()>& work)
 {
     const auto named = [&cameraName](const std::exception& error) {
@@ -138,11 +139,11 @@ void giveBackOnFailure(SettingsGuard& guard, const QString& cameraName,
     try {
         work();
     } catch (const Cancelled& error) {
-        throw CommandError(wordsOf(error) + guard.restore());
+        throw CommandError(wordsOf(error) + guard.restore(progress));
     } catch (const CommandError& error) {
-        throw CommandError(named(error) + guard.restore(), error.code());
+        throw CommandError(named(error) + guard.restore(progress), error.code());
     } catch (const std::exception& error) {
-        throw CommandError(named(error) + guard.restore());
+        throw CommandError(named(error) + guard.restore(progress));
     }
 }
 
@@ -178,7 +179,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     };
     CalibrationSequence sequence(model, progress, isCancelled, warn);
     SavingOutcome saved;
-    giveBackOnFailure(guard, report.camera, [&] {
+    giveBackOnFailure(guard, report.camera, progress, [&] {
         report.result = sequence.run(camera, options);
         report.settings = model.LastCalibration();
         report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));

@@ -18,6 +18,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <chrono>
 #include <new>
 #include <ostream>
 
@@ -416,7 +417,7 @@ TEST_F(FaultyCamera, IsOpenedByTheSequenceOrSaysWhyNot)
 TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)
 {
     m_camera->close();
-    SettingsGuard guard(m_camera);
+    SettingsGuard guard(m_camera, std::chrono::milliseconds(0));
     EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were")));
     const auto gamma = m_camera->parameterCollection()->floatParameter(QStringLiteral("Gamma"));
     const double before = gamma->value();
@@ -428,8 +429,13 @@ TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)
     const QString remark = guard.restore();
     EXPECT_TRUE(remark.contains(QLatin1String("COULD NOT BE RESTORED"))) << remark.toStdString();
     EXPECT_TRUE(remark.contains(QLatin1String("Gamma"))) << remark.toStdString();
+    m_camera->refuseWrites(QStringLiteral("Gamma"), -1);
     m_camera->loseConnection();
-    EXPECT_TRUE(guard.restore().contains(QLatin1String("COULD NOT BE RESTORED")));
+    EXPECT_TRUE(guard.restore().contains(QLatin1String("(the connection is lost)")));
+    m_camera->reconnect();
+    EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were")));
+    EXPECT_EQ(m_camera->parameterCollection()->floatParameter(QStringLiteral("Gamma"))->value(),
+              before);
 }
 
 TEST_F(FaultyCamera, HasNoUserSetsWhereItIsAway)

@@ -6,13 +6,16 @@
 #include "genicamcamera.h"
 #include "neededfeatures.h"
 #include "networkcameras.h"
+#include "pseudoterminal.h"
 #include "registerstore.h"
+#include "terminalprogram.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QProcess>
 #include <QSet>
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <csignal>
@@ -172,6 +175,47 @@ TEST_F(NetworkCameras, AreGivenBackWhereImagesStopComingThrough)
     expectFailure(outcome, 1,
                   {QStringLiteral("the camera delivered no image at the step \""),
                    QStringLiteral("; the camera's settings are as they were")});
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+// As where the computer has slept: they answer all the time, but obey nobody.
+TEST_F(NetworkCameras, AreGivenBackWhereTheyHaveForgottenWhoControlsThem)
+{
+    setExposure(20000.0);
+    const QString before = settings();
+    const auto format =
+        m_served->parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"));
+    std::atomic<bool> isForgotten = false;
+    QObject::connect(m_served.data(), &EmulatedCamera::cameraImageGrabbed, [&] {
+        if (format->value().startsWith(QLatin1String("Mono")) && !isForgotten.exchange(true))
+            m_server->forgetController();
+    });
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    expectFailure(outcome, 1, {QStringLiteral("; the camera's settings are as they were")});
+    EXPECT_TRUE(isForgotten);
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+TEST_F(NetworkCameras, AreGivenBackWhereTheyComeBack)
+{
+    setExposure(20000.0);
+    const QString before = settings();
+    Terminal terminal;
+    QProcess program;
+    program.setStandardErrorFile(terminal.name());
+    startProgram(program, folder.path(), atAddress("calibrate"));
+    ASSERT_NO_FATAL_FAILURE(waitForLine(program, terminal, "Adjusting brightness"));
+    ASSERT_NE(settings().toStdString(), before.toStdString());
+    vanish();
+    ASSERT_NO_FATAL_FAILURE(
+        waitForLine(program, terminal, "Waiting for the camera, to restore its settings"));
+    serve();
+    ASSERT_TRUE(program.waitForFinished(60000));
+    EXPECT_EQ(program.exitCode(), 1);
+    const QByteArray text = terminal.text();
+    EXPECT_TRUE(text.endsWith("\ncolorcalibrate: emA1920-60ucEMU (90010002): the camera has been "
+                              "disconnected; the camera's settings are as they were\n"))
+        << text.constData();
     EXPECT_EQ(settings().toStdString(), before.toStdString());
 }
 
