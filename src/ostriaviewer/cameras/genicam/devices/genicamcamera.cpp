@@ -349,6 +349,7 @@ void GenicamCamera::lose(const Device* device)
         if (running)
             m_unfinished = running->features();
     }
+    lost->nodeMap->refuseAccesses();
     if (running)
         running->silence();
     emit stateChanged();

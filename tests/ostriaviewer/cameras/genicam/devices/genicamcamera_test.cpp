@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstring>
+#include <future>
 
 using namespace Cameras;
 using Emulation::smallModel;
@@ -206,6 +207,20 @@ TEST_F(GenicamCameraTest, EndsWhatWasUnderWayWhenItComesBack)
     ASSERT_TRUE(becomes([&] { return camera->open(); }));
     EXPECT_EQ(mode(camera)->value(), single);
     EXPECT_TRUE(log.entries().isEmpty()) << log.entries().first().text.toStdString();
+}
+
+TEST_F(GenicamCameraTest, HasNoFeaturesAnyMoreWhenItsLossIsTold)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    const auto gain = camera->parameterCollection()->floatParameter(QStringLiteral("Gain"));
+    ASSERT_TRUE(gain->isAvailable());
+    std::promise<bool> isAvailable;
+    QObject::connect(rig.client().data(), &HostCamera::cameraConnectionLost,
+                     [&] { isAvailable.set_value(gain->isAvailable()); });
+    rig.vanish();
+    EXPECT_FALSE(isAvailable.get_future().get());
 }
 
 TEST_F(GenicamCameraTest, TellsAtItsEndWhatItCouldNotPutBack)
