@@ -114,6 +114,8 @@ void AcquisitionFeatures::execute(const char* command)
 void AcquisitionFeatures::lockFeatures(bool locked)
 {
     const auto node = m_parameters->integerParameter(QStringLiteral("TLParamsLocked"));
+    if (node->isEmpty())
+        return;
     if (node->isWritable())
         return node->setValue(locked ? 1 : 0, false);
     const ReadLock lock(m_nodeMap->d());
