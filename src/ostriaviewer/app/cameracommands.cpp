@@ -39,7 +39,7 @@ CameraCommands::CameraCommands(CameraList& cameras, DeviceSelectorService& selec
     connect(m_start, &QAction::triggered, this, &CameraCommands::start);
     connect(m_stop, &QAction::triggered, this, &CameraCommands::stop);
     connect(m_single, &QAction::triggered, this, &CameraCommands::grabSingle);
-    connect(&selector, &DeviceSelectorService::selectionChanged, this, &CameraCommands::update);
+    connect(&selector, &DeviceSelectorService::switched, this, &CameraCommands::update);
     connect(&cameras, &CameraList::stateChanged, this, &CameraCommands::update);
     retranslate();
     update();

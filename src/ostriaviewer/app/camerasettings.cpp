@@ -7,6 +7,9 @@
 #include <QStringList>
 
 namespace Viewer {
+
+using Cameras::GenICam::TransportSettings;
+
 namespace {
 
 const auto backendsKey = QStringLiteral("Cameras/Backends");
@@ -17,8 +20,9 @@ const auto addressesKey = QStringLiteral("Cameras/Addresses");
 
 int validPacketSize(int size)
 {
-    return size >= CameraSettings::smallestPacket && size <= CameraSettings::largestPacket ? size
-                                                                                           : 0;
+    return size >= TransportSettings::smallestPacket && size <= TransportSettings::largestPacket
+               ? size
+               : 0;
 }
 
 } // namespace

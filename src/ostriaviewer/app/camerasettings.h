@@ -23,9 +23,6 @@ std::optional<Backends> backendsFromName(const QString& name);
 /// A plain value; reentrant.
 struct CameraSettings
 {
-    static constexpr int smallestPacket = 576; ///< bytes
-    static constexpr int largestPacket = 16384;
-
     Backends backends = Backends::All;
     Cameras::GenICam::TransportSettings transport;
 };

@@ -22,6 +22,9 @@
 #include <utility>
 
 namespace Viewer {
+
+using Cameras::GenICam::TransportSettings;
+
 namespace {
 
 QLabel* makeHint(const QString& text)
@@ -144,7 +147,7 @@ QWidget* CameraSettingsDialog::makePackets()
     m_packetGroup = new QGroupBox(tr("Images from the network"));
     m_packetSize = new QSpinBox;
     m_packetSize->setObjectName(QStringLiteral("packetSize"));
-    m_packetSize->setRange(CameraSettings::smallestPacket - 1, CameraSettings::largestPacket);
+    m_packetSize->setRange(TransportSettings::smallestPacket - 1, TransportSettings::largestPacket);
     m_packetSize->setSpecialValueText(tr("as large as possible"));
     m_packetSize->setSuffix(tr(" bytes"));
     auto* label = new QLabel(tr("&Packet size:"));

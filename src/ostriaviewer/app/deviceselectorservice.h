@@ -4,9 +4,17 @@
 
 #include "ideviceselectorservice.h"
 
+#include <QTimer>
+
+#include <functional>
+
 namespace Viewer {
 
 /// Thread-bound: GUI thread.
+///
+/// Plugins ask the camera that they are told of, and the windows do not wait for a camera: what it
+/// does not answer at once fails, and selectionChanged is emitted again for the same device until
+/// everybody has got an answer.
 class DeviceSelectorService final : public Plugin::CameraSelector::IDeviceSelectorService
 {
     Q_OBJECT
@@ -21,8 +29,20 @@ public:
     /// Tells of the selection if it is another one.
     void select(const Core::CameraPoolComponents::DeviceBaseInfoPtr& device);
 
+    /// Tells plugins of a device by calling a function. Where the device is selected and its camera
+    /// has not answered all that they asked, selectionChanged tells them again.
+    void tellPlugins(const Core::CameraPoolComponents::DeviceBaseInfoPtr& device,
+                     const std::function<void()>& tell);
+
+signals:
+    /// Another device is selected: for the viewer's own parts, before plugins hear of it.
+    void switched();
+
 private:
+    void tellOfSelection();
+
     Core::CameraPoolComponents::DeviceBaseInfoPtr m_selected;
+    QTimer m_again;
 };
 
 } // namespace Viewer

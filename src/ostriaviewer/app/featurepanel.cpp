@@ -56,7 +56,7 @@ FeaturePanel::FeaturePanel(CameraList& cameras, DeviceSelectorService& selector,
     m_shown->setRecursiveFilteringEnabled(true);
     makeView();
     connect(m_filter, &QLineEdit::textChanged, this, &FeaturePanel::applyFilter);
-    connect(&selector, &DeviceSelectorService::selectionChanged, this, &FeaturePanel::follow);
+    connect(&selector, &DeviceSelectorService::switched, this, &FeaturePanel::follow);
     connect(&cameras, &CameraList::stateChanged, this, [this](const HostCameraPtr& camera) {
         if (camera == m_camera)
             showFeatures();

@@ -18,7 +18,7 @@ LiveSession::LiveSession(CameraList& cameras, DeviceSelectorService& selector, L
     , m_view(view)
     , m_selector(selector)
 {
-    connect(&selector, &DeviceSelectorService::selectionChanged, this, &LiveSession::follow);
+    connect(&selector, &DeviceSelectorService::switched, this, &LiveSession::follow);
     connect(&cameras, &CameraList::stateChanged, this, &LiveSession::onStateChanged);
     connect(&cameras, &CameraList::connectionLost, this, &LiveSession::onConnectionLost);
     connect(&m_converter, &FrameConverter::frameReady, this, &LiveSession::show);

@@ -115,7 +115,7 @@ void MainWindow::makeConnections()
     connect(m_commands, &CameraCommands::failed, this, &MainWindow::showFailure);
     connect(m_menu, &MainMenu::savePictureRequested, this, &MainWindow::savePicture);
     connect(m_menu, &MainMenu::quitRequested, this, &QWidget::close);
-    connect(&m_parts.selector, &DeviceSelectorService::selectionChanged, m_recording,
+    connect(&m_parts.selector, &DeviceSelectorService::switched, m_recording,
             &RecordingCommands::update);
     connect(m_recording, &RecordingCommands::folderRequested, this,
             &MainWindow::chooseRecordingFolder);

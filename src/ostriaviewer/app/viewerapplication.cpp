@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QMessageBox>
 
+#include <functional>
 #include <utility>
 
 namespace Viewer {
@@ -99,6 +100,10 @@ void ViewerApplication::makeConnections()
                           .arg(camera->displayName()));
     });
     m_window->setCloseCondition([this] { return mayClose(); });
+    m_pool.setAnnouncer([selector = m_selector](const HostCameraPtr& camera,
+                                                const std::function<void()>& announce) {
+        selector->tellPlugins(camera, announce);
+    });
 }
 
 void ViewerApplication::reportCameras()
@@ -149,8 +154,7 @@ void ViewerApplication::selectCamera()
 void ViewerApplication::waitForCamera()
 {
     auto* wait = new QObject(this);
-    connect(m_selector.data(), &DeviceSelectorService::selectionChanged, wait,
-            &QObject::deleteLater);
+    connect(m_selector.data(), &DeviceSelectorService::switched, wait, &QObject::deleteLater);
     connect(&m_sources, &CameraSources::applied, wait, &QObject::deleteLater);
     connect(&m_sources, &CameraSources::searched, wait, [this, wait] {
         wait->deleteLater();
@@ -161,8 +165,7 @@ void ViewerApplication::waitForCamera()
 void ViewerApplication::waitForFirstCamera()
 {
     auto* wait = new QObject(this);
-    connect(m_selector.data(), &DeviceSelectorService::selectionChanged, wait,
-            &QObject::deleteLater);
+    connect(m_selector.data(), &DeviceSelectorService::switched, wait, &QObject::deleteLater);
     connect(&m_cameras, &CameraList::added, wait, [this](const HostCameraPtr& camera) {
         if (!m_selector->selected())
             m_window->selectorPanel().select(camera);

@@ -14,6 +14,8 @@ class OSTRIAVIEWER_CORE_EXPORT IDeviceSelectorService : public Core::Service::IS
     Q_OBJECT
 
 signals:
+    /// May tell again of the device that was told of last, where that has not answered all that
+    /// somebody asked it then.
     /// \param device  null if nothing is selected
     void selectionChanged(Core::CameraPoolComponents::DeviceBaseInfoPtr device);
 

@@ -4,6 +4,7 @@
 
 #include "cameraaddress.h"
 #include "command.h"
+#include "transportsettings.h"
 
 namespace ColorCalibrate {
 namespace {
@@ -21,8 +22,8 @@ QString readAddress(const QString& text)
 
 int readPacketSize(const QString& text)
 {
-    constexpr int smallest = 576;
-    constexpr int largest = 16384;
+    constexpr int smallest = Cameras::GenICam::TransportSettings::smallestPacket;
+    constexpr int largest = Cameras::GenICam::TransportSettings::largestPacket;
     bool isNumber = false;
     const int size = text.toInt(&isNumber);
     if (!isNumber || size < smallest || size > largest)

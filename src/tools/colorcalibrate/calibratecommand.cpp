@@ -119,17 +119,19 @@ ToolCameras makeCameras(const CommandLine& line)
 /// The support test can be made on an open camera alone.
 void requireSupported(const ToolCameras& cameras, const Cameras::HostCameraPtr& camera)
 {
-    if (!isCameraSupported(camera, cameras.parameterService()))
-        throw CommandError(
-            QStringLiteral(
-                "the camera \"%1\" cannot be calibrated: its model has no color pipeline "
-                "of the kind that is needed (DeviceColorPipelineVersion 1)")
-                .arg(camera->displayName()));
+    if (isCameraSupported(camera, cameras.parameterService()))
+        return;
+    requireParameters(camera);
+    throw CommandError(
+        QStringLiteral("the camera \"%1\" cannot be calibrated: its model has no color pipeline "
+                       "of the kind that is needed (DeviceColorPipelineVersion 1)")
+            .arg(camera->displayName()));
 }
 
 /// Whatever ends the work, the camera's settings are compared, and written back where they differ.
 /// What the camera failed at is told with its name.
 void giveBackOnFailure(SettingsGuard& guard, const QString& cameraName,
+                       const std::function<void(const QString& step)>& progress,
                        const std::function<void()>& work)
 {
     const auto named = [&cameraName](const std::exception& error) {
@@ -138,11 +140,11 @@ void giveBackOnFailure(SettingsGuard& guard, const QString& cameraName,
     try {
         work();
     } catch (const Cancelled& error) {
-        throw CommandError(wordsOf(error) + guard.restore());
+        throw CommandError(wordsOf(error) + guard.restore(progress));
     } catch (const CommandError& error) {
-        throw CommandError(named(error) + guard.restore(), error.code());
+        throw CommandError(named(error) + guard.restore(progress), error.code());
     } catch (const std::exception& error) {
-        throw CommandError(named(error) + guard.restore());
+        throw CommandError(named(error) + guard.restore(progress));
     }
 }
 
@@ -160,8 +162,8 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
     resolveUserSet(camera, saving);
     if (!options.previousSettings.isEmpty())
         requireOwnSettings(options.previousSettings, options.previousFile,
-                           *camera->parameterCollection());
-    report.sfnc = camera->parameterCollection()->sfncVersion().toString();
+                           *requireParameters(camera));
+    report.sfnc = requireParameters(camera)->sfncVersion().toString();
 
     ColorCorrectionModel model;
     model.SetCameraStatusService(cameras.statusService());
@@ -177,7 +179,7 @@ Report calibrate(const ToolCameras& cameras, const Cameras::HostCameraPtr& camer
         return Interruption::isRequested();
     };
     CalibrationSequence sequence(model, progress, isCancelled, warn);
-    giveBackOnFailure(guard, report.camera, [&] {
+    giveBackOnFailure(guard, report.camera, progress, [&] {
         report.result = sequence.run(camera, options);
         report.settings = model.LastCalibration();
         report.before = deltasToTargets(toPatchColors(report.result.initialColors, true));

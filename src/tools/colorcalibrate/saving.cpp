@@ -4,6 +4,7 @@
 
 #include "failurelog.h"
 #include "iparametercollection.h"
+#include "settingsguard.h"
 #include "storableusersets.h"
 
 #include <QDir>
@@ -101,13 +102,14 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
     if (options.userSet.isEmpty())
         return;
     QStringList names;
-    for (const auto& entry : ColorCalibration::storableUserSets(*camera->parameterCollection())) {
+    for (const auto& entry : ColorCalibration::storableUserSets(*requireParameters(camera))) {
         if (options.userSet == entry.name || options.userSet == entry.displayName) {
             options.userSet = entry.name;
             return;
         }
         names.append(entry.name);
     }
+    requireParameters(camera);
     throw CommandError(
         names.isEmpty()
             ? QStringLiteral("the camera has no user set that settings can be stored in")

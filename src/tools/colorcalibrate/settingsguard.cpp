@@ -3,11 +3,13 @@
 #include "settingsguard.h"
 
 #include "command.h"
+#include "interruption.h"
 
 #include <QStringList>
 
 #include <algorithm>
 #include <exception>
+#include <thread>
 
 namespace ColorCalibrate {
 namespace {
@@ -39,8 +41,20 @@ QString firstDifference(const QStringList& wanted, const QStringList& found)
 
 } // namespace
 
-SettingsGuard::SettingsGuard(const Cameras::HostCameraPtr& camera)
+Core::ParameterCollection::ParameterCollectionPtr
+requireParameters(const Cameras::HostCameraPtr& camera)
+{
+    const auto parameters = camera->isOpen() ? camera->parameterCollection() : nullptr;
+    if (!parameters)
+        throw CommandError(
+            QStringLiteral("the camera \"%1\" has been disconnected").arg(camera->displayName()));
+    return parameters;
+}
+
+SettingsGuard::SettingsGuard(const Cameras::HostCameraPtr& camera,
+                             std::chrono::milliseconds longestAbsence)
     : m_camera(camera)
+    , m_longestAbsence(longestAbsence)
 {
     if (!camera->open())
         throw CommandError(QStringLiteral("the camera \"%1\" could not be opened: %2")
@@ -61,34 +75,51 @@ SettingsGuard::~SettingsGuard()
 
 QString SettingsGuard::readSettings() const
 {
-    const auto parameters = m_camera->parameterCollection();
-    if (!parameters)
-        throw CommandError(QStringLiteral("the connection is lost"));
     QString text;
-    parameters->saveFeatures(text, cameraNodeMap);
+    requireParameters(m_camera)->saveFeatures(text, cameraNodeMap);
     return text;
 }
 
-QString SettingsGuard::restore()
+QString SettingsGuard::restore(const std::function<void(const QString& step)>& tell)
 {
-    QString problem;
-    try {
-        const QStringList wanted = settingLines(m_settings);
-        if (settingLines(readSettings()) != wanted) {
-            QString ignoredErrors;
-            m_camera->parameterCollection()->loadFeatures(m_settings, ignoredErrors, cameraNodeMap);
-        }
-        const QString difference = firstDifference(wanted, settingLines(readSettings()));
-        if (difference.isEmpty())
-            return QStringLiteral("; the camera's settings are as they were");
-        problem = QStringLiteral("%1 is not what it was").arg(difference);
-    } catch (const std::exception& error) {
-        problem = QString::fromUtf8(error.what());
+    constexpr std::chrono::milliseconds pause(100);
+    const auto end = std::chrono::steady_clock::now() + m_longestAbsence;
+    const auto isWaitedFor = [&] {
+        return !m_camera->isOpen() && !Interruption::isRequested() &&
+               std::chrono::steady_clock::now() < end;
+    };
+    QString problem = tryToRestore();
+    if (!problem.isEmpty() && isWaitedFor())
+        tell(QStringLiteral("Waiting for the camera, to restore its settings"));
+    while (!problem.isEmpty() && isWaitedFor()) {
+        std::this_thread::sleep_for(pause);
+        problem = tryToRestore();
     }
+    if (problem.isEmpty())
+        return QStringLiteral("; the camera's settings are as they were");
     return QStringLiteral(
                "; THE CAMERA'S SETTINGS COULD NOT BE RESTORED (%1): load a user set or a "
                "settings file before the camera is used")
         .arg(problem);
+}
+
+/// \return  what has kept it from that; empty if all is as it was
+QString SettingsGuard::tryToRestore()
+{
+    try {
+        if (!m_camera->open())
+            return QStringLiteral("the connection is lost");
+        const QStringList wanted = settingLines(m_settings);
+        if (settingLines(readSettings()) != wanted) {
+            QString ignoredErrors;
+            requireParameters(m_camera)->loadFeatures(m_settings, ignoredErrors, cameraNodeMap);
+        }
+        const QString difference = firstDifference(wanted, settingLines(readSettings()));
+        return difference.isEmpty() ? QString()
+                                    : QStringLiteral("%1 is not what it was").arg(difference);
+    } catch (const std::exception& error) {
+        return QString::fromUtf8(error.what());
+    }
 }
 
 } // namespace ColorCalibrate

@@ -5,6 +5,8 @@
 #include "fakecamera.h"
 #include "icameraservices.h"
 
+#include <functional>
+
 class FakeStatusService : public Plugin::CameraPool::ICameraStatusService
 {
 public:
@@ -25,6 +27,7 @@ class FakeControlService : public Plugin::CameraPool::ICameraControlService
 {
 public:
     bool refuses = false;
+    std::function<void()> onRefusal;
     bool throwsOnClose = false;
     int opens = 0;
     int accesses = 0;
@@ -64,8 +67,11 @@ private:
 
     Plugin::CameraPool::CameraPtr handleTo(const Plugin::CameraPool::CameraPtr& camera)
     {
-        if (refuses)
+        if (refuses) {
+            if (onRefusal)
+                onRefusal();
             return {};
+        }
         ++handles;
         return Plugin::CameraPool::CameraPtr(
             camera.data(), [this, camera](Core::CameraPoolComponents::ICamera*) { --handles; });

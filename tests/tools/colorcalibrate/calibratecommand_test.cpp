@@ -5,6 +5,7 @@
 #include "command.h"
 #include "commandtest.h"
 #include "emulatedcamera.h"
+#include "saving.h"
 #include "settingsguard.h"
 
 #include <QColor>
@@ -17,6 +18,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <chrono>
 #include <new>
 #include <ostream>
 
@@ -415,7 +417,7 @@ TEST_F(FaultyCamera, IsOpenedByTheSequenceOrSaysWhyNot)
 TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)
 {
     m_camera->close();
-    SettingsGuard guard(m_camera);
+    SettingsGuard guard(m_camera, std::chrono::milliseconds(0));
     EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were")));
     const auto gamma = m_camera->parameterCollection()->floatParameter(QStringLiteral("Gamma"));
     const double before = gamma->value();
@@ -427,6 +429,26 @@ TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)
     const QString remark = guard.restore();
     EXPECT_TRUE(remark.contains(QLatin1String("COULD NOT BE RESTORED"))) << remark.toStdString();
     EXPECT_TRUE(remark.contains(QLatin1String("Gamma"))) << remark.toStdString();
+    m_camera->refuseWrites(QStringLiteral("Gamma"), -1);
     m_camera->loseConnection();
-    EXPECT_TRUE(guard.restore().contains(QLatin1String("COULD NOT BE RESTORED")));
+    EXPECT_TRUE(guard.restore().contains(QLatin1String("(the connection is lost)")));
+    m_camera->reconnect();
+    EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were")));
+    EXPECT_EQ(m_camera->parameterCollection()->floatParameter(QStringLiteral("Gamma"))->value(),
+              before);
+}
+
+TEST_F(FaultyCamera, HasNoUserSetsWhereItIsAway)
+{
+    m_camera->loseConnection();
+    SavingOptions saving;
+    saving.userSet = QStringLiteral("UserSet1");
+    try {
+        resolveUserSet(m_camera, saving);
+        ADD_FAILURE();
+    } catch (const CommandError& error) {
+        EXPECT_EQ(std::string(error.what()), "the camera \"" +
+                                                 m_camera->displayName().toStdString() +
+                                                 "\" has been disconnected");
+    }
 }

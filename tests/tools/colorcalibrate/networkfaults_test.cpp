@@ -6,14 +6,21 @@
 #include "genicamcamera.h"
 #include "neededfeatures.h"
 #include "networkcameras.h"
+#include "pseudoterminal.h"
+#include "registerstore.h"
+#include "terminalprogram.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QProcess>
 #include <QSet>
 
+#include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <csignal>
+#include <mutex>
+#include <utility>
 #include <vector>
 
 using namespace ColorCalibrate;
@@ -44,6 +51,52 @@ std::string featureName(const testing::TestParamInfo<Missing>& info)
 /// Cameras without one of the features that the calibrator cannot do without.
 class IncompleteCameras : public NetworkCameras, public testing::WithParamInterface<Missing>
 {};
+
+std::uint64_t addressOf(const Cameras::Emulation::RegisterStore& store, const QString& feature)
+{
+    return store.layout().address(store.table()->indexOf(feature));
+}
+
+/// A served camera that answers nothing any more once one register is read, until it is let go.
+class SilentAt final : public Cameras::Emulation::IServedDevice
+{
+public:
+    SilentAt(std::shared_ptr<IServedDevice> device, std::uint64_t address)
+        : m_device(std::move(device))
+        , m_address(address)
+    {}
+
+    void letGo()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isLetGo = true;
+        m_changed.notify_all();
+    }
+
+    Cameras::Emulation::ServedIdentity identity() const override { return m_device->identity(); }
+    std::string description() const override { return m_device->description(); }
+    void setReceiver(Receiver receiver) override { m_device->setReceiver(std::move(receiver)); }
+    void stopAcquisition() override { m_device->stopAcquisition(); }
+    void read(std::uint64_t address, void* data, std::size_t size) override
+    {
+        if (address == m_address) {
+            std::unique_lock lock(m_mutex);
+            m_changed.wait(lock, [this] { return m_isLetGo; });
+        }
+        m_device->read(address, data, size);
+    }
+    void write(std::uint64_t address, const void* data, std::size_t size) override
+    {
+        m_device->write(address, data, size);
+    }
+
+private:
+    const std::shared_ptr<IServedDevice> m_device;
+    const std::uint64_t m_address;
+    std::mutex m_mutex; // guards all below
+    std::condition_variable m_changed;
+    bool m_isLetGo = false;
+};
 
 } // namespace
 
@@ -123,6 +176,61 @@ TEST_F(NetworkCameras, AreGivenBackWhereImagesStopComingThrough)
                   {QStringLiteral("the camera delivered no image at the step \""),
                    QStringLiteral("; the camera's settings are as they were")});
     EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+// As where the computer has slept: they answer all the time, but obey nobody.
+TEST_F(NetworkCameras, AreGivenBackWhereTheyHaveForgottenWhoControlsThem)
+{
+    setExposure(20000.0);
+    const QString before = settings();
+    const auto format =
+        m_served->parameterCollection()->enumerationParameter(QStringLiteral("PixelFormat"));
+    std::atomic<bool> isForgotten = false;
+    QObject::connect(m_served.data(), &EmulatedCamera::cameraImageGrabbed, [&] {
+        if (format->value().startsWith(QLatin1String("Mono")) && !isForgotten.exchange(true))
+            m_server->forgetController();
+    });
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    expectFailure(outcome, 1, {QStringLiteral("; the camera's settings are as they were")});
+    EXPECT_TRUE(isForgotten);
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+TEST_F(NetworkCameras, AreGivenBackWhereTheyComeBack)
+{
+    setExposure(20000.0);
+    const QString before = settings();
+    Terminal terminal;
+    QProcess program;
+    program.setStandardErrorFile(terminal.name());
+    startProgram(program, folder.path(), atAddress("calibrate"));
+    ASSERT_NO_FATAL_FAILURE(waitForLine(program, terminal, "Adjusting brightness"));
+    ASSERT_NE(settings().toStdString(), before.toStdString());
+    vanish();
+    ASSERT_NO_FATAL_FAILURE(
+        waitForLine(program, terminal, "Waiting for the camera, to restore its settings"));
+    serve();
+    ASSERT_TRUE(program.waitForFinished(60000));
+    EXPECT_EQ(program.exitCode(), 1);
+    const QByteArray text = terminal.text();
+    EXPECT_TRUE(text.endsWith("\ncolorcalibrate: emA1920-60ucEMU (90010002): the camera has been "
+                              "disconnected; the camera's settings are as they were\n"))
+        << text.constData();
+    EXPECT_EQ(settings().toStdString(), before.toStdString());
+}
+
+TEST_F(NetworkCameras, AreNotTakenForUnsupportedOnesWhereTheyVanishEarly)
+{
+    m_server.reset();
+    const auto silent = std::make_shared<SilentAt>(
+        Cameras::Emulation::serveEmulation(m_served),
+        addressOf(*m_served->registers(), QStringLiteral("DeviceColorPipelineVersion")));
+    m_server = std::make_unique<Cameras::Emulation::GigeServer>(silent, m_address.toStdString());
+    const Outcome outcome = runTool(atAddress("calibrate"));
+    silent->letGo();
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_EQ(outcome.err, "colorcalibrate: the camera \"emA1920-60ucEMU (90010002)\" has been "
+                           "disconnected\n");
 }
 
 TEST_F(NetworkCameras, AreGivenBackWhereNoImageComesThrough)

@@ -87,9 +87,14 @@ bool NodeMapPrivate::isConnected() const
     return !m_isClosing || m_last.load() == std::this_thread::get_id();
 }
 
+bool NodeMapPrivate::isReachable() const
+{
+    return isConnected() && isPortConnected(m_device);
+}
+
 void NodeMapPrivate::requireConnection() const
 {
-    if (!isConnected() || !isPortConnected(m_device))
+    if (!isReachable())
         throw ::GenICam::RuntimeException(
             Texts::tr("The connection to the camera is lost.").toStdString());
 }

@@ -21,7 +21,7 @@ typedef struct _ArvGc ArvGc;
 namespace Cameras::GenICam {
 
 /// A device and the nodes of its description. All members need the mutex, but for mutex, gc,
-/// camera, isConnected, setClosing, changes' own exceptions and commandTimeout.
+/// camera, isConnected, isLast, setClosing, changes' own exceptions and commandTimeout.
 class NodeMapPrivate
 {
 public:
@@ -44,6 +44,12 @@ public:
 
     /// Whether this thread may still use the device.
     bool isConnected() const;
+
+    /// Whether this thread may still use the device, and the device is there.
+    bool isReachable() const;
+
+    /// Whether this thread's accesses are the last ones to a device that is being given up.
+    bool isLast() const { return m_isClosing && isConnected(); }
 
     /// From now on one thread alone may use the device.
     /// \param last  none, if it is default-constructed

@@ -4,6 +4,8 @@
 
 #include "cameraservices.h"
 
+#include <utility>
+
 namespace Cameras {
 
 CameraPool::CameraPool(const QList<HostCameraPtr>& cameras)
@@ -51,6 +53,11 @@ void CameraPool::remove(const HostCameraPtr& camera)
 Plugin::CameraPool::ICameraStatusService& CameraPool::statusService() const
 {
     return *m_status;
+}
+
+void CameraPool::setAnnouncer(CameraStatusService::Announcer announcer)
+{
+    m_status->setAnnouncer(std::move(announcer));
 }
 
 void CameraPool::registerServices(Core::Service::CServiceRegistry& registry)

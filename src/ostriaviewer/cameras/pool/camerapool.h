@@ -13,6 +13,7 @@
 #include <QObject>
 #include <QSharedPointer>
 
+#include <functional>
 #include <memory>
 
 namespace Cameras {
@@ -51,6 +52,12 @@ public:
     /// Opens a camera for the host itself, and tells of it.
     /// \return  false on failure; the camera's last error text says why
     bool open(const HostCameraPtr& camera);
+
+    /// Who tells of an opened camera, by calling the function that it gets, on the GUI thread: so
+    /// that what others ask the camera then can be kept short. Calls it at once if there is none.
+    void setAnnouncer(
+        std::function<void(const HostCameraPtr& camera, const std::function<void()>& announce)>
+            announcer);
 
     Plugin::CameraPool::ICameraStatusService& statusService() const;
 

@@ -25,7 +25,8 @@ HostCameraPtr hostCamera(const CameraInfoPtr& camera)
 }
 
 CameraStatusService::CameraStatusService(const QSharedPointer<Recordings>& recordings)
-    : m_recordings(recordings)
+    : m_announcer([](const HostCameraPtr& /*camera*/, const auto& announce) { announce(); })
+    , m_recordings(recordings)
 {}
 
 // The camera is held weakly: a service may outlive it, and must not keep it.
@@ -57,7 +58,8 @@ bool CameraStatusService::isAcquiringOrRecording(const CameraInfoPtr& camera) co
 
 void CameraStatusService::announceOpened(const HostCameraPtr& camera)
 {
-    QMetaObject::invokeMethod(this, [this, camera] { emit deviceOpened(camera); });
+    QMetaObject::invokeMethod(
+        this, [this, camera] { m_announcer(camera, [&] { emit deviceOpened(camera); }); });
 }
 
 CameraEnumerationService::CameraEnumerationService(std::shared_ptr<CameraRoster> roster)

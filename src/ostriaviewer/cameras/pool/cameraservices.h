@@ -10,7 +10,9 @@
 
 #include <QList>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace Cameras {
 
@@ -38,7 +40,13 @@ public:
     /// Lets deviceOpened be emitted in the service's thread: at once if this is it. Thread-safe.
     void announceOpened(const HostCameraPtr& camera);
 
+    /// See CameraPool::setAnnouncer.
+    using Announcer =
+        std::function<void(const HostCameraPtr& camera, const std::function<void()>& announce)>;
+    void setAnnouncer(Announcer announcer) { m_announcer = std::move(announcer); }
+
 private:
+    Announcer m_announcer; // of the service's thread
     const QSharedPointer<Recordings> m_recordings;
 };
 

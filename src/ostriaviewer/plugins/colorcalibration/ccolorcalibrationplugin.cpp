@@ -185,6 +185,8 @@ void CColorCalibrationPlugin::createModels()
 
 bool CColorCalibrationPlugin::openCamera(const CameraInfoPtr& camera)
 {
+    // What is left of an earlier failure is not why this one happens.
+    camera->clearLastError();
     if (m_model->Open(camera.dynamicCast<ICamera>()))
         return true;
     QString reason = camera->lastErrorText();

@@ -51,7 +51,7 @@ protected:
 
     bool isLossTold()
     {
-        return waitUntil([this] { return hasMessage("The connection to"); });
+        return waitUntil([this] { return hasMessage("Reconnect the camera"); });
     }
 
     QTreeView* m_tree = nullptr;

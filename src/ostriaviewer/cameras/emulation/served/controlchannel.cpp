@@ -65,6 +65,15 @@ Bytes ControlChannel::handle(const Bytes& datagram, const UdpAddress& client)
     return request->wantsAnswer ? answer : Bytes();
 }
 
+bool ControlChannel::isRelease(const Bytes& datagram)
+{
+    const auto request = Gvcp::parse(datagram.data(), datagram.size());
+    return request && request->command == static_cast<std::uint16_t>(Command::WriteRegister) &&
+           request->payload.size() >= 8 &&
+           number32(request->payload, 0) == BootstrapMemory::controlPrivilege &&
+           (number32(request->payload, 4) & controlBits) == 0;
+}
+
 const ControlChannel::Answered* ControlChannel::findAnswered(const Gvcp::Request& request,
                                                              const UdpAddress& client) const
 {

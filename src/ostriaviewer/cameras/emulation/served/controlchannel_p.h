@@ -22,6 +22,9 @@ public:
     /// \return  what is to be sent back; empty if nothing is
     Gvcp::Bytes handle(const Gvcp::Bytes& datagram, const UdpAddress& client);
 
+    /// Whether a client gives the control back by that.
+    static bool isRelease(const Gvcp::Bytes& datagram);
+
     /// Takes the control away from a client that is not heard of any more.
     void checkHeartbeat();
 

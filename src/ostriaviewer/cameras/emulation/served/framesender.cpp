@@ -114,16 +114,16 @@ void FrameSender::transmit(const Bytes& packet)
         m_socket->send(packet, {m_target.address, m_target.port});
 }
 
-/// Packets of the last frame.
-void FrameSender::transmitPackets(std::unique_lock<std::mutex>& lock, std::uint32_t first,
-                                  std::uint32_t end)
+/// The last frame, with its packets' distance.
+void FrameSender::transmitAll(std::unique_lock<std::mutex>& lock)
 {
     const std::uint16_t frame = m_last.id;
+    const std::uint32_t end = packetCount(m_last);
     const std::uint64_t target = m_targets;
     const auto isElsewhere = [&] {
         return m_targets != target || m_last.id != frame;
     };
-    for (std::uint32_t index = first; index < end && !isElsewhere(); ++index) {
+    for (std::uint32_t index = 0; index < end && !isElsewhere(); ++index) {
         transmit(packet(m_last, index));
         if (m_target.packetDelay.count() > 0)
             m_isElsewhere.wait_for(lock, m_target.packetDelay, isElsewhere);
@@ -139,16 +139,18 @@ void FrameSender::send(const Ostria::CGrabResultPtr& frame)
     if (!frame->GrabSucceeded() || m_target.port == 0)
         return;
     m_last = {id, frame->image()};
-    transmitPackets(lock, 0, packetCount(m_last));
+    transmitAll(lock);
 }
 
 void FrameSender::sendAgain(std::uint16_t frameId, std::uint32_t firstPacket,
                             std::uint32_t lastPacket)
 {
-    std::unique_lock lock(m_mutex);
+    const std::lock_guard lock(m_mutex);
     if (frameId != m_last.id || !m_last.image.isValid() || m_target.port == 0)
         return;
-    transmitPackets(lock, firstPacket, std::min(lastPacket, packetCount(m_last) - 1) + 1);
+    const std::uint32_t end = std::min(lastPacket, packetCount(m_last) - 1) + 1;
+    for (std::uint32_t index = firstPacket; index < end; ++index)
+        transmit(packet(m_last, index));
 }
 
 void FrameSender::sendTestPacket()

@@ -37,7 +37,8 @@ public:
     /// Sends a frame; a failed one becomes a number that is left out.
     void send(const Ostria::CGrabResultPtr& frame);
 
-    /// Sends packets of the last frame again, if it still is this one.
+    /// Sends packets of the last frame again, if it still is this one. Does not wait between them:
+    /// whoever asks for them is the one who answers requests.
     void sendAgain(std::uint16_t frameId, std::uint32_t firstPacket, std::uint32_t lastPacket);
 
     /// A packet by which a client finds out what size gets through.
@@ -58,8 +59,7 @@ private:
     Gvcp::Bytes packet(const SentFrame& frame, std::uint32_t index) const;
     Gvcp::Bytes leader(const SentFrame& frame) const;
     void transmit(const Gvcp::Bytes& packet);
-    void transmitPackets(std::unique_lock<std::mutex>& lock, std::uint32_t first,
-                         std::uint32_t end);
+    void transmitAll(std::unique_lock<std::mutex>& lock);
 
     const std::shared_ptr<UdpSocket> m_socket;
 

@@ -78,6 +78,7 @@ public:
 
     FrameSender& sender() { return *m_sender; }
     void loseControlPackets(double share) { m_controlLoss = share; }
+    void loseReleases(int count) { m_releasesToLose = count; }
     void forgetController() { m_isToForget = true; }
 
 private:
@@ -87,7 +88,7 @@ private:
             const auto datagram = m_socket->receive(pollTime);
             if (m_isToForget.exchange(false))
                 m_channel.forgetController();
-            if (datagram && !isLost()) {
+            if (datagram && !isLost() && !isLostRelease(datagram->bytes)) {
                 const Gvcp::Bytes answer = m_channel.handle(datagram->bytes, datagram->sender);
                 if (!answer.empty() && !isLost())
                     m_socket->send(answer, datagram->sender);
@@ -99,6 +100,13 @@ private:
     bool isLost()
     {
         return std::uniform_real_distribution<double>(0.0, 1.0)(m_chance) < m_controlLoss;
+    }
+
+    bool isLostRelease(const Gvcp::Bytes& datagram)
+    {
+        const bool isLost = m_releasesToLose > 0 && ControlChannel::isRelease(datagram);
+        m_releasesToLose -= isLost ? 1 : 0;
+        return isLost;
     }
 
     void answerDiscoveries()
@@ -123,6 +131,7 @@ private:
     std::atomic<bool> m_isEnding = false;
     std::atomic<double> m_controlLoss = 0.0;
     std::atomic<bool> m_isToForget = false;
+    std::atomic<int> m_releasesToLose = 0;
     std::minstd_rand m_chance; // of the thread that answers requests
     std::thread m_control;
     std::thread m_discovery;
@@ -137,6 +146,11 @@ GigeServer::~GigeServer() = default;
 void GigeServer::loseControlPackets(double share)
 {
     m_worker->loseControlPackets(share);
+}
+
+void GigeServer::loseReleases(int count)
+{
+    m_worker->loseReleases(count);
 }
 
 void GigeServer::forgetController()

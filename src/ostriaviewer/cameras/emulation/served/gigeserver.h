@@ -30,6 +30,9 @@ public:
     /// Lets that share of the requests vanish, and of the answers to the others, from 0 to 1.
     void loseControlPackets(double share);
 
+    /// Lets that many of the next requests vanish by which a client gives the control back.
+    void loseReleases(int count);
+
     /// Behaves from the next request on as if the client that has control had not been heard for
     /// too long.
     void forgetController();

@@ -46,7 +46,7 @@ FrameStream* Acquisition::stream() const
 }
 
 // What the camera goes on sending until it is told is nobody's loss.
-void Acquisition::silence()
+bool Acquisition::silence()
 {
     bool isFirst = false;
     {
@@ -55,13 +55,14 @@ void Acquisition::silence()
     }
     FrameStream* const silenced = stream();
     if (!silenced)
-        return;
+        return isFirst;
     silenced->stop();
     if (!isFirst)
-        return;
+        return false;
     const StreamStatistics last = silenced->statistics();
     const std::lock_guard lock(m_mutex);
     m_last = last;
+    return true;
 }
 
 bool Acquisition::isGrabbing() const

@@ -23,6 +23,9 @@ public:
                 Core::ParameterCollection::ParameterCollectionPtr parameters,
                 std::optional<std::chrono::milliseconds> timeout);
 
+    /// Takes over what another one, which has finished, could not put back. Before begin.
+    void replace(Acquisition& previous) { m_features->replace(*previous.m_features); }
+
     /// Prepares camera and stream, and lets the camera send. Does nothing more once it is silenced;
     /// finish has to follow in any case.
     /// \throws ::GenICam::RuntimeException  the camera refuses, or does not answer
@@ -30,7 +33,8 @@ public:
 
     /// When it returns, no delivery begins any more; for those that have begun see
     /// FrameStream::stop.
-    void silence();
+    /// \return  whether images were still wanted
+    bool silence();
 
     /// Lets the camera end, and puts back what begin has changed.
     void finish() noexcept { m_features->stop(); }

@@ -74,8 +74,9 @@ void AcquisitionFeatures::setMode(bool single)
     const QString present = mode->value();
     if (present == wanted)
         return;
-    // A write that fails may have been done.
-    m_previousMode = present;
+    // A write that fails may have been done. The mode from before an earlier acquisition counts.
+    if (m_owed.mode.isEmpty())
+        m_owed.mode = present;
     mode->setValue(wanted);
 }
 
@@ -94,7 +95,9 @@ std::size_t AcquisitionFeatures::payloadSize() const
 void AcquisitionFeatures::start()
 {
     const std::lock_guard lock(m_mutex);
-    m_isStarted = true;
+    m_isRunning = true;
+    m_owed.stop = true;
+    m_owed.unlocking = true;
     lockFeatures(true);
     execute("AcquisitionStart");
 }
@@ -106,56 +109,73 @@ void AcquisitionFeatures::execute(const char* command)
     startCommand(Feature::find(m_nodeMap->d(), QString::fromLatin1(command)));
 }
 
-// This node tells the description that images come; some cameras set it themselves.
+// This node tells the description that images come; some cameras set it themselves. One that cannot
+// be asked has no writable features either.
 void AcquisitionFeatures::lockFeatures(bool locked)
 {
     const auto node = m_parameters->integerParameter(QStringLiteral("TLParamsLocked"));
+    if (node->isEmpty())
+        return;
     if (node->isWritable())
-        node->setValue(locked ? 1 : 0, false);
+        return node->setValue(locked ? 1 : 0, false);
+    const ReadLock lock(m_nodeMap->d());
+    m_nodeMap->d().requireConnection();
 }
 
 void AcquisitionFeatures::restoreMode()
 {
-    if (m_previousMode.isEmpty())
-        return;
     const auto mode = m_parameters->enumerationParameter(modeName());
-    if (mode->value() != m_previousMode)
-        mode->setValue(m_previousMode);
-    m_previousMode.clear();
+    if (mode->value() != m_owed.mode)
+        mode->setValue(m_owed.mode);
+    m_owed.mode.clear();
 }
 
+// Under the lock of the node map. The result says whether the camera has answered; what it could
+// not be asked for is tried again, or told of by the last accesses.
 template <class Step>
-void AcquisitionFeatures::tryStep(const QString& what, const Step& step) noexcept
+bool AcquisitionFeatures::tryStep(const QString& what, const Step& step) noexcept
 {
     try {
         step();
+        return true;
     } catch (const std::exception& error) {
+        const bool hasAnswered = m_nodeMap->d().isReachable();
+        if (!hasAnswered && !m_nodeMap->d().isLast())
+            return false;
         Core::Logging::createLogEntry(
             Core::Logging::Warning, Core::Logging::getCatId(QStringLiteral("Cameras")),
             Texts::tr("%1: %2 (%3)")
                 .arg(m_nodeMap->d().camera(), what,
                      Core::withoutFullStop(QString::fromUtf8(error.what()))));
+        return hasAnswered;
     }
 }
 
 QString AcquisitionFeatures::owedMode() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_previousMode;
+    return m_owed.mode;
 }
 
 void AcquisitionFeatures::takeOver(const AcquisitionFeatures& lost)
 {
     const std::scoped_lock lock(m_mutex, lost.m_mutex);
-    m_isStarted = lost.m_isStarted;
-    m_previousMode = lost.m_previousMode;
+    m_owed = lost.m_owed;
+}
+
+void AcquisitionFeatures::replace(AcquisitionFeatures& previous)
+{
+    const std::scoped_lock lock(m_mutex, previous.m_mutex);
+    m_owed = std::exchange(previous.m_owed, {});
 }
 
 void AcquisitionFeatures::startAgain() noexcept
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_isStarted || !m_nodeMap->isConnected())
+    if (!m_isRunning || !m_nodeMap->isConnected())
         return;
+    const Patience asLongAsItTakes(std::nullopt);
+    const WriteLock together(m_nodeMap->d());
     tryStep(Texts::tr("The camera could not be asked for another image."), [this] {
         execute("AcquisitionStop");
         execute("AcquisitionStart");
@@ -166,16 +186,19 @@ void AcquisitionFeatures::startAgain() noexcept
 void AcquisitionFeatures::stop() noexcept
 {
     const std::lock_guard lock(m_mutex);
-    if (!m_nodeMap->isConnected() || (!m_isStarted && m_previousMode.isEmpty()))
+    m_isRunning = false;
+    if (!m_nodeMap->isConnected() || m_owed.isNothing())
         return;
     const Patience asLongAsItTakes(std::nullopt);
     const WriteLock together(m_nodeMap->d());
-    if (std::exchange(m_isStarted, false)) {
-        tryStep(Texts::tr("The camera could not be stopped."),
-                [this] { execute("AcquisitionStop"); });
-        tryStep(Texts::tr("The camera's features stay locked."), [this] { lockFeatures(false); });
-    }
-    tryStep(notPutBack(m_previousMode), [this] { restoreMode(); });
+    if (m_owed.stop)
+        m_owed.stop = !tryStep(Texts::tr("The camera could not be stopped."),
+                               [this] { execute("AcquisitionStop"); });
+    if (m_owed.unlocking)
+        m_owed.unlocking = !tryStep(Texts::tr("The camera's features stay locked."),
+                                    [this] { lockFeatures(false); });
+    if (!m_owed.mode.isEmpty())
+        tryStep(notPutBack(m_owed.mode), [this] { restoreMode(); });
 }
 
 } // namespace Cameras::GenICam

@@ -43,8 +43,8 @@ public:
     void startAgain() noexcept;
 
     /// Ends sending, and puts everything back as it was before prepare. What the camera refuses
-    /// goes to the log; a mode that it refused is tried again by the next call, else that does
-    /// nothing.
+    /// goes to the log. A mode that it refused is tried again by the next call, as is all that it
+    /// could not be asked for, which goes to the log in the last accesses of the node map alone.
     void stop() noexcept;
 
     /// The mode that a lost camera was in before prepare, and has not got back; empty if there is
@@ -58,20 +58,34 @@ public:
     /// \param lost  of another node map of the same camera
     void takeOver(const AcquisitionFeatures& lost);
 
+    /// Takes over, before prepare, what the acquisition before this one has not put back, which
+    /// owes nothing any more then.
+    void replace(AcquisitionFeatures& previous);
+
 private:
+    /// What the camera is to get back.
+    struct Owed
+    {
+        bool stop = false;
+        bool unlocking = false;
+        QString mode; ///< empty: none
+
+        bool isNothing() const { return !stop && !unlocking && mode.isEmpty(); }
+    };
+
     void execute(const char* command);
     void lockFeatures(bool locked);
     void setMode(bool single);
     void restoreMode();
     template <class Step>
-    void tryStep(const QString& what, const Step& step) noexcept;
+    bool tryStep(const QString& what, const Step& step) noexcept;
 
     const std::shared_ptr<NodeMap> m_nodeMap;
     const Core::ParameterCollection::ParameterCollectionPtr m_parameters;
 
     mutable std::mutex m_mutex; // guards all below
-    bool m_isStarted = false;
-    QString m_previousMode; // empty: it is not to be put back
+    bool m_isRunning = false;
+    Owed m_owed;
 };
 
 } // namespace Cameras::GenICam

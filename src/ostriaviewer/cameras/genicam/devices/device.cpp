@@ -22,7 +22,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <future>
 #include <utility>
 #include <vector>
 
@@ -149,6 +148,8 @@ Device::Device(ArvDevice* device, QString id)
     : m_device(device)
     , m_id(std::move(id))
     , m_accesses(std::make_shared<AccessQueue>())
+    , m_released(std::make_shared<std::promise<void>>())
+    , m_whenReleased(m_released->get_future())
 {}
 
 // Who notices the loss does so on threads of their own, which may be about to when we go.
@@ -169,11 +170,11 @@ void Device::watch()
 Device::~Device()
 {
     constexpr std::chrono::milliseconds longestWait(500);
-    const auto released = std::make_shared<std::promise<void>>();
     if (m_watch)
         m_watch->end();
     m_accesses->abandon();
-    runAside([device = m_device, id = m_id, watch = m_watch, accesses = m_accesses, released] {
+    runAside([device = m_device, id = m_id, watch = m_watch, accesses = m_accesses,
+              released = m_released] {
         const QString noFeature;
         const LibraryScope scope(id, noFeature, LibraryTask::Transfer);
         if (watch)
@@ -183,7 +184,7 @@ Device::~Device()
         released->set_value();
     });
     if (!isLost())
-        released->get_future().wait_for(longestWait);
+        m_whenReleased.wait_for(longestWait);
 }
 
 void Device::onControlLost(ArvDevice* /*device*/, const std::weak_ptr<Device>* weak)

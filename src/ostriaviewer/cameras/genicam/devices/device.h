@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -34,8 +35,13 @@ public:
     /// \throws ::GenICam::RuntimeException  it does not answer, or another program controls it
     static std::shared_ptr<Device> open(const QString& id, const TransportSettings& settings = {});
 
-    /// Gives the control back. Does not wait for a camera that has gone.
+    /// Gives the control back. Waits half a second for that, and not at all for a camera that has
+    /// gone.
     ~Device() override;
+
+    /// Becomes ready some time after the end of the device: when the control has been given back,
+    /// or the camera has not answered.
+    std::shared_future<void> released() const { return m_whenReleased; }
 
     /// The camera's own GenICam description.
     /// \throws ::GenICam::RuntimeException  it has none that can be read
@@ -75,6 +81,8 @@ private:
     const QString m_id;
     std::shared_ptr<DeviceWatch> m_watch; // null if it could not be made
     const std::shared_ptr<AccessQueue> m_accesses;
+    const std::shared_ptr<std::promise<void>> m_released;
+    const std::shared_future<void> m_whenReleased;
     mutable std::mutex m_lostMutex; // guards all below; taken before the accesses' own
     std::function<void()> m_lostHandler;
     bool m_isLost = false;

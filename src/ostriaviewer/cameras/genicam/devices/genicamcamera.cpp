@@ -17,7 +17,6 @@
 #include <QThread>
 
 #include <algorithm>
-#include <atomic>
 #include <exception>
 #include <utility>
 
@@ -215,6 +214,7 @@ void GenicamCamera::carryOut(Opening& opening)
     if (opened) {
         opened->device->setLostHandler({});
         opened->nodeMap->disconnect();
+        giveBack(std::move(opened));
     }
 }
 
@@ -309,16 +309,31 @@ void GenicamCamera::close()
     if (running)
         running->silence();
     const QString name = displayName();
-    const auto step = m_steps.add([closed = std::move(closed), running = std::move(running), name] {
-        closed->nodeMap->disconnect([&running] {
+    const auto step =
+        m_steps.add([closed = std::move(closed), running = std::move(running), name]() mutable {
+            closed->nodeMap->disconnect([&running] {
+                if (running)
+                    running->finish();
+            });
             if (running)
-                running->finish();
+                reportLosses(*running, name);
+            running.reset();
+            giveBack(std::move(closed));
         });
-        if (running)
-            reportLosses(*running, name);
-    });
     m_steps.wait(step, isDelivering ? noPatience : stepPatience());
     emit stateChanged();
+}
+
+// Whoever opens it next is not to be refused because this program still has it. On a bad line the
+// camera has to be told several times. A delivery that has begun may keep the device for longer.
+void GenicamCamera::giveBack(std::shared_ptr<Connection> closed)
+{
+    const std::weak_ptr<Device> device = closed->device;
+    const auto released = closed->device->released();
+    const bool isLost = closed->device->isLost();
+    closed.reset();
+    if (!isLost && device.expired())
+        released.wait();
 }
 
 void GenicamCamera::lose(const Device* device)
@@ -334,6 +349,7 @@ void GenicamCamera::lose(const Device* device)
         if (running)
             m_unfinished = running->features();
     }
+    lost->nodeMap->refuseAccesses();
     if (running)
         running->silence();
     emit stateChanged();
@@ -411,7 +427,11 @@ struct GenicamCamera::Beginning
     std::shared_ptr<Connection> connection;
     std::shared_ptr<Acquisition> previous; ///< perhaps null
     std::shared_ptr<Acquisition> begun;
-    std::atomic<bool> hasFailed = false;
+
+    // Of the step, until that is done.
+    bool hasFailed = false;
+    bool isMissed = false; ///< it has failed, and images were still wanted
+    QString error;
 };
 
 // Whoever does not wait until the camera has answered is told that images will come; if they do
@@ -436,14 +456,16 @@ bool GenicamCamera::begin(std::optional<std::chrono::milliseconds> timeout)
         beginning->previous->silence();
     const auto step = m_steps.add([self = strongSelf(), beginning] { self->carryOut(*beginning); });
     const bool isDone = m_steps.wait(step, isDelivering ? noPatience : stepPatience());
-    if (isDone && beginning->hasFailed)
+    if (isDone && beginning->hasFailed) {
+        setLastError(beginning->error);
         return false;
+    }
     if (!isSingle)
         emit stateChanged();
     if (!isDone)
         StepQueue::whenDone(step, [self = strongSelf(), beginning, isSingle] {
-            if (beginning->hasFailed)
-                log(tr("%1: %2").arg(self->displayName(), self->lastErrorText()));
+            if (beginning->isMissed)
+                log(tr("%1: %2").arg(self->displayName(), beginning->error));
             if (beginning->hasFailed && !isSingle)
                 emit self->stateChanged();
         });
@@ -455,6 +477,7 @@ void GenicamCamera::carryOut(Beginning& beginning)
     const auto opened = std::exchange(beginning.connection, {});
     if (const auto previous = std::exchange(beginning.previous, {})) {
         previous->finish();
+        beginning.begun->replace(*previous);
         reportLosses(*previous, displayName());
     }
     const QWeakPointer<HostCamera> weak = sharedFromThis();
@@ -464,9 +487,9 @@ void GenicamCamera::carryOut(Beginning& beginning)
                 receiver->deliver(result);
         });
     } catch (const std::exception& error) {
-        beginning.begun->silence();
+        beginning.isMissed = beginning.begun->silence();
         beginning.begun->finish();
-        setLastError(QString::fromUtf8(error.what()));
+        beginning.error = QString::fromUtf8(error.what());
         beginning.hasFailed = true;
     }
 }

@@ -97,6 +97,7 @@ private:
     bool begin(std::optional<std::chrono::milliseconds> timeout);
     void lose(const Device* device);
     static void reportLosses(Acquisition& ended, const QString& name);
+    static void giveBack(std::shared_ptr<Connection> closed);
 
     // Steps, on their thread.
     void carryOut(Opening& opening);

@@ -9,6 +9,9 @@ namespace Cameras::GenICam {
 /// How cameras are found, and how their images come. A plain value; reentrant.
 struct TransportSettings
 {
+    static constexpr int smallestPacket = 576; ///< bytes
+    static constexpr int largestPacket = 16384;
+
     int packetSize = 0;      ///< bytes of a GigE Vision packet; 0: as large as the way allows
     bool isSearching = true; ///< whether cameras are looked for by broadcasts
     QStringList interfaces;  ///< names of the network interfaces on which cameras are looked for;

@@ -47,3 +47,26 @@ TEST(FrameSender, GoesOnWhereItsTargetStaysTheSame)
         ++further;
     EXPECT_EQ(further, 4);
 }
+
+// Who asks for packets again waits for its other answers meanwhile.
+TEST(FrameSender, SendsAgainWithoutThePacketsDistance)
+{
+    constexpr std::uint16_t port = 40406;
+    Cameras::UdpSocket receiver({0x7f000001, port}, false);
+    FrameSender sender(
+        std::make_shared<Cameras::UdpSocket>(Cameras::UdpAddress{0x7f000001, 0}, false));
+    sender.setTarget({0x7f000001, port, 136, 0ms});
+    sender.send(std::make_shared<Ostria::CGrabResult>(
+        Ostria::COstriaImage(Ostria::PixelType::Mono8, 30, 10), 1));
+    while (receiver.receive(0ms)) {
+    }
+    sender.setTarget({0x7f000001, port, 136, 1h});
+    auto sent = std::async(std::launch::async, [&sender] { sender.sendAgain(1, 1, 3); });
+    EXPECT_EQ(sent.wait_for(60s), std::future_status::ready);
+    sender.setTarget({});
+    sent.wait();
+    int count = 0;
+    while (receiver.receive(0ms))
+        ++count;
+    EXPECT_EQ(count, 3);
+}

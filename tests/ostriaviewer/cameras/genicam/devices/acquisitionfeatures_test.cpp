@@ -8,6 +8,7 @@
 #include "nodemap.h"
 #include "parametercollection.h"
 #include "registerstore.h"
+#include "testcamera.h"
 
 #include <QTemporaryDir>
 
@@ -74,7 +75,131 @@ private:
     Core::ParameterCollection::ParameterCollectionPtr m_parameters;
 };
 
+constexpr std::uint64_t modeRegister = 0x600;
+constexpr std::uint64_t startRegister = 0x604;
+constexpr std::uint64_t stopRegister = 0x608;
+constexpr std::uint64_t lockRegister = 0x60c;
+
+std::string word(const char* name, const char* address)
+{
+    return std::string("<IntReg Name=\"") + name + "\"><Address>" + address +
+           "</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>"
+           "<Sign>Unsigned</Sign><Endianess>BigEndian</Endianess></IntReg>";
+}
+
+/// A camera that leaves the lock of its features to whoever uses it; continuous, while nobody does.
+class PlainCamera : public TestCamera
+{
+protected:
+    PlainCamera()
+    {
+        use(description());
+        port->onWrite = [this](std::uint64_t address) {
+            stops += address == stopRegister ? 1 : 0;
+            if (onStop && address == stopRegister)
+                onStop();
+        };
+    }
+
+    static std::string description()
+    {
+        return describe(R"(
+<pFeature>AcquisitionMode</pFeature><pFeature>AcquisitionStart</pFeature>
+<pFeature>AcquisitionStop</pFeature><pFeature>TLParamsLocked</pFeature>)",
+                        R"(
+<Enumeration Name="AcquisitionMode"><EnumEntry Name="Continuous"><Value>0</Value></EnumEntry>
+  <EnumEntry Name="SingleFrame"><Value>1</Value></EnumEntry><pValue>ModeReg</pValue></Enumeration>
+<Command Name="AcquisitionStart"><pValue>StartReg</pValue><CommandValue>1</CommandValue></Command>
+<Command Name="AcquisitionStop"><pValue>StopReg</pValue><CommandValue>1</CommandValue></Command>
+<Integer Name="TLParamsLocked"><pValue>LockReg</pValue></Integer>)" +
+                            word("ModeReg", "0x600") + word("StartReg", "0x604") +
+                            word("StopReg", "0x608") + word("LockReg", "0x60c"));
+    }
+
+    std::unique_ptr<AcquisitionFeatures> takingAPicture() const
+    {
+        auto acquisition = std::make_unique<AcquisitionFeatures>(map, camera);
+        acquisition->prepare(true);
+        acquisition->start();
+        EXPECT_EQ(port->word(modeRegister), 1U);
+        EXPECT_EQ(port->word(startRegister), 1U);
+        EXPECT_EQ(port->word(lockRegister), 1U);
+        return acquisition;
+    }
+
+    void expectAsBefore() const
+    {
+        EXPECT_EQ(port->word(modeRegister), 0U);
+        EXPECT_EQ(port->word(lockRegister), 0U);
+        EXPECT_EQ(stops, 1);
+    }
+
+    std::function<void()> onStop;
+    int stops = 0;
+    const LogRecorder log;
+};
+
 } // namespace
+
+TEST_F(PlainCamera, IsGivenBackByTheLastAccessesWhereItIsClosedInTheMiddleOfAStop)
+{
+    const auto acquisition = takingAPicture();
+    onStop = [this] {
+        map->refuseAccesses();
+    };
+    acquisition->stop();
+    EXPECT_EQ(port->word(lockRegister), 1U) << "nobody may use it any more";
+    map->disconnect([&] { acquisition->stop(); });
+    expectAsBefore();
+    EXPECT_TRUE(log.entries().isEmpty()) << log.entries().first().text.toStdString();
+}
+
+TEST_F(PlainCamera, IsGivenBackLaterWhereItWasLostBeforeTheStop)
+{
+    const auto acquisition = takingAPicture();
+    port->isLost = true;
+    acquisition->stop();
+    map->disconnect();
+    port->isLost = false;
+    use(description());
+    AcquisitionFeatures reopened(map, camera);
+    reopened.takeOver(*acquisition);
+    reopened.stop();
+    expectAsBefore();
+    EXPECT_TRUE(log.entries().isEmpty()) << log.entries().first().text.toStdString();
+}
+
+TEST_F(PlainCamera, IsToldOfWhereTheLastAccessesFail)
+{
+    const auto acquisition = takingAPicture();
+    port->isLost = true;
+    acquisition->stop();
+    EXPECT_TRUE(log.entries().isEmpty()) << log.entries().first().text.toStdString();
+    map->disconnect([&] { acquisition->stop(); });
+    QStringList texts;
+    for (const LogEntry& entry : log.entries())
+        texts += entry.text;
+    EXPECT_TRUE(texts.join(QLatin1Char('\n'))
+                    .contains(QStringLiteral("set AcquisitionMode to \"Continuous\"")))
+        << texts.join(QLatin1Char('\n')).toStdString();
+}
+
+// The second one finds the camera as the first one has left it.
+TEST_F(PlainCamera, IsGivenBackAsItWasBeforeTheFirstOfTwo)
+{
+    const auto first = takingAPicture();
+    port->refused = {stopRegister, modeRegister};
+    first->stop();
+    port->refused.clear();
+    AcquisitionFeatures second(map, camera);
+    second.replace(*first);
+    EXPECT_TRUE(first->owedMode().isEmpty());
+    EXPECT_EQ(second.owedMode(), QStringLiteral("Continuous"));
+    second.prepare(true);
+    second.start();
+    second.stop();
+    expectAsBefore();
+}
 
 TEST_F(AcquisitionFeaturesTest, PutBackAModeWhoseWritingSeemedToFail)
 {

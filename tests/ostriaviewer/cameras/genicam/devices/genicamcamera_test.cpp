@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstring>
+#include <future>
 
 using namespace Cameras;
 using Emulation::smallModel;
@@ -208,6 +209,20 @@ TEST_F(GenicamCameraTest, EndsWhatWasUnderWayWhenItComesBack)
     EXPECT_TRUE(log.entries().isEmpty()) << log.entries().first().text.toStdString();
 }
 
+TEST_F(GenicamCameraTest, HasNoFeaturesAnyMoreWhenItsLossIsTold)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    const auto gain = camera->parameterCollection()->floatParameter(QStringLiteral("Gain"));
+    ASSERT_TRUE(gain->isAvailable());
+    std::promise<bool> isAvailable;
+    QObject::connect(rig.client().data(), &HostCamera::cameraConnectionLost,
+                     [&] { isAvailable.set_value(gain->isAvailable()); });
+    rig.vanish();
+    EXPECT_FALSE(isAvailable.get_future().get());
+}
+
 TEST_F(GenicamCameraTest, TellsAtItsEndWhatItCouldNotPutBack)
 {
     const LogRecorder log;
@@ -272,6 +287,17 @@ TEST_F(GenicamCameraTest, OpensAndClosesManyTimes)
         camera->close();
         ASSERT_FALSE(camera->isOpen());
     }
+}
+
+// The library asks again after half a second each.
+TEST_F(GenicamCameraTest, IsNotItsOwnRivalWhereTheCameraHearsLateThatItIsGivenBack)
+{
+    NetworkRig rig(smallModel());
+    const HostCameraPtr camera = rig.camera();
+    ASSERT_TRUE(camera->open());
+    rig.server().loseReleases(2);
+    camera->close();
+    EXPECT_TRUE(camera->open()) << camera->lastErrorText().toStdString();
 }
 
 TEST_F(GenicamCameraTest, WorksWithoutFeaturesThatOthersHave)

@@ -129,6 +129,40 @@ TEST_F(SilentCamera, SaysLaterThatItCannotStart)
     EXPECT_TRUE(log.entries().constFirst().text.contains(QLatin1String("AcquisitionStart")))
         << log.entries().constFirst().text.toStdString();
     EXPECT_FALSE(camera->isGrabbing());
+    EXPECT_TRUE(camera->lastErrorText().isEmpty()) << "nobody is to take it for a later failure";
+}
+
+TEST_F(SilentCamera, IsGivenBackAsItWasBeforeAStartThatCameTooEarly)
+{
+    mode()->setValue(single);
+    FrameProbe probe(camera);
+    ASSERT_TRUE(camera->startGrabbing());
+    ASSERT_TRUE(probe.waitFor(1));
+    const LogRecorder log;
+    rig->hold();
+    camera->stopGrabbing();
+    ASSERT_TRUE(camera->startGrabbing());
+    camera->close();
+    rig->letGo();
+    EXPECT_TRUE(becomes([this] { return mode()->value() == single; }));
+    EXPECT_FALSE(rig->served().isGrabbing());
+    ASSERT_TRUE(camera->open()) << "all is done by then";
+    EXPECT_TRUE(log.entries().isEmpty()) << log.entries().first().text.toStdString();
+}
+
+TEST_F(SilentCamera, IsGivenBackAsItWasBeforeAStartThatItNeverHeardOf)
+{
+    mode()->setValue(single);
+    FrameProbe probe(camera);
+    ASSERT_TRUE(camera->startGrabbing());
+    ASSERT_TRUE(probe.waitFor(1));
+    rig->vanish();
+    camera->stopGrabbing();
+    camera->startGrabbing();
+    EXPECT_TRUE(becomes([this] { return camera->parameterCollection() == nullptr; }));
+    rig->comeBack();
+    ASSERT_TRUE(becomes([this] { return camera->open(); }));
+    EXPECT_EQ(mode()->value(), single);
 }
 
 TEST_F(SilentCamera, IsClosedAtOnceAndGivenBackAsItWasLater)

@@ -180,7 +180,9 @@ TEST_F(PluginCommandTest, ACameraThatCannotBeOpenedIsToldWithItsOwnReason)
 {
     startWith(camera("cVTX 1"));
     m_control->refuses = true;
-    m_camera->error = "Another program uses <Gain> of the camera.";
+    m_control->onRefusal = [this] {
+        m_camera->error = "Another program uses <Gain> of the camera.";
+    };
     QStringList texts;
     trigger([&](QDialog& window) {
         auto* box = qobject_cast<QMessageBox*>(&window);
@@ -196,6 +198,22 @@ TEST_F(PluginCommandTest, ACameraThatCannotBeOpenedIsToldWithItsOwnReason)
     EXPECT_TRUE(m_camera->error.isEmpty());
     m_control->refuses = false;
     EXPECT_EQ(titlesOfWizards().size(), 1) << "the next start works";
+}
+
+TEST_F(PluginCommandTest, ACameraThatSaysNothingIsNotToldWithTheReasonOfBefore)
+{
+    startWith(camera("cVTX 1"));
+    m_control->refuses = true;
+    m_camera->error = "The picture was taken too late.";
+    QString text;
+    trigger([&text](QDialog& window) {
+        auto* box = qobject_cast<QMessageBox*>(&window);
+        ASSERT_TRUE(box);
+        text = box->text();
+        box->button(QMessageBox::Ok)->click();
+    });
+    EXPECT_FALSE(text.isEmpty());
+    EXPECT_FALSE(text.contains("too late")) << qPrintable(text);
 }
 
 TEST_F(PluginCommandTest, WithoutAControlServiceNoCameraCanBeOpened)
