@@ -7,6 +7,14 @@
 namespace ColorCalibrate {
 namespace {
 
+/// The parser's words end as a sentence does.
+QString withoutFullStop(QString text)
+{
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text;
+}
+
 void requireNotEmpty(const QStringList& values, const QString& hint)
 {
     if (values.contains(QString()))
@@ -44,7 +52,7 @@ bool CommandLine::parse(const QStringList& arguments, int positionals, std::ostr
     }
     const QString hint = QStringLiteral("; usage: colorcalibrate %1").arg(m_usage);
     if (!parsed)
-        throw CommandError(m_parser.errorText() + hint, WrongUsage);
+        throw CommandError(withoutFullStop(m_parser.errorText()) + hint, WrongUsage);
     const QStringList given = m_parser.positionalArguments();
     if (given.size() < positionals)
         throw CommandError(QStringLiteral("an argument is missing") + hint, WrongUsage);
