@@ -13,7 +13,7 @@ namespace Ostria {
 /// The order of the rows that a converter writes.
 enum class ImageOrientation : std::uint8_t { TopDown, BottomUp };
 
-/// Converts camera images to RGB16 (for measuring) or BGRa8 (for display).
+/// Converts camera images of every pixel type to RGB16 (for measuring) or BGRa8 (for display).
 ///
 /// To 16 bits a channel, values are aligned to the most significant bit by shifting: 8-bit v
 /// becomes v << 8, 12-bit v becomes v << 4, so that v / 2^bits stays what it was. To 8 bits a
@@ -29,18 +29,12 @@ public:
 
     /// \throws std::invalid_argument  neither RGB16 nor BGRa8
     void setOutputPixelFormat(PixelType type);
-    PixelType outputPixelFormat() const { return m_outputType; }
 
     /// Unused bytes after each row that is written, 0 at first. Their content is left alone.
     void setOutputPaddingX(std::size_t paddingX) { m_outputPaddingX = paddingX; }
-    std::size_t outputPaddingX() const { return m_outputPaddingX; }
 
     /// TopDown at first.
     void setOutputOrientation(ImageOrientation orientation) { m_orientation = orientation; }
-    ImageOrientation outputOrientation() const { return m_orientation; }
-
-    /// Whether images of this type can be converted.
-    static bool isSupportedInput(PixelType type) { return pixelTypeInfo(type) != nullptr; }
 
     /// Bytes that an image converted with the present settings takes.
     /// \throws std::invalid_argument, std::length_error  as ComputeStride and ComputeImageSize

@@ -22,7 +22,9 @@ TEST(ConverterErrors, OtherOutputFormatsAreRefused)
         "Cannot convert to RGB8, only to RGB16 and BGRa8.");
     EXPECT_THROW(converter.setOutputPixelFormat(PixelType::Undefined), std::invalid_argument);
     EXPECT_THROW(converter.setOutputPixelFormat(static_cast<PixelType>(-1)), std::invalid_argument);
-    EXPECT_EQ(converter.outputPixelFormat(), PixelType::BGRa8);
+    COstriaImage target;
+    converter.Convert(target, noiseImage(PixelType::Mono8, 3, 3));
+    EXPECT_EQ(target.pixelType(), PixelType::BGRa8) << "as it was before";
 }
 
 TEST(ConverterErrors, SourceWithoutPixelsIsRefused)

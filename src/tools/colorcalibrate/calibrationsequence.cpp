@@ -28,7 +28,8 @@ namespace {
 constexpr double usableDeviation = 20.0;
 constexpr int cancelPollMs = 100;
 
-/// A run ends where it reaches the camera's limits; the next one goes on from there.
+/// A run from above the limit of exposure ends there, too bright, and one from near the goal too
+/// dark, before the gain has its turn; the next one goes on from there.
 constexpr int mostBrightnessRuns = 3;
 
 /// Further off than this on average, what was measured is hardly the chart.
@@ -300,6 +301,7 @@ void CalibrationSequence::adjustBrightness(const SequenceOptions& options)
 {
     QString failure;
     for (int run = 0; run < mostBrightnessRuns; ++run) {
+        const Brightness before = brightness();
         runBrightness(options);
         failure = reasonsOf(m_log.failures());
         // The worker ends by its limits too, and its last write comes after its last image.
@@ -312,7 +314,8 @@ void CalibrationSequence::adjustBrightness(const SequenceOptions& options)
             "the gray patch could not be measured; is the whole chart in the image?");
         if (std::abs(m_hitRate - 100.0) < usableDeviation)
             return;
-        if (!failure.isEmpty() || lightOf(m_hitRate) != Light::TooBright)
+        // What has not moved stands at its limits.
+        if (!failure.isEmpty() || brightness() == before)
             break;
     }
     throw CommandError(
@@ -321,6 +324,11 @@ void CalibrationSequence::adjustBrightness(const SequenceOptions& options)
                        "the light neither too weak nor too strong?")
             .arg(m_hitRate, 0, 'f', 0) +
         (failure.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(failure)));
+}
+
+CalibrationSequence::Brightness CalibrationSequence::brightness() const
+{
+    return {m_model.GetExposureTime(), m_model.GetGain()};
 }
 
 void CalibrationSequence::runBrightness(const SequenceOptions& options)

@@ -15,6 +15,7 @@
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace ColorCalibrate {
 
@@ -56,7 +57,8 @@ public:
 ///
 /// What a person sees to in the wizard the sequence does by itself: it asks for color, exposure
 /// time and gain before anything is changed, brings the chart into the light, repeats automatic
-/// brightness that ends too bright, and refuses an outcome that can hardly be a chart.
+/// brightness that has ended beside its goal as long as it moves anything, and refuses an outcome
+/// that can hardly be a chart.
 ///
 /// Whatever ends it early, the settings that the camera had after it was opened are written back
 /// and the camera is given back. Thread-bound: a thread with an event dispatcher.
@@ -82,6 +84,8 @@ public:
     void giveBack();
 
 private:
+    using Brightness = std::pair<double, double>; ///< exposure time and gain
+
     SequenceResult calibrateOpened(const SequenceOptions& options);
     void open(const Core::CameraPoolComponents::CameraPtr& camera);
     void requireBrightness();
@@ -91,6 +95,7 @@ private:
     void balanceWhite(bool mayChangeExposure);
     void adjustBrightness(const SequenceOptions& options);
     void runBrightness(const SequenceOptions& options);
+    Brightness brightness() const;
     void calibrate();
     SequenceResult measureOutcome();
     void requireChart(const SequenceResult& result);

@@ -2,6 +2,8 @@
 // The options and arguments of one subcommand.
 #include "commandline.h"
 
+#include "withoutfullstop.h"
+
 #include <ostream>
 
 namespace ColorCalibrate {
@@ -50,7 +52,7 @@ bool CommandLine::parse(const QStringList& arguments, int positionals, std::ostr
     }
     const QString hint = QStringLiteral("; usage: colorcalibrate %1").arg(m_usage);
     if (!parsed)
-        throw CommandError(m_parser.errorText() + hint, WrongUsage);
+        throw CommandError(Core::withoutFullStop(m_parser.errorText()) + hint, WrongUsage);
     const QStringList given = m_parser.positionalArguments();
     if (given.size() < positionals)
         throw CommandError(QStringLiteral("an argument is missing") + hint, WrongUsage);

@@ -9,8 +9,10 @@ namespace {
 
 volatile std::sig_atomic_t requested = 0;
 
-extern "C" void keepRequest(int /*signal*/)
+// Some systems put the default back as they call a handler.
+extern "C" void keepRequest(int signal)
 {
+    std::signal(signal, keepRequest);
     requested = 1;
 }
 

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using namespace ColorCalibrate;
 using Cameras::Emulation::Scene;
 using Cameras::Emulation::SceneSettings;
@@ -33,13 +35,13 @@ public:
         m_host.setExposure(exposure);
     }
 
-    void limitAutomaticExposure()
+    void limitAutomaticExposure(double microseconds)
     {
         m_host.camera()
             .parameterCollection()
             ->floatParameter(
                 QStringLiteral("AutoExposureTimeAbsUpperLimit|AutoExposureTimeUpperLimit"))
-            ->setValue(shortenedLimit);
+            ->setValue(microseconds);
     }
 
     /// \return  the message of the error, empty if there was none
@@ -181,7 +183,7 @@ TEST_P(CalibrationLight, DimLightIsMadeUpForByExposureTime)
 TEST_P(CalibrationLight, BehindTheLimitOfExposureDimLightIsMadeUpForByGainOrTheGainIsBlamed)
 {
     LitCamera camera(GetParam(), 20000.0, inLight(0.1));
-    camera.limitAutomaticExposure();
+    camera.limitAutomaticExposure(shortenedLimit);
     const std::string message = camera.run(true);
     if (camera.hasRawGain()) {
         EXPECT_TRUE(contains(message, "percent of its target brightness")) << message;
@@ -195,6 +197,38 @@ TEST_P(CalibrationLight, BehindTheLimitOfExposureDimLightIsMadeUpForByGainOrTheG
     EXPECT_EQ(camera.exposure(), shortenedLimit);
     // Half of the light that the goal needs is 6 dB; 10 percent beside it are 1 dB.
     EXPECT_NEAR(camera.gain(), 6.0, 1.0);
+}
+
+// A thirtieth of a second and thereabouts. A run from above it ends there, still too bright.
+TEST_P(CalibrationLight, FromAboveTheLimitOfExposureTheGoalBelowItIsReached)
+{
+    for (const double limit : {26000.0, 30000.0, 33300.0}) {
+        LitCamera camera(GetParam(), 60000.0);
+        camera.limitAutomaticExposure(limit);
+        EXPECT_EQ(camera.run(true), "") << limit;
+        EXPECT_NEAR(camera.exposure(), 20000.0, 3000.0) << limit;
+        EXPECT_EQ(camera.gain(), 0.0) << limit;
+    }
+}
+
+// A run from near the goal ends at the limit, too dark, before the gain has its turn.
+TEST_P(CalibrationLight, WhatTheLimitOfExposureTakesGainGivesBackFromEveryStart)
+{
+    for (const double limit : {5000.0, 15000.0})
+        for (const double start : {5000.0, 20000.0}) {
+            SCOPED_TRACE(testing::Message() << limit << " from " << start);
+            LitCamera camera(GetParam(), start);
+            camera.limitAutomaticExposure(limit);
+            const std::string message = camera.run(true);
+            if (camera.hasRawGain()) {
+                EXPECT_TRUE(contains(message, "(GainRaw: ")) << message;
+                continue;
+            }
+            EXPECT_EQ(message, "");
+            EXPECT_EQ(camera.exposure(), limit);
+            // 20 ms without gain are the goal; 10 percent beside it are 1 dB.
+            EXPECT_NEAR(camera.gain(), 20.0 * std::log10(20000.0 / limit), 1.0);
+        }
 }
 
 // It lights less of the image than a usual one does in the dark.

@@ -13,13 +13,18 @@
 #include <cmath>
 #include <iomanip>
 #include <iostream>
+#include <numeric>
 #include <utility>
+#include <vector>
 
 using namespace ColorCalibrate;
 using ColorCalibration::PatchColors;
 using ColorCalibration::PatchCount;
 
 namespace {
+
+/// How gray the gray row is wanted, on average of its patches.
+constexpr double wantedDeltaC = 1.5;
 
 /// What the camera shows afterwards, and what the engine has foretold for what it measured.
 struct Outcome
@@ -94,6 +99,27 @@ Outcome calibrate(const Arrangement& arrangement)
     return {deltasToTargets(ColorCalibration::toPatchColors(initial, true)),
             deltasToTargets(measure(model, true)),
             deltasToTargets(asShown(computation.steps.back().colors, host.isOldGeneration()))};
+}
+
+/// The gray row's mean Delta C after each of several calibrations of a camera as it is. Noise has
+/// its draws from the numbers of the frames, so each calibration is one, and the same every time.
+std::vector<double> drawsOfTheGrays(const Cameras::Emulation::CameraModel& camera, int count)
+{
+    EmulatedHost host(camera);
+    auto& model = host.model();
+    EXPECT_TRUE(model.Open(host.pointer()));
+    host.setExposure(exposure);
+    model.SetGridPosition(host.chartGrid());
+    QImage first;
+    model.GrabImage(first, false);
+    std::vector<double> draws;
+    for (int draw = 0; draw < count; ++draw) {
+        EXPECT_TRUE(model.SetNeutralSettings());
+        EXPECT_TRUE(model.ApplyInitialColorPatchValues());
+        EXPECT_TRUE(model.ExecuteCalibrationAndApply());
+        draws.push_back(grayDeltaC(deltasToTargets(measure(model, true))));
+    }
+    return draws;
 }
 
 void switchOffNoise(Arrangement& arrangement)
@@ -177,11 +203,31 @@ TEST_P(CalibrationLimits, ShowHowMuchEachOfThemCosts)
         EXPECT_LE(outcome.shown.meanDeltaE(), 3.0) << name;
         // One pixel's noise, which the color of a patch has, is the only thing that may do more.
         if (!arrangement.model.sensor.noiseEnabled) {
-            EXPECT_LE(grayDeltaC(outcome.shown), 1.5) << name;
+            EXPECT_LE(grayDeltaC(outcome.shown), wantedDeltaC) << name;
         }
         // Each is a small disturbance of what the mixing of channels leaves.
         EXPECT_NEAR(outcome.shown.meanDeltaE(), outcome.foretold.meanDeltaE(), 0.5) << name;
     }
+}
+
+// A patch has the color of one pixel, so that of a single calibration nothing like this can be
+// said.
+TEST(GraysOfManyCalibrations, AreAsGrayAsTheyAreWantedOnAverage)
+{
+    constexpr int draws = 40;
+    // One camera's mean is itself a draw: this is twice its standard error, as single draws have a
+    // standard deviation of 0.35 (of 900 of them).
+    constexpr double scatter = 0.11;
+    double total = 0.0;
+    for (const auto& camera : supportedModels()) {
+        const std::vector<double> each = drawsOfTheGrays(camera, draws);
+        const double mean = std::accumulate(each.begin(), each.end(), 0.0) / draws;
+        std::cout << camera.name.toStdString() << ": " << std::fixed << std::setprecision(2) << mean
+                  << " on average of " << draws << " calibrations\n";
+        EXPECT_LE(mean, wantedDeltaC + scatter) << camera.name.toStdString();
+        total += mean;
+    }
+    EXPECT_LE(total / supportedModels().size(), wantedDeltaC);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cameras, CalibrationLimits, testing::Values(0, 1, 2));

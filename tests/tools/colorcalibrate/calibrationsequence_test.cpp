@@ -137,6 +137,15 @@ TEST_F(CalibrationSequenceTest, WhatCannotBeWrittenBackEndsItWhereItIsToBeAdjust
     }
 }
 
+TEST_F(CalibrationSequenceTest, AutomaticBrightnessBeginsAgainUntilARunMovesNothing)
+{
+    // As dark at the limits, to which the first run goes. The second stays there.
+    showChart(*m_camera, 0.4 * castColors());
+    EXPECT_NE(run().find("could not be brought nearer by exposure time and gain"),
+              std::string::npos);
+    EXPECT_EQ(m_steps.count(QStringLiteral("Adjusting brightness")), 2);
+}
+
 TEST_F(CalibrationSequenceTest, BrightnessHasTwoMinutes)
 {
     EXPECT_EQ(SequenceOptions().longestBrightnessRun, std::chrono::seconds(120));

@@ -29,6 +29,18 @@ TEST(ColorCalibrateTool, RefusesWhatItDoesNotKnow)
     expectFailure(runTool({QStringLiteral("--verbose")}), 2, {QStringLiteral("--verbose")});
 }
 
+TEST(ColorCalibrateTool, GoesOnBehindTheParsersWordsWithoutAFullStop)
+{
+    const Outcome missing = runTool({QStringLiteral("calibrate"), QStringLiteral("--camera")});
+    EXPECT_EQ(missing.code, 2);
+    EXPECT_EQ(missing.err.rfind("colorcalibrate: Missing value after '--camera'; usage: ", 0), 0u)
+        << missing.err;
+    const Outcome unknown = runTool({QStringLiteral("find"), QStringLiteral("--x")});
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_EQ(unknown.err.rfind("colorcalibrate: Unknown option 'x'; usage: ", 0), 0u)
+        << unknown.err;
+}
+
 TEST(ColorCalibrateTool, SaysItInOneLineWhateverNamesHold)
 {
     const QString name = QStringLiteral("two\nlines\r\x1b[31m");

@@ -29,6 +29,26 @@ TEST(Interruption, KeepsEveryRequestToEnd)
     }
 }
 
+#ifndef _WIN32
+// Some systems put the default back as they call a handler; a second Ctrl-C would end the program.
+TEST(Interruption, KeepsTheNextRequestWhereAHandlerIsCalledOnce)
+{
+    for (const int request : {SIGINT, SIGTERM, SIGHUP}) {
+        const Interruption interruption;
+        struct sigaction once = {};
+        ASSERT_EQ(sigaction(request, nullptr, &once), 0);
+        const auto handler = once.sa_handler;
+        once.sa_flags |= static_cast<int>(SA_RESETHAND);
+        ASSERT_EQ(sigaction(request, &once, nullptr), 0);
+        std::raise(request);
+        EXPECT_TRUE(Interruption::isRequested()) << request;
+        struct sigaction after = {};
+        ASSERT_EQ(sigaction(request, nullptr, &after), 0);
+        EXPECT_EQ(after.sa_handler, handler) << request;
+    }
+}
+#endif
+
 TEST(Interruption, DoesNotEndWhereNobodyReadsTheOutput)
 {
     const Interruption interruption;

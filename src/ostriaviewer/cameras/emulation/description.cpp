@@ -163,7 +163,7 @@ void Writer::writeFeature(int index)
         return;
 
     start(nodeName(feature.kind), feature.name);
-    element("DisplayName", feature.displayName.isEmpty() ? feature.name : feature.displayName);
+    element("DisplayName", feature.name);
     element("Visibility", QStringLiteral("Beginner"));
     if (feature.availableWhile)
         element("pIsAvailable", feature.name + QStringLiteral("_Available"));

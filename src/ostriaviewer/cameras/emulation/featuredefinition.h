@@ -50,7 +50,6 @@ struct FeatureDefinition
 {
     QString category; ///< empty: a register that no client sees
     QString name;
-    QString displayName; ///< empty: the name
     FeatureKind kind = FeatureKind::Integer;
 
     bool writable = true;
@@ -72,11 +71,6 @@ struct FeatureDefinition
     std::optional<Condition> availableWhile;
     std::optional<Link> link;
 
-    FeatureDefinition& shownAs(const QString& newDisplayName)
-    {
-        displayName = newDisplayName;
-        return *this;
-    }
     FeatureDefinition& selectedBy(const QString& newSelector)
     {
         selector = newSelector;

@@ -8,8 +8,9 @@
 
 namespace Cameras::Emulation {
 
-/// A channel's value between two stages: sixteenths of a 12-bit count. Every stage clamps to full
-/// scale, as hardware does.
+/// A channel's value between the groups of stages that are computed in one go: sixteenths of a
+/// 12-bit count, clamped to full scale, as in hardware. Black level and white balance are one such
+/// group, and so is what stands between demosaicing and look-up table.
 using Word = std::uint16_t;
 
 constexpr int wordsPerCount = 16;

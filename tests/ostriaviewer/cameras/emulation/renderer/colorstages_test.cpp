@@ -184,6 +184,15 @@ TEST(ColorStages, AddBrightnessAndScaleContrastAboutTheMiddle)
     expectThousandths(adjusted(settings, {600, 300, 100}), {500, 500, 500});
 }
 
+TEST(ColorStages, KeepWhatSaturationLiftsAboveFullScaleForTheContrast)
+{
+    PipelineSettings settings;
+    settings.saturation = 2.0;
+    settings.contrast = -0.5;
+    // Luma is 379.4, so red is 1220.6 between the two, and the others are 20.6.
+    expectThousandths(adjusted(settings, {800, 200, 200}), {860.3, 260.3, 260.3});
+}
+
 TEST(ColorStages, ApplyBrightnessAndContrastAloneToMono)
 {
     PipelineSettings settings;

@@ -61,6 +61,16 @@ TEST(MosaicCorrection, AddsTheBlackLevelBeforeTheRatios)
     EXPECT_EQ(corrected(settings, sensor, {20, 80}, 0, 0), (std::vector<Word>{0, 16 * 45}));
 }
 
+TEST(MosaicCorrection, KeepsWhatABlackLevelLiftsAboveFullScaleForTheRatio)
+{
+    PipelineSettings settings;
+    settings.blackLevel = 100.0;
+    settings.balanceRatio = {0.5, 1.0, 1.0};
+    // (4095 + 100) / 2 counts, and not 4095 / 2.
+    EXPECT_EQ(corrected(settings, idealSensor(8, 8), {4095, 4095}, 0, 0),
+              (std::vector<Word>{8 * 4195, 65520}));
+}
+
 TEST(MosaicCorrection, DoesNotBalanceAMonoSensor)
 {
     PipelineSettings settings;
