@@ -3,7 +3,6 @@
 #include "wizardrun.h"
 
 #include <QAbstractButton>
-#include <QKeyEvent>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -53,43 +52,19 @@ TEST_P(CancelOnStep, LeavesTheCameraAsItWas)
     cancelBy("window closed", [this] { m_dialog->close(); });
 }
 
-/// Keys as a window gets them, with the time at which the user pressed them.
-class TimedKeys : public WizardRun
+class HeldKey : public WizardRun, public testing::WithParamInterface<bool>
 {
 protected:
-    /// What comes of a key that is held: a repeat where the system tells so, else a release and a
-    /// press of one moment.
-    void repeat(QWindow* window, Qt::Key key, bool isTold)
+    /// What a window gets of a key that is held: a repeat where the system tells so, else a release
+    /// and a press of one moment.
+    void repeat(QWindow* window, Qt::Key key)
     {
-        ++m_time;
+        const bool isTold = GetParam();
+        const ulong time = laterTime();
         if (!isTold)
-            send(window, QEvent::KeyRelease, key, false);
-        send(window, QEvent::KeyPress, key, isTold);
+            sendKey(window, QEvent::KeyRelease, key, time);
+        sendKey(window, QEvent::KeyPress, key, time, isTold);
     }
-
-    void pressAndRelease(QWindow* window, Qt::Key key)
-    {
-        ++m_time;
-        send(window, QEvent::KeyPress, key, false);
-        ++m_time;
-        send(window, QEvent::KeyRelease, key, false);
-    }
-
-private:
-    void send(QWindow* window, QEvent::Type type, Qt::Key key, bool isRepeat) const
-    {
-        QKeyEvent event(type, key, Qt::NoModifier, QString(), isRepeat);
-        event.setTimestamp(m_time);
-        QCoreApplication::sendEvent(window, &event);
-    }
-
-    ulong m_time = 1000;
-};
-
-class HeldKey : public TimedKeys, public testing::WithParamInterface<bool>
-{
-protected:
-    void repeat(QWindow* window, Qt::Key key) { TimedKeys::repeat(window, key, GetParam()); }
 };
 
 TEST_P(HeldKey, LeavesTheQuestionOpen)
@@ -137,7 +112,7 @@ TEST_P(HeldKey, GoesNoFurtherThanOnePress)
 INSTANTIATE_TEST_SUITE_P(Told, HeldKey, testing::Bool(),
                          [](const auto& each) { return each.param ? "AsRepeat" : "AsPress"; });
 
-class QuestionOfTheWizard : public TimedKeys
+class QuestionOfTheWizard : public WizardRun
 {};
 
 TEST_F(QuestionOfTheWizard, StandsOverItsWindow)

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -152,7 +153,21 @@ void WizardRun::press(Qt::Key key)
             view->requestActivate();
         return view->activeFocusItem() && view->activeFocusItem() != view->contentItem();
     }));
-    QTest::keyClick(view, key);
+    pressAndRelease(view, key);
+}
+
+// Presses that follow each other within a millisecond would count as those of a held key.
+void WizardRun::pressAndRelease(QWindow* window, Qt::Key key)
+{
+    sendKey(window, QEvent::KeyPress, key, laterTime());
+    sendKey(window, QEvent::KeyRelease, key, laterTime());
+}
+
+void WizardRun::sendKey(QWindow* window, QEvent::Type type, Qt::Key key, ulong time, bool isRepeat)
+{
+    QKeyEvent event(type, key, Qt::NoModifier, QString(), isRepeat);
+    event.setTimestamp(time);
+    QCoreApplication::sendEvent(window, &event);
 }
 
 void WizardRun::confirm()

@@ -46,6 +46,13 @@ protected:
 
     void click(const char* name);
     void press(Qt::Key key);
+    /// The same in a window that has the keys.
+    void pressAndRelease(QWindow* window, Qt::Key key);
+    /// One event of a key, as it comes to a window.
+    static void sendKey(QWindow* window, QEvent::Type type, Qt::Key key, ulong time,
+                        bool isRepeat = false);
+    /// A moment behind all that this has told before.
+    ulong laterTime() { return ++m_time; }
     /// Answers the question whether to give the calibration up.
     void confirm();
     QQuickItem* item(const char* name);
@@ -75,4 +82,7 @@ protected:
     std::unique_ptr<ColorCalibration::ColorCorrectionToolDlg> m_dialog;
 
     bool m_isCameraLost = false; // it is not open after the wizard
+
+private:
+    ulong m_time = 1000; // ms, of the last key
 };
