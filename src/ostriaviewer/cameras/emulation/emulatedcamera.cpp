@@ -137,6 +137,7 @@ std::shared_ptr<EmulatedCamera::Device> EmulatedCamera::makeDevice()
 {
     startUserSets(*m_store, UserSets(m_store->table(), settingsFile(m_model, m_options)));
     const auto nodeMap = GenICam::NodeMap::create(m_store, description());
+    nodeMap->setCameraName(displayName());
     m_isSceneNew = false;
     return std::make_shared<Device>(
         Device{nodeMap, GenICam::createParameterCollection(nodeMap, m_model.name),

@@ -22,7 +22,7 @@ class LibraryScope
 {
 public:
     /// Both texts are lent as long as the scope lives.
-    /// \param camera   the model's name
+    /// \param camera   its name for messages
     /// \param feature  empty: the description as a whole
     LibraryScope(const QString& camera, const QString& feature,
                  LibraryTask task = LibraryTask::Description);

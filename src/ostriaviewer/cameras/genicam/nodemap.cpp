@@ -161,6 +161,11 @@ NodeMap::NodeMap(std::unique_ptr<NodeMapPrivate> implementation)
 
 NodeMap::~NodeMap() = default;
 
+void NodeMap::setCameraName(const QString& name)
+{
+    m_private->setCamera(name);
+}
+
 void NodeMap::refuseAccesses()
 {
     m_private->setClosing();

@@ -4,6 +4,8 @@
 
 #include "registerport.h"
 
+#include <QString>
+
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -33,6 +35,10 @@ public:
     ~NodeMap();
     NodeMap(const NodeMap&) = delete;
     NodeMap& operator=(const NodeMap&) = delete;
+
+    /// What messages call the camera, instead of the model that its description names: there may be
+    /// two of a model. To be called before a second thread has this object.
+    void setCameraName(const QString& name);
 
     /// From now on each access throws, but for one that is under way and the last ones of
     /// disconnect, which has to follow. Does not wait.

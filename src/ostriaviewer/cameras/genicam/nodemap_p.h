@@ -27,7 +27,7 @@ class NodeMapPrivate
 public:
     /// \param device  taken over: unreferenced at the end
     /// \param xml     the description
-    /// \param camera  the model's name, for messages
+    /// \param camera  its name for messages
     /// \param commandTimeout  how long a command may take
     /// \throws ::GenICam::RuntimeException  the description cannot be used
     NodeMapPrivate(ArvDevice* device, const std::string& xml, QString camera,
@@ -39,6 +39,8 @@ public:
     AccessMutex& mutex() { return m_mutex; }
     ArvGc* gc() const { return m_gc; }
     const QString& camera() const { return m_camera; }
+    /// Before a second thread has this object.
+    void setCamera(const QString& name) { m_camera = name; }
 
     ArvDevice* device() const { return m_device; }
 
@@ -67,7 +69,7 @@ public:
 
 private:
     AccessMutex m_mutex;
-    const QString m_camera;
+    QString m_camera;
     ArvDevice* m_device;
     ArvGc* m_gc;
     std::atomic<bool> m_isClosing = false;

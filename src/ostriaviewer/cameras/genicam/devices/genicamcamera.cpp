@@ -233,6 +233,7 @@ std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connect()
     result->device = Device::open(id, settings);
     result->nodeMap = NodeMap::create(result->device, result->device->description());
     completeIdentity(*result);
+    result->nodeMap->setCameraName(displayName());
     result->parameters = createParameterCollection(result->nodeMap, modelName());
     const QWeakPointer<HostCamera> weak = sharedFromThis();
     result->device->setLostHandler([weak, device = result->device.get()] {
