@@ -4,21 +4,11 @@
 
 #include "cameraaddress.h"
 #include "command.h"
+#include "networkinterfaces.h"
 #include "transportsettings.h"
 
 namespace ColorCalibrate {
 namespace {
-
-QString readAddress(const QString& text)
-{
-    const QString address = Cameras::GenICam::cameraAddress(text);
-    if (address.isEmpty())
-        throw CommandError(QStringLiteral("--address is the IPv4 address of a camera, such as "
-                                          "192.168.1.20, not \"%1\"")
-                               .arg(text),
-                           WrongUsage);
-    return address;
-}
 
 int readPacketSize(const QString& text)
 {
@@ -36,7 +26,39 @@ int readPacketSize(const QString& text)
     return size;
 }
 
+void refuse(const CommandLine& line, const char* option, const char* reason)
+{
+    if (line.isSet(QLatin1String(option)))
+        throw CommandError(QStringLiteral("--%1 means nothing %2")
+                               .arg(QLatin1String(option), QLatin1String(reason)),
+                           WrongUsage);
+}
+
+QStringList readInterfaces(const QString& text)
+{
+    const QStringList wanted = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    const QStringList names = Cameras::GenICam::networkInterfaces();
+    for (const QString& name : wanted)
+        if (!names.contains(name))
+            throw CommandError(QStringLiteral("there is no network interface \"%1\"; there are %2")
+                                   .arg(name, names.join(QStringLiteral(", "))),
+                               WrongUsage);
+    return wanted;
+}
+
 } // namespace
+
+QString readAddress(const CommandLine& line)
+{
+    const QString text = line.requiredValue(QStringLiteral("address"));
+    const QString address = Cameras::GenICam::cameraAddress(text);
+    if (address.isEmpty())
+        throw CommandError(QStringLiteral("--address is the IPv4 address of a camera, such as "
+                                          "192.168.1.20, not \"%1\"")
+                               .arg(text),
+                           WrongUsage);
+    return address;
+}
 
 void addCameraOptions(CommandLine& line)
 {
@@ -71,15 +93,22 @@ CameraSelection readCameraOptions(const CommandLine& line)
             WrongUsage);
     selection.hasEmulated = backend != QLatin1String("genicam");
     selection.isLooking = backend != QLatin1String("emulation");
-    selection.interfaces =
-        line.value(QStringLiteral("interfaces")).split(QLatin1Char(','), Qt::SkipEmptyParts);
     if (line.isSet(QStringLiteral("packet-size")))
         selection.packetSize = readPacketSize(line.value(QStringLiteral("packet-size")));
-    if (!line.isSet(QStringLiteral("address")))
+    if (line.isSet(QStringLiteral("address"))) {
+        if (!selection.isLooking)
+            refuse(line, "backend", "beside --address, which is of a network camera");
+        refuse(line, "interfaces", "beside --address, which is asked alone");
+        selection.address = readAddress(line);
+        selection.hasEmulated = false;
+        selection.isLooking = false;
         return selection;
-    selection.address = readAddress(line.value(QStringLiteral("address")));
-    selection.hasEmulated = false;
-    selection.isLooking = false;
+    }
+    if (!selection.isLooking) {
+        refuse(line, "interfaces", "for emulated cameras; add --backend genicam");
+        refuse(line, "packet-size", "for emulated cameras; add --backend genicam");
+    }
+    selection.interfaces = readInterfaces(line.value(QStringLiteral("interfaces")));
     return selection;
 }
 

@@ -21,7 +21,11 @@ struct CameraSelection
 /// Adds the options "backend", "address", "interfaces" and "packet-size".
 void addCameraOptions(CommandLine& line);
 
-/// \throws CommandError  an option has no possible value
+/// \return  the option "address", as the library writes it
+/// \throws CommandError  it is missing, or no address that one device can have
+QString readAddress(const CommandLine& line);
+
+/// \throws CommandError  an option has no possible value, or means nothing beside another
 CameraSelection readCameraOptions(const CommandLine& line);
 
 } // namespace ColorCalibrate

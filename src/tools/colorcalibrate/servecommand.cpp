@@ -2,6 +2,7 @@
 // The subcommand "serve".
 #include "servecommand.h"
 
+#include "backends.h"
 #include "cameras.h"
 #include "commandline.h"
 #include "gigeserver.h"
@@ -63,7 +64,7 @@ void serveCommand(const QStringList& arguments, const Streams& streams)
                    QStringLiteral("image"));
     if (!line.parse(arguments, 0, streams.out))
         return;
-    const QString address = line.requiredValue(QStringLiteral("address"));
+    const QString address = readAddress(line);
     const auto camera = findModel(line);
     const Interruption interruption;
     if (!camera->open())

@@ -75,6 +75,24 @@ TEST_F(NetworkCameras, RefuseOptionsThatMeanNothing)
     expectFailure(list("--address", "255.255.255.255"), 2, {QStringLiteral("--address")});
     expectFailure(list("--packet-size", "5"), 2, {QStringLiteral("--packet-size")});
     expectFailure(list("--address", "127.0.0.9"), 1, {QStringLiteral("127.0.0.9")});
+    expectFailure(list("--interfaces", "lo"), 2,
+                  {QStringLiteral("--interfaces"), QStringLiteral("genicam")});
+    expectFailure(list("--packet-size", "1500"), 2,
+                  {QStringLiteral("--packet-size"), QStringLiteral("genicam")});
+    expectFailure(runTool(atAddress("list") +
+                          QStringList{QStringLiteral("--interfaces"), QStringLiteral("lo")}),
+                  2, {QStringLiteral("--interfaces"), QStringLiteral("--address")});
+    expectFailure(runTool(atAddress("list") +
+                          QStringList{QStringLiteral("--backend"), QStringLiteral("emulation")}),
+                  2, {QStringLiteral("--backend"), QStringLiteral("--address")});
+    expectFailure(
+        runTool({QStringLiteral("list"), QStringLiteral("--backend"), QStringLiteral("genicam"),
+                 QStringLiteral("--interfaces"), QStringLiteral("lo,nosuch")}),
+        2, {QStringLiteral("nosuch"), QStringLiteral("there are lo")});
+    expectFailure(
+        runTool({QStringLiteral("serve"), QStringLiteral("--camera"), m_served->displayName(),
+                 QStringLiteral("--address"), QStringLiteral("127.0.0.300")}),
+        2, {QStringLiteral("--address")});
 }
 
 // Which of two would be changed must not be a matter of which answers first.

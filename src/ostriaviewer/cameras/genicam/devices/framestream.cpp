@@ -246,8 +246,9 @@ StreamStatistics FrameStream::statistics() const
     arv_stream_get_statistics(m_state->stream, &completed, &failures, &underruns);
     StreamStatistics statistics = m_state->counts;
     statistics.overrun = underruns;
+    guint64 resent = 0;
     if (ARV_IS_GV_STREAM(m_state->stream))
-        arv_gv_stream_get_statistics(ARV_GV_STREAM(m_state->stream), &statistics.resentPackets,
+        arv_gv_stream_get_statistics(ARV_GV_STREAM(m_state->stream), &resent,
                                      &statistics.missingPackets);
     return statistics;
 }

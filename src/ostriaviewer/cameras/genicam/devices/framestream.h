@@ -21,7 +21,6 @@ struct StreamStatistics
     std::uint64_t damaged = 0;        ///< dropped, as a part of them was missing
     std::uint64_t overrun = 0;        ///< came while no buffer was free
     std::uint64_t missingPackets = 0; ///< lost on the network, and not got again
-    std::uint64_t resentPackets = 0;  ///< got again
 };
 
 /// One run of images, from its beginning to its end. Damaged frames are counted and dropped.
