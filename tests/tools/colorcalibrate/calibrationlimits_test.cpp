@@ -214,20 +214,17 @@ TEST_P(CalibrationLimits, ShowHowMuchEachOfThemCosts)
 // said.
 TEST(GraysOfManyCalibrations, AreAsGrayAsTheyAreWantedOnAverage)
 {
-    constexpr int draws = 40;
-    // One camera's mean is itself a draw: this is twice its standard error, as single draws have a
-    // standard deviation of 0.35 (of 900 of them).
-    constexpr double scatter = 0.11;
-    double total = 0.0;
+    // A mean is itself a draw. Single calibrations have a standard deviation of 0.26, and the
+    // noisiest camera a mean of 1.31 (of 100), so that twice the standard error of a mean of 20,
+    // 0.12, has room below what is wanted.
+    constexpr int draws = 20;
     for (const auto& camera : supportedModels()) {
         const std::vector<double> each = drawsOfTheGrays(camera, draws);
         const double mean = std::accumulate(each.begin(), each.end(), 0.0) / draws;
         std::cout << camera.name.toStdString() << ": " << std::fixed << std::setprecision(2) << mean
                   << " on average of " << draws << " calibrations\n";
-        EXPECT_LE(mean, wantedDeltaC + scatter) << camera.name.toStdString();
-        total += mean;
+        EXPECT_LE(mean, wantedDeltaC) << camera.name.toStdString();
     }
-    EXPECT_LE(total / supportedModels().size(), wantedDeltaC);
 }
 
 INSTANTIATE_TEST_SUITE_P(Cameras, CalibrationLimits, testing::Values(0, 1, 2));
