@@ -4,6 +4,7 @@
 
 #include "genicamexception.h"
 #include "patience.h"
+#include "withoutfullstop.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -196,7 +197,9 @@ QString writeFeature(IParameter& parameter, const QString& text)
     } catch (const GenICam::RuntimeException& error) {
         const QString limits = readFeature(parameter).limits;
         const QString reason = QString::fromUtf8(error.what());
-        return limits.isEmpty() ? reason : Texts::tr("%1 (possible now: %2)").arg(reason, limits);
+        if (limits.isEmpty())
+            return reason;
+        return Texts::tr("%1 (possible now: %2).").arg(Core::withoutFullStop(reason), limits);
     }
 }
 

@@ -102,6 +102,8 @@ TEST_F(FeaturePanelTest, TellsTheLimitsOfANumberThatIsRefused)
     QTest::keyClick(editor, Qt::Key_Return);
     EXPECT_TRUE(waitUntil([this] { return hasMessage("possible now"); }));
     EXPECT_TRUE(hasMessage("ExposureTime"));
+    EXPECT_FALSE(hasMessage(". (possible now")) << "a full stop within the sentence";
+    EXPECT_TRUE(hasMessage(").")) << "and none at its end";
     EXPECT_EQ(parameters()->floatParameter("ExposureTime")->value(), before);
 }
 
