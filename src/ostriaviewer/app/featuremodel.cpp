@@ -221,7 +221,7 @@ QVariant FeatureModel::data(const QModelIndex& index, int role) const
     if (role == NameRole)
         return shown.name;
     if (role == EditorRole)
-        return static_cast<int>(shown.editor);
+        return shown.parameter ? static_cast<int>(shown.editor) : QVariant();
     if (!shown.parameter)
         return role == Qt::DisplayRole && index.column() == Name ? shown.label : QVariant();
     if (role == Qt::ToolTipRole)

@@ -25,7 +25,7 @@ public:
     enum Column { Name, Value, ColumnCount };
     enum Role {
         NameRole = Qt::UserRole, ///< the name of a feature or category, without translation
-        EditorRole,              ///< a FeatureEditor
+        EditorRole,              ///< a FeatureEditor; nothing for a category
         ChoicesRole,             ///< names of the entries that can be chosen
         ChoiceTextsRole          ///< the same for people
     };

@@ -21,8 +21,8 @@ using Cameras::HostCameraPtr;
 
 namespace {
 
-/// Keeps features whose name for people or name in the camera contains the words, and their
-/// categories.
+/// Keeps features whose name for people or name in the camera contains the words, or whose
+/// category's does, and the categories of those that are kept.
 class FeatureFilter final : public QSortFilterProxyModel
 {
 public:
@@ -31,11 +31,24 @@ public:
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override
     {
+        if (filterRegularExpression().pattern().isEmpty())
+            return true;
         const QModelIndex index = sourceModel()->index(row, FeatureModel::Name, parent);
-        return QSortFilterProxyModel::filterAcceptsRow(row, parent) ||
-               filterRegularExpression()
-                   .match(index.data(FeatureModel::NameRole).toString())
-                   .hasMatch();
+        if (!index.data(FeatureModel::EditorRole).isValid())
+            return false;
+        for (QModelIndex above = index; above.isValid(); above = above.parent())
+            if (fits(above))
+                return true;
+        return false;
+    }
+
+private:
+    bool fits(const QModelIndex& index) const
+    {
+        const auto contains = [this](const QVariant& name) {
+            return name.toString().contains(filterRegularExpression());
+        };
+        return contains(index.data()) || contains(index.data(FeatureModel::NameRole));
     }
 };
 
@@ -52,7 +65,6 @@ FeaturePanel::FeaturePanel(CameraList& cameras, DeviceSelectorService& selector,
     , m_hint(new QLabel(this))
 {
     m_shown->setSourceModel(m_model);
-    m_shown->setFilterKeyColumn(FeatureModel::Name);
     m_shown->setRecursiveFilteringEnabled(true);
     makeView();
     connect(m_filter, &QLineEdit::textChanged, this, &FeaturePanel::applyFilter);

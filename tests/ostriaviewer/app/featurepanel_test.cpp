@@ -1,62 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Features are shown as the camera has them, found by name, and written.
-#include "viewertest.h"
+#include "featurepaneltest.h"
 
-#include "featuremodel.h"
-
-#include <QAbstractItemView>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QTreeView>
 
 #include <cmath>
 
 namespace Viewer {
 namespace {
-
-class FeaturePanelTest : public ViewerTest
-{
-protected:
-    void SetUp() override
-    {
-        startViewer();
-        clickCamera(0);
-        window().commands().openAction()->trigger();
-        m_tree = child<QTreeView>("features");
-        ASSERT_TRUE(waitUntil([this] { return m_tree->isVisible(); }));
-    }
-
-    /// The value cell of a feature, seen and in view.
-    QModelIndex cell(const char* feature)
-    {
-        auto* filter = child<QLineEdit>("featureFilter");
-        filter->setText(feature);
-        const QModelIndexList found = m_tree->model()->match(
-            m_tree->model()->index(0, 0), FeatureModel::NameRole, QString::fromLatin1(feature), 1,
-            Qt::MatchExactly | Qt::MatchRecursive);
-        if (found.isEmpty())
-            return {};
-        const QModelIndex value = found.constFirst().siblingAtColumn(FeatureModel::Value);
-        m_tree->scrollTo(value);
-        return value;
-    }
-    QString text(const char* feature) { return cell(feature).data().toString(); }
-
-    template <typename Editor>
-    Editor* edit(const QModelIndex& index)
-    {
-        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {},
-                          m_tree->visualRect(index).center());
-        return m_tree->viewport()->findChild<Editor*>();
-    }
-
-    Core::ParameterCollection::ParameterCollectionPtr parameters() const
-    {
-        return m_first->parameterCollection();
-    }
-
-    QTreeView* m_tree = nullptr;
-};
 
 TEST_F(FeaturePanelTest, ShowsTheCamerasCategories)
 {
@@ -79,6 +30,18 @@ TEST_F(FeaturePanelTest, FilterFindsFeaturesByNameAndNothingElse)
     waitForAnimations(window());
     child<QLineEdit>("featureFilter")->clear();
     EXPECT_GT(m_tree->model()->rowCount(), 3);
+}
+
+TEST_F(FeaturePanelTest, FilterThatFitsACategoryShowsAllOfIt)
+{
+    for (const auto& category : parameters()->categories()) {
+        child<QLineEdit>("featureFilter")->setText(category.displayName);
+        waitForAnimations(window());
+        const QModelIndex shown = find(category.name);
+        ASSERT_TRUE(shown.isValid()) << qPrintable(category.name);
+        EXPECT_EQ(m_tree->model()->rowCount(shown), category.features.size());
+        EXPECT_TRUE(m_tree->isExpanded(shown)) << qPrintable(category.name);
+    }
 }
 
 TEST_F(FeaturePanelTest, WritesANumberThatIsTyped)
