@@ -61,10 +61,9 @@ QWidget* FeatureDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
         return line;
     }
     auto* list = new QComboBox(parent);
-    const QStringList names = index.data(FeatureModel::ChoicesRole).toStringList();
-    const QStringList texts = index.data(FeatureModel::ChoiceTextsRole).toStringList();
-    for (int row = 0; row < names.size(); ++row)
-        list->addItem(texts.at(row), names.at(row));
+    const auto choices = index.data(FeatureModel::ChoicesRole).value<FeatureChoices>();
+    for (const FeatureChoice& choice : choices)
+        list->addItem(choice.text, choice.name);
     // A choice counts at once, without leaving the list first.
     auto* self = const_cast<FeatureDelegate*>(this);
     connect(list, QOverload<int>::of(&QComboBox::activated), self, [self, list] {

@@ -248,13 +248,7 @@ QVariant FeatureModel::valueData(const Node& node, int role) const
             return {};
         return node.state.written == QLatin1String("1") ? Qt::Checked : Qt::Unchecked;
     case ChoicesRole:
-    case ChoiceTextsRole: {
-        QStringList texts;
-        for (const EnumerationEntry& entry : choicesOf(*node.parameter))
-            if (entry.isSettable)
-                texts.append(role == ChoicesRole ? entry.name : entry.displayName);
-        return texts;
-    }
+        return QVariant::fromValue(choicesOf(*node.parameter));
     default:
         return {};
     }

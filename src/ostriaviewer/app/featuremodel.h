@@ -26,8 +26,7 @@ public:
     enum Role {
         NameRole = Qt::UserRole, ///< the name of a feature or category, without translation
         EditorRole,              ///< a FeatureEditor; nothing for a category
-        ChoicesRole,             ///< names of the entries that can be chosen
-        ChoiceTextsRole          ///< the same for people
+        ChoicesRole              ///< the entries that can be chosen, a FeatureChoices
     };
 
     explicit FeatureModel(QObject* parent = nullptr);

@@ -203,16 +203,20 @@ QString writeFeature(IParameter& parameter, const QString& text)
     }
 }
 
-QVector<EnumerationEntry> choicesOf(IParameter& parameter)
+FeatureChoices choicesOf(IParameter& parameter)
 {
     const Patience limited(readingPatience);
+    const auto* choice = dynamic_cast<IEnumerationParameter*>(&parameter);
+    FeatureChoices choices;
     try {
-        if (auto* choice = dynamic_cast<IEnumerationParameter*>(&parameter))
-            return choice->entries();
+        if (choice)
+            for (const EnumerationEntry& entry : choice->entries())
+                if (entry.isSettable)
+                    choices.append({entry.name, entry.displayName});
     } catch (const GenICam::RuntimeException&) {
         return {};
     }
-    return {};
+    return choices;
 }
 
 } // namespace Viewer
