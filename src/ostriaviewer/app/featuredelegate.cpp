@@ -38,7 +38,10 @@ void FeatureDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     button.fontMetrics = option.fontMetrics;
     button.text = index.data(Qt::DisplayRole).toString();
     button.state = QStyle::State_Raised;
-    if (!index.data(Qt::ForegroundRole).isValid())
+    // The style draws a button by its state, but the text on it by the palette's group.
+    if (index.data(Qt::ForegroundRole).isValid())
+        button.palette.setCurrentColorGroup(QPalette::Disabled);
+    else
         button.state |= QStyle::State_Enabled;
     if (option.state & QStyle::State_Selected)
         button.state |= QStyle::State_HasFocus;
