@@ -67,12 +67,16 @@ QWidget* FeatureDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
     const auto choices = index.data(FeatureModel::ChoicesRole).value<FeatureChoices>();
     for (const FeatureChoice& choice : choices)
         list->addItem(choice.text, choice.name);
-    // A choice counts at once, without leaving the list first.
+    // A choice counts without leaving the list first, but after the key that chose: the list takes
+    // Return as a shortcut already, and the press that follows must find the list, not the table.
     auto* self = const_cast<FeatureDelegate*>(this);
-    connect(list, QOverload<int>::of(&QComboBox::activated), self, [self, list] {
-        emit self->commitData(list);
-        emit self->closeEditor(list);
-    });
+    connect(
+        list, QOverload<int>::of(&QComboBox::activated), list,
+        [self, list] {
+            emit self->commitData(list);
+            emit self->closeEditor(list);
+        },
+        Qt::QueuedConnection);
     return list;
 }
 

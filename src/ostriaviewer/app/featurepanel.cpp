@@ -5,13 +5,13 @@
 #include "checkoutline.h"
 #include "featuredelegate.h"
 #include "featuremodel.h"
+#include "featureview.h"
 
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace Viewer {
@@ -61,7 +61,7 @@ FeaturePanel::FeaturePanel(CameraList& cameras, DeviceSelectorService& selector,
     , m_model(new FeatureModel(this))
     , m_shown(new FeatureFilter(this))
     , m_filter(new QLineEdit(this))
-    , m_view(new QTreeView(this))
+    , m_view(new FeatureView(this))
     , m_hint(new QLabel(this))
 {
     m_shown->setSourceModel(m_model);
@@ -90,7 +90,6 @@ void FeaturePanel::makeView()
     m_view->setAlternatingRowColors(true);
     m_view->setUniformRowHeights(true);
     m_view->setIndentation(14);
-    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
     m_view->header()->resizeSection(FeatureModel::Name, 170);
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignCenter);
@@ -104,6 +103,7 @@ void FeaturePanel::makeView()
     CheckOutline::install(*m_view);
     connect(m_shown, &QAbstractItemModel::modelReset, this, &FeaturePanel::expand);
     connect(m_view, &QTreeView::clicked, this, &FeaturePanel::use);
+    connect(m_view, &FeatureView::used, this, &FeaturePanel::use);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         m_model->setWatched(m_shown->mapToSource(index), true);
         m_opened.insert(index.data(FeatureModel::NameRole).toString());
@@ -114,7 +114,7 @@ void FeaturePanel::makeView()
     });
 }
 
-// One click edits a value or presses a button.
+// One click or key edits a value or presses a button.
 void FeaturePanel::use(const QModelIndex& index)
 {
     if (index.column() != FeatureModel::Value)

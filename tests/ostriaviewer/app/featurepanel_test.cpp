@@ -88,7 +88,8 @@ TEST_F(FeaturePanelTest, ChoosesAnEntryOfAList)
     ASSERT_GE(row, 0);
     list->setCurrentIndex(row);
     emit list->activated(row);
-    EXPECT_EQ(parameters()->enumerationParameter("BalanceWhiteAuto")->value(), "Continuous");
+    const auto choice = parameters()->enumerationParameter("BalanceWhiteAuto");
+    EXPECT_TRUE(waitUntil([&] { return choice->value() == "Continuous"; }));
 }
 
 TEST_F(FeaturePanelTest, FollowsAChangeThatSomebodyElseMakes)
