@@ -2,6 +2,8 @@
 // The list in which the user selects a camera.
 #include "cameraselectorpanel.h"
 
+#include "plaintooltip.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QTreeWidget>
@@ -97,10 +99,8 @@ void CameraSelectorPanel::showState(const HostCameraPtr& camera)
     item->setText(State, name);
     const QString tip =
         tr("%1\nModel %2, %3").arg(camera->displayName(), camera->modelName(), name);
-    // Whatever a camera calls itself is no markup.
-    const QString plain = tip.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
     for (int column = 0; column < ColumnCount; ++column)
-        item->setToolTip(column, QStringLiteral("<qt>%1</qt>").arg(plain));
+        item->setToolTip(column, plainToolTip(tip));
     QFont font = m_tree->font();
     font.setBold(state == CameraState::Acquiring || state == CameraState::Recording);
     item->setFont(State, font);

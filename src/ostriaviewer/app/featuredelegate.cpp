@@ -38,7 +38,10 @@ void FeatureDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     button.fontMetrics = option.fontMetrics;
     button.text = index.data(Qt::DisplayRole).toString();
     button.state = QStyle::State_Raised;
-    if (!index.data(Qt::ForegroundRole).isValid())
+    // The style draws a button by its state, but the text on it by the palette's group.
+    if (index.data(Qt::ForegroundRole).isValid())
+        button.palette.setCurrentColorGroup(QPalette::Disabled);
+    else
         button.state |= QStyle::State_Enabled;
     if (option.state & QStyle::State_Selected)
         button.state |= QStyle::State_HasFocus;
@@ -61,16 +64,19 @@ QWidget* FeatureDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
         return line;
     }
     auto* list = new QComboBox(parent);
-    const QStringList names = index.data(FeatureModel::ChoicesRole).toStringList();
-    const QStringList texts = index.data(FeatureModel::ChoiceTextsRole).toStringList();
-    for (int row = 0; row < names.size(); ++row)
-        list->addItem(texts.at(row), names.at(row));
-    // A choice counts at once, without leaving the list first.
+    const auto choices = index.data(FeatureModel::ChoicesRole).value<FeatureChoices>();
+    for (const FeatureChoice& choice : choices)
+        list->addItem(choice.text, choice.name);
+    // A choice counts without leaving the list first, but after the key that chose: the list takes
+    // Return as a shortcut already, and the press that follows must find the list, not the table.
     auto* self = const_cast<FeatureDelegate*>(this);
-    connect(list, QOverload<int>::of(&QComboBox::activated), self, [self, list] {
-        emit self->commitData(list);
-        emit self->closeEditor(list);
-    });
+    connect(
+        list, QOverload<int>::of(&QComboBox::activated), list,
+        [self, list] {
+            emit self->commitData(list);
+            emit self->closeEditor(list);
+        },
+        Qt::QueuedConnection);
     return list;
 }
 

@@ -221,7 +221,7 @@ QVariant FeatureModel::data(const QModelIndex& index, int role) const
     if (role == NameRole)
         return shown.name;
     if (role == EditorRole)
-        return static_cast<int>(shown.editor);
+        return shown.parameter ? static_cast<int>(shown.editor) : QVariant();
     if (!shown.parameter)
         return role == Qt::DisplayRole && index.column() == Name ? shown.label : QVariant();
     if (role == Qt::ToolTipRole)
@@ -248,13 +248,7 @@ QVariant FeatureModel::valueData(const Node& node, int role) const
             return {};
         return node.state.written == QLatin1String("1") ? Qt::Checked : Qt::Unchecked;
     case ChoicesRole:
-    case ChoiceTextsRole: {
-        QStringList texts;
-        for (const EnumerationEntry& entry : choicesOf(*node.parameter))
-            if (entry.isSettable)
-                texts.append(role == ChoicesRole ? entry.name : entry.displayName);
-        return texts;
-    }
+        return QVariant::fromValue(choicesOf(*node.parameter));
     default:
         return {};
     }

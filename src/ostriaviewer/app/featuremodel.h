@@ -25,9 +25,8 @@ public:
     enum Column { Name, Value, ColumnCount };
     enum Role {
         NameRole = Qt::UserRole, ///< the name of a feature or category, without translation
-        EditorRole,              ///< a FeatureEditor
-        ChoicesRole,             ///< names of the entries that can be chosen
-        ChoiceTextsRole          ///< the same for people
+        EditorRole,              ///< a FeatureEditor; nothing for a category
+        ChoicesRole              ///< the entries that can be chosen, a FeatureChoices
     };
 
     explicit FeatureModel(QObject* parent = nullptr);

@@ -5,13 +5,13 @@
 #include "checkoutline.h"
 #include "featuredelegate.h"
 #include "featuremodel.h"
+#include "featureview.h"
 
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace Viewer {
@@ -21,8 +21,8 @@ using Cameras::HostCameraPtr;
 
 namespace {
 
-/// Keeps features whose name for people or name in the camera contains the words, and their
-/// categories.
+/// Keeps features whose name for people or name in the camera contains the words, or whose
+/// category's does, and the categories of those that are kept.
 class FeatureFilter final : public QSortFilterProxyModel
 {
 public:
@@ -31,11 +31,24 @@ public:
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override
     {
+        if (filterRegularExpression().pattern().isEmpty())
+            return true;
         const QModelIndex index = sourceModel()->index(row, FeatureModel::Name, parent);
-        return QSortFilterProxyModel::filterAcceptsRow(row, parent) ||
-               filterRegularExpression()
-                   .match(index.data(FeatureModel::NameRole).toString())
-                   .hasMatch();
+        if (!index.data(FeatureModel::EditorRole).isValid())
+            return false;
+        for (QModelIndex above = index; above.isValid(); above = above.parent())
+            if (fits(above))
+                return true;
+        return false;
+    }
+
+private:
+    bool fits(const QModelIndex& index) const
+    {
+        const auto contains = [this](const QVariant& name) {
+            return name.toString().contains(filterRegularExpression());
+        };
+        return contains(index.data()) || contains(index.data(FeatureModel::NameRole));
     }
 };
 
@@ -48,11 +61,10 @@ FeaturePanel::FeaturePanel(CameraList& cameras, DeviceSelectorService& selector,
     , m_model(new FeatureModel(this))
     , m_shown(new FeatureFilter(this))
     , m_filter(new QLineEdit(this))
-    , m_view(new QTreeView(this))
+    , m_view(new FeatureView(this))
     , m_hint(new QLabel(this))
 {
     m_shown->setSourceModel(m_model);
-    m_shown->setFilterKeyColumn(FeatureModel::Name);
     m_shown->setRecursiveFilteringEnabled(true);
     makeView();
     connect(m_filter, &QLineEdit::textChanged, this, &FeaturePanel::applyFilter);
@@ -78,7 +90,6 @@ void FeaturePanel::makeView()
     m_view->setAlternatingRowColors(true);
     m_view->setUniformRowHeights(true);
     m_view->setIndentation(14);
-    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
     m_view->header()->resizeSection(FeatureModel::Name, 170);
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignCenter);
@@ -92,6 +103,7 @@ void FeaturePanel::makeView()
     CheckOutline::install(*m_view);
     connect(m_shown, &QAbstractItemModel::modelReset, this, &FeaturePanel::expand);
     connect(m_view, &QTreeView::clicked, this, &FeaturePanel::use);
+    connect(m_view, &FeatureView::used, this, &FeaturePanel::use);
     connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) {
         m_model->setWatched(m_shown->mapToSource(index), true);
         m_opened.insert(index.data(FeatureModel::NameRole).toString());
@@ -102,7 +114,7 @@ void FeaturePanel::makeView()
     });
 }
 
-// One click edits a value or presses a button.
+// One click or key edits a value or presses a button.
 void FeaturePanel::use(const QModelIndex& index)
 {
     if (index.column() != FeatureModel::Value)

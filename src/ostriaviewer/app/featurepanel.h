@@ -11,11 +11,11 @@
 class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
-class QTreeView;
 
 namespace Viewer {
 
 class FeatureModel;
+class FeatureView;
 
 /// Thread-bound: GUI thread.
 class FeaturePanel final : public QWidget
@@ -49,7 +49,7 @@ private:
     FeatureModel* m_model;
     QSortFilterProxyModel* m_shown;
     QLineEdit* m_filter;
-    QTreeView* m_view;
+    FeatureView* m_view;
     QLabel* m_hint;
     Cameras::HostCameraPtr m_camera;
     Core::ParameterCollection::ParameterCollectionPtr m_features; // those that are shown

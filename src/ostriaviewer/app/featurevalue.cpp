@@ -4,6 +4,7 @@
 
 #include "genicamexception.h"
 #include "patience.h"
+#include "withoutfullstop.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -196,20 +197,26 @@ QString writeFeature(IParameter& parameter, const QString& text)
     } catch (const GenICam::RuntimeException& error) {
         const QString limits = readFeature(parameter).limits;
         const QString reason = QString::fromUtf8(error.what());
-        return limits.isEmpty() ? reason : Texts::tr("%1 (possible now: %2)").arg(reason, limits);
+        if (limits.isEmpty())
+            return reason;
+        return Texts::tr("%1 (possible now: %2).").arg(Core::withoutFullStop(reason), limits);
     }
 }
 
-QVector<EnumerationEntry> choicesOf(IParameter& parameter)
+FeatureChoices choicesOf(IParameter& parameter)
 {
     const Patience limited(readingPatience);
+    const auto* choice = dynamic_cast<IEnumerationParameter*>(&parameter);
+    FeatureChoices choices;
     try {
-        if (auto* choice = dynamic_cast<IEnumerationParameter*>(&parameter))
-            return choice->entries();
+        if (choice)
+            for (const EnumerationEntry& entry : choice->entries())
+                if (entry.isSettable)
+                    choices.append({entry.name, entry.displayName});
     } catch (const GenICam::RuntimeException&) {
         return {};
     }
-    return {};
+    return choices;
 }
 
 } // namespace Viewer

@@ -4,6 +4,7 @@
 
 #include "iparametercollection.h"
 
+#include <QMetaType>
 #include <QString>
 #include <QVector>
 
@@ -32,8 +33,19 @@ FeatureState readFeature(Core::ParameterCollection::IParameter& parameter);
 /// \return  empty, or why it was not written and what would be, for people
 QString writeFeature(Core::ParameterCollection::IParameter& parameter, const QString& text);
 
-/// The entries of a choice; none for other features.
-QVector<Core::ParameterCollection::EnumerationEntry>
-choicesOf(Core::ParameterCollection::IParameter& parameter);
+/// An entry of a choice. A plain value.
+struct FeatureChoice
+{
+    QString name; ///< as it is written
+    QString text; ///< for people
+};
+
+using FeatureChoices = QVector<FeatureChoice>;
+
+/// The entries that can be chosen now, of one answer of the camera; none for other features, or if
+/// it does not answer in time.
+FeatureChoices choicesOf(Core::ParameterCollection::IParameter& parameter);
 
 } // namespace Viewer
+
+Q_DECLARE_METATYPE(Viewer::FeatureChoice)

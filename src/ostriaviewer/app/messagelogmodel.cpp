@@ -2,6 +2,8 @@
 // The messages that the user sees, the oldest first.
 #include "messagelogmodel.h"
 
+#include "plaintooltip.h"
+
 #include <QApplication>
 #include <QLocale>
 #include <QStyle>
@@ -133,7 +135,7 @@ QVariant MessageLogModel::data(const QModelIndex& index, int role) const
         return text(shown, index.column());
     case Qt::ToolTipRole:
         return index.column() == Time ? QLocale().toString(shown.time, QLocale::LongFormat)
-                                      : text(shown, index.column());
+                                      : plainToolTip(text(shown, index.column()));
     case Qt::DecorationRole:
         if (index.column() == Level)
             return QApplication::style()->standardIcon(pixmapOf(shown.level));

@@ -2,6 +2,8 @@
 // Shows which plugins run, and why others do not.
 #include "pluginsdialog.h"
 
+#include "plaintooltip.h"
+
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QHeaderView>
@@ -22,10 +24,10 @@ PluginsDialog::PluginsDialog(const QList<PluginReport>& plugins, QWidget* parent
     for (const PluginReport& plugin : plugins) {
         const QString state = plugin.error.isEmpty() ? tr("Runs") : plugin.error;
         auto* item = new QTreeWidgetItem(list, {plugin.name, plugin.version, state});
+        const QString tip = plainToolTip(QDir::toNativeSeparators(plugin.file) + QLatin1Char('\n') +
+                                         plugin.description + QLatin1Char('\n') + state);
         for (int column = 0; column < list->columnCount(); ++column)
-            item->setToolTip(
-                column, QStringLiteral("%1\n%2\n%3")
-                            .arg(QDir::toNativeSeparators(plugin.file), plugin.description, state));
+            item->setToolTip(column, tip);
     }
     if (plugins.isEmpty())
         new QTreeWidgetItem(list, {tr("There are no plugins.")});

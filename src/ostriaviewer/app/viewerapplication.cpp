@@ -41,6 +41,7 @@ ViewerApplication::ViewerApplication(ViewerArguments arguments,
     registerServices();
     m_window = std::make_unique<MainWindow>(
         MainWindowParts{m_cameras, *m_selector, *m_menus, m_messages, m_settings});
+    m_dialogFocus = std::make_unique<DialogFocus>(*m_window);
     m_window->menu().showTheme(theme);
     m_window->menu().showLanguage(m_language);
     m_cameraSettings =

@@ -8,6 +8,7 @@
 #include "camerasources.h"
 #include "closingquestion.h"
 #include "deviceselectorservice.h"
+#include "dialogfocus.h"
 #include "language.h"
 #include "mainwindow.h"
 #include "menuservice.h"
@@ -84,6 +85,7 @@ private:
     CameraList m_cameras;
     CameraSources m_sources;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<DialogFocus> m_dialogFocus;
     std::unique_ptr<CameraSettingsCommands> m_cameraSettings;
     std::unique_ptr<ClosingQuestion> m_closingQuestion;
     bool m_isQuitting = false;

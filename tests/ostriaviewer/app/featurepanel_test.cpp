@@ -1,62 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // Features are shown as the camera has them, found by name, and written.
-#include "viewertest.h"
+#include "featurepaneltest.h"
 
-#include "featuremodel.h"
-
-#include <QAbstractItemView>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QTreeView>
 
 #include <cmath>
 
 namespace Viewer {
 namespace {
-
-class FeaturePanelTest : public ViewerTest
-{
-protected:
-    void SetUp() override
-    {
-        startViewer();
-        clickCamera(0);
-        window().commands().openAction()->trigger();
-        m_tree = child<QTreeView>("features");
-        ASSERT_TRUE(waitUntil([this] { return m_tree->isVisible(); }));
-    }
-
-    /// The value cell of a feature, seen and in view.
-    QModelIndex cell(const char* feature)
-    {
-        auto* filter = child<QLineEdit>("featureFilter");
-        filter->setText(feature);
-        const QModelIndexList found = m_tree->model()->match(
-            m_tree->model()->index(0, 0), FeatureModel::NameRole, QString::fromLatin1(feature), 1,
-            Qt::MatchExactly | Qt::MatchRecursive);
-        if (found.isEmpty())
-            return {};
-        const QModelIndex value = found.constFirst().siblingAtColumn(FeatureModel::Value);
-        m_tree->scrollTo(value);
-        return value;
-    }
-    QString text(const char* feature) { return cell(feature).data().toString(); }
-
-    template <typename Editor>
-    Editor* edit(const QModelIndex& index)
-    {
-        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {},
-                          m_tree->visualRect(index).center());
-        return m_tree->viewport()->findChild<Editor*>();
-    }
-
-    Core::ParameterCollection::ParameterCollectionPtr parameters() const
-    {
-        return m_first->parameterCollection();
-    }
-
-    QTreeView* m_tree = nullptr;
-};
 
 TEST_F(FeaturePanelTest, ShowsTheCamerasCategories)
 {
@@ -81,6 +32,18 @@ TEST_F(FeaturePanelTest, FilterFindsFeaturesByNameAndNothingElse)
     EXPECT_GT(m_tree->model()->rowCount(), 3);
 }
 
+TEST_F(FeaturePanelTest, FilterThatFitsACategoryShowsAllOfIt)
+{
+    for (const auto& category : parameters()->categories()) {
+        child<QLineEdit>("featureFilter")->setText(category.displayName);
+        waitForAnimations(window());
+        const QModelIndex shown = find(category.name);
+        ASSERT_TRUE(shown.isValid()) << qPrintable(category.name);
+        EXPECT_EQ(m_tree->model()->rowCount(shown), category.features.size());
+        EXPECT_TRUE(m_tree->isExpanded(shown)) << qPrintable(category.name);
+    }
+}
+
 TEST_F(FeaturePanelTest, WritesANumberThatIsTyped)
 {
     auto* editor = edit<QLineEdit>(cell("ExposureTime"));
@@ -102,6 +65,8 @@ TEST_F(FeaturePanelTest, TellsTheLimitsOfANumberThatIsRefused)
     QTest::keyClick(editor, Qt::Key_Return);
     EXPECT_TRUE(waitUntil([this] { return hasMessage("possible now"); }));
     EXPECT_TRUE(hasMessage("ExposureTime"));
+    EXPECT_FALSE(hasMessage(". (possible now")) << "a full stop within the sentence";
+    EXPECT_TRUE(hasMessage(").")) << "and none at its end";
     EXPECT_EQ(parameters()->floatParameter("ExposureTime")->value(), before);
 }
 
@@ -123,7 +88,8 @@ TEST_F(FeaturePanelTest, ChoosesAnEntryOfAList)
     ASSERT_GE(row, 0);
     list->setCurrentIndex(row);
     emit list->activated(row);
-    EXPECT_EQ(parameters()->enumerationParameter("BalanceWhiteAuto")->value(), "Continuous");
+    const auto choice = parameters()->enumerationParameter("BalanceWhiteAuto");
+    EXPECT_TRUE(waitUntil([&] { return choice->value() == "Continuous"; }));
 }
 
 TEST_F(FeaturePanelTest, FollowsAChangeThatSomebodyElseMakes)

@@ -140,6 +140,17 @@ TEST_F(MainWindowTest, LoadsPluginsAndTellsWhatCameOfThem)
     QTest::keyClick(dialog, Qt::Key_Escape);
 }
 
+TEST_F(MainWindowTest, TakesWhatAPluginSaysForNoMarkup)
+{
+    PluginReport report;
+    report.file = "/plugins/a<b.so";
+    report.description = "<b>good</b>";
+    report.error = "R&D";
+    const PluginsDialog dialog({report});
+    EXPECT_EQ(dialog.findChild<QTreeWidget*>("plugins")->topLevelItem(0)->toolTip(0),
+              "<qt>/plugins/a&lt;b.so<br>&lt;b&gt;good&lt;/b&gt;<br>R&amp;D</qt>");
+}
+
 TEST_F(MainWindowTest, TellsPluginsOfTheCameraThatIsSelectedFromTheBeginning)
 {
     QTemporaryDir plugins;

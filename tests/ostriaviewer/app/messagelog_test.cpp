@@ -58,6 +58,17 @@ TEST_F(MessageLogTest, ShowsWhatAnyThreadWritesToTheLog)
     EXPECT_EQ(m_model.message(99).level, Error);
 }
 
+// A camera's words may stand in it. As markup the tool tip is no wider than the screen.
+TEST_F(MessageLogTest, TakesNoTextForMarkupInAToolTip)
+{
+    m_service.addEntry(Warning, "<i>Camera</i>", "<b>5</b> & more\nlines", {});
+    const auto toolTip = [this](int column) {
+        return m_model.index(0, column).data(Qt::ToolTipRole).toString();
+    };
+    EXPECT_EQ(toolTip(MessageLogModel::Text), "<qt>&lt;b&gt;5&lt;/b&gt; &amp; more<br>lines</qt>");
+    EXPECT_EQ(toolTip(MessageLogModel::Source), "<qt>&lt;i&gt;Camera&lt;/i&gt;</qt>");
+}
+
 TEST_F(MessageLogTest, NamesTheViewersOwnPartsInTheUsersLanguage)
 {
     LanguageCatalogues catalogues;

@@ -708,8 +708,8 @@ Do you want to end the recording and close the viewer?</source>
         <translation>「%1」はこの機能に指定できる数値ではありません。</translation>
     </message>
     <message>
-        <source>%1 (possible now: %2)</source>
-        <translation>%1（現在設定できる値：%2）</translation>
+        <source>%1 (possible now: %2).</source>
+        <translation>%1（現在設定できる値：%2）。</translation>
     </message>
 </context>
 <context>

@@ -708,8 +708,8 @@ Do you want to end the recording and close the viewer?</source>
         <translation>&quot;%1&quot;은(는) 이 기능에 입력할 수 있는 숫자가 아닙니다.</translation>
     </message>
     <message>
-        <source>%1 (possible now: %2)</source>
-        <translation>%1 (현재 설정할 수 있는 값: %2)</translation>
+        <source>%1 (possible now: %2).</source>
+        <translation>%1(현재 설정할 수 있는 값: %2).</translation>
     </message>
 </context>
 <context>

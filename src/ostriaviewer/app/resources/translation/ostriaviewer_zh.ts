@@ -708,8 +708,8 @@ Do you want to end the recording and close the viewer?</source>
         <translation>“%1”不是此功能可接受的数字。</translation>
     </message>
     <message>
-        <source>%1 (possible now: %2)</source>
-        <translation>%1（当前可设置的值：%2）</translation>
+        <source>%1 (possible now: %2).</source>
+        <translation>%1（当前可设置的值：%2）。</translation>
     </message>
 </context>
 <context>
