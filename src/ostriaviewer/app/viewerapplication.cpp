@@ -122,6 +122,8 @@ void ViewerApplication::start()
 {
     m_window->restoreLayout();
     m_window->show();
+    // Without a window manager nobody else gives it the keys.
+    m_window->activateWindow();
     m_sources.apply(startSettings());
     loadPlugins();
     selectCamera();
