@@ -8,7 +8,7 @@
 #include <csetjmp>
 #include <new>
 
-namespace ColorCalibration {
+namespace Saving {
 namespace {
 
 /// libpng leaves a call that fails by a long jump.
@@ -103,4 +103,4 @@ EncodedPng encodePng(const QImage& image)
     }
 }
 
-} // namespace ColorCalibration
+} // namespace Saving
