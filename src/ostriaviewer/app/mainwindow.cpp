@@ -8,7 +8,6 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QStandardPaths>
 #include <QStatusBar>
 
 #include <utility>
@@ -33,6 +32,7 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     , m_selectorPanel(new CameraSelectorPanel(parts.cameras, parts.selector, this))
     , m_session(new LiveSession(parts.cameras, parts.selector, *m_view, this))
     , m_recording(new RecordingCommands(parts.cameras, *m_commands, parts.settings, this))
+    , m_saver(new PictureSaver(parts.settings, this))
     , m_features(new FeaturePanel(parts.cameras, parts.selector, this))
     , m_menu(new MainMenu(*menuBar(), parts.menus, *m_commands, *m_view, this))
     , m_tools(addToolBar(QString()))
@@ -114,6 +114,7 @@ void MainWindow::makeConnections()
     connect(m_selectorPanel, &CameraSelectorPanel::activated, m_commands, &CameraCommands::start);
     connect(m_commands, &CameraCommands::failed, this, &MainWindow::showFailure);
     connect(m_menu, &MainMenu::savePictureRequested, this, &MainWindow::savePicture);
+    connect(m_saver, &PictureSaver::failed, this, &MainWindow::showFailure);
     connect(m_menu, &MainMenu::quitRequested, this, &QWidget::close);
     connect(&m_parts.selector, &DeviceSelectorService::selectionChanged, m_recording,
             &RecordingCommands::update);
@@ -155,24 +156,10 @@ void MainWindow::showFailure(const QString& text)
 void MainWindow::savePicture()
 {
     const QImage picture = m_view->picture();
-    if (picture.isNull())
+    const Cameras::HostCameraPtr camera = m_commands->camera();
+    if (picture.isNull() || !camera)
         return showFailure(tr("There is no picture to save. Start a camera first."));
-    const QString folder =
-        m_parts.settings
-            .value(QStringLiteral("PictureFolder"),
-                   QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
-            .toString();
-    QString file = QFileDialog::getSaveFileName(this, tr("Save Picture"), folder,
-                                                tr("Pictures (*.png *.tif *.bmp *.jpg)"));
-    if (file.isEmpty())
-        return;
-    if (QFileInfo(file).suffix().isEmpty())
-        file += QStringLiteral(".png");
-    m_parts.settings.setValue(QStringLiteral("PictureFolder"), QFileInfo(file).absolutePath());
-    if (!picture.save(file))
-        showFailure(tr("%1 could not be written. Choose another folder or another kind of file, "
-                       "or make room on the disk.")
-                        .arg(QDir::toNativeSeparators(file)));
+    m_saver->save(picture, camera->modelName());
 }
 
 void MainWindow::chooseRecordingFolder()

@@ -12,6 +12,7 @@
 #include "mainmenu.h"
 #include "menuservice.h"
 #include "messagelogmodel.h"
+#include "picturesaver.h"
 #include "recordingcommands.h"
 #include "viewersettings.h"
 
@@ -90,6 +91,7 @@ private:
     CameraSelectorPanel* m_selectorPanel;
     LiveSession* m_session;
     RecordingCommands* m_recording;
+    PictureSaver* m_saver;
     FeaturePanel* m_features;
     MainMenu* m_menu;
     QToolBar* m_tools;

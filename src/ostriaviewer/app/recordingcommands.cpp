@@ -3,10 +3,10 @@
 #include "recordingcommands.h"
 
 #include "commandtext.h"
+#include "filenames.h"
 
-#include <QDateTime>
 #include <QDir>
-#include <QRegularExpression>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace Viewer {
@@ -18,14 +18,10 @@ namespace {
 
 const auto folderName = QStringLiteral("RecordingFolder");
 
-/// A name for a folder that every file system takes, and that stands in no other's way.
+/// A folder that stands in no other's way.
 QString newFolder(const QString& parent, const QString& camera)
 {
-    QString plain = camera;
-    plain.replace(QRegularExpression(QStringLiteral("[^\\w.-]+")), QStringLiteral("_"));
-    const QString time =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss"));
-    const QString name = QStringLiteral("%1/%2_%3").arg(parent, plain, time);
+    const QString name = QStringLiteral("%1/%2").arg(parent, fileNameNow(camera));
     QString free = name;
     for (int number = 2; QFileInfo::exists(free); ++number)
         free = QStringLiteral("%1_%2").arg(name).arg(number);

@@ -836,18 +836,6 @@ Do you want to end the recording and close the viewer?</source>
         <translation>저장할 이미지가 없습니다. 먼저 카메라의 이미지 획득을 시작하십시오.</translation>
     </message>
     <message>
-        <source>Save Picture</source>
-        <translation>이미지 저장</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
-        <translation>이미지 (*.png *.tif *.bmp *.jpg)</translation>
-    </message>
-    <message>
-        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
-        <translation>%1 파일을 쓰지 못했습니다. 다른 폴더나 파일 형식을 선택하거나 디스크의 여유 공간을 늘리십시오.</translation>
-    </message>
-    <message>
         <source>Recording Folder</source>
         <translation>녹화 폴더</translation>
     </message>
@@ -979,6 +967,21 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Cameras</source>
         <translation>카메라</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::PictureSaver</name>
+    <message>
+        <source>Save Picture</source>
+        <translation>이미지 저장</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
+        <translation>이미지 (*.png *.tif *.bmp *.jpg)</translation>
+    </message>
+    <message>
+        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
+        <translation>%1 파일을 쓰지 못했습니다. 다른 폴더나 파일 형식을 선택하거나 디스크의 여유 공간을 늘리십시오.</translation>
     </message>
 </context>
 <context>
