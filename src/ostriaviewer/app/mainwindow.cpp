@@ -88,10 +88,12 @@ void MainWindow::makeToolBar()
 
 void MainWindow::makeStatusBar()
 {
-    for (QLabel** label : {&m_pixel, &m_rate, &m_scale}) {
+    for (QLabel** label : {&m_ending, &m_pixel, &m_rate, &m_scale}) {
         *label = new QLabel(this);
         statusBar()->addPermanentWidget(*label);
     }
+    m_ending->setObjectName(QStringLiteral("ending"));
+    m_ending->setMinimumWidth(1); // long names of cameras do not widen the window
     m_pixel->setObjectName(QStringLiteral("pixel"));
     m_rate->setObjectName(QStringLiteral("rate"));
     m_scale->setObjectName(QStringLiteral("scale"));
@@ -120,6 +122,7 @@ void MainWindow::makeConnections()
             &RecordingCommands::update);
     connect(m_recording, &RecordingCommands::folderRequested, this,
             &MainWindow::chooseRecordingFolder);
+    connect(m_recording, &RecordingCommands::endingChanged, this, &MainWindow::showEnding);
     connect(m_view, &LiveView::pixelHovered, this, &MainWindow::showPixel);
     connect(m_view, &LiveView::scaleChanged, this, &MainWindow::showScale);
     connect(m_session, &LiveSession::rateMeasured, this, &MainWindow::showRate);
@@ -200,6 +203,13 @@ void MainWindow::showRate(double perSecond)
     m_rate->setText(perSecond > 0.0 ? tr("%1 pictures/s").arg(perSecond, 0, 'f', 1) : QString());
 }
 
+void MainWindow::showEnding()
+{
+    const QString cameras = m_recording->ending().join(QStringLiteral(", "));
+    m_ending->setText(cameras.isEmpty() ? QString()
+                                        : tr("Writing the last pictures of %1.").arg(cameras));
+}
+
 // Whoever has hidden the messages still learns of what went wrong.
 void MainWindow::showMessage(const LogMessage& message)
 {
@@ -234,6 +244,7 @@ void MainWindow::retranslate()
     m_recording->retranslate();
     m_menu->retranslate();
     m_session->retranslate();
+    showEnding();
     showScale();
 }
 

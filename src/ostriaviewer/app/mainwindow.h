@@ -81,6 +81,7 @@ private:
     void showPixel(const QPoint& pixel);
     void showScale();
     void showRate(double perSecond);
+    void showEnding();
     void showMessage(const LogMessage& message);
     void retranslate();
 
@@ -98,6 +99,7 @@ private:
     QDockWidget* m_cameraDock;
     QDockWidget* m_messageDock;
     QDockWidget* m_featureDock;
+    QLabel* m_ending;
     QLabel* m_pixel;
     QLabel* m_rate;
     QLabel* m_scale;

@@ -174,6 +174,12 @@ void Recorder::stop()
     m_queue->end();
 }
 
+bool Recorder::isEnding() const
+{
+    const std::lock_guard lock(m_queue->mutex);
+    return m_queue->isEnding;
+}
+
 void Recorder::run(const std::shared_ptr<Queue>& queue)
 {
     Ostria::CImageFormatConverter converter;

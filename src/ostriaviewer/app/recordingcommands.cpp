@@ -84,10 +84,21 @@ QStringList RecordingCommands::recorded() const
     return names;
 }
 
+QStringList RecordingCommands::ending() const
+{
+    QStringList names;
+    for (auto recorder = m_recorders.begin(); recorder != m_recorders.end(); ++recorder)
+        if (recorder.value()->isEnding())
+            names.append(recorder.key()->displayName());
+    names.sort();
+    return names;
+}
+
 void RecordingCommands::stopAll()
 {
     for (Recorder* recorder : m_recorders)
         recorder->stop();
+    update();
 }
 
 void RecordingCommands::toggle(bool isWanted)
@@ -95,10 +106,9 @@ void RecordingCommands::toggle(bool isWanted)
     const HostCameraPtr camera = m_commands.camera();
     if (!camera)
         return;
-    if (isWanted)
-        start(camera);
-    else
-        stop(camera.data());
+    if (!isWanted)
+        return stop(camera.data());
+    start(camera);
     update();
 }
 
@@ -130,20 +140,27 @@ void RecordingCommands::stop(const HostCamera* camera)
 {
     if (Recorder* recorder = m_recorders.value(camera))
         recorder->stop();
+    update();
+}
+
+bool RecordingCommands::isEnding(const HostCamera* camera) const
+{
+    const Recorder* recorder = m_recorders.value(camera);
+    return recorder && recorder->isEnding();
 }
 
 void RecordingCommands::onStateChanged(const HostCameraPtr& camera)
 {
     if (!camera->isGrabbing())
         stop(camera.data());
-    update();
+    else
+        update();
 }
 
 // What such a camera does is not told any more.
 void RecordingCommands::onRemoved(const HostCameraPtr& camera)
 {
     stop(camera.data());
-    update();
 }
 
 void RecordingCommands::onFinished(const HostCameraPtr& camera, const RecordingResult& result)
@@ -178,8 +195,10 @@ void RecordingCommands::update()
 {
     const HostCameraPtr camera = m_commands.camera();
     const bool isRecording = camera && m_cameras.pool().recordings()->isRecording(camera.data());
-    m_record->setEnabled(camera != nullptr);
-    m_record->setChecked(isRecording);
+    const bool isWriting = isEnding(camera.data());
+    m_record->setEnabled(camera && !isWriting);
+    m_record->setChecked(isRecording && !isWriting);
+    emit endingChanged();
 }
 
 void RecordingCommands::retranslate()

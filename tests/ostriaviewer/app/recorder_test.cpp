@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Recordings are whole, tell what is missing, and count as activity while they run.
+#include "fulldisk.h"
 #include "viewertest.h"
 
 #include "recorder.h"
@@ -8,11 +9,9 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace Viewer {
 namespace {
@@ -63,6 +62,41 @@ TEST_F(RecorderTest, WritesWholePicturesNumberedAsTheCameraNumbersThem)
             << qPrintable(name);
         EXPECT_EQ(QImage(recording().filePath(name)).size(), QSize(96, 64)) << qPrintable(name);
     }
+}
+
+// What ends a recording waits in the event queue until the test waits for it.
+TEST_F(RecorderTest, ShowsThatItEndsAndBeginsNothingMeanwhile)
+{
+    startRecording();
+    ASSERT_TRUE(waitUntil([this] { return recording().entryList({"*.png"}).size() >= 2; }));
+    QAction* record = window().recording().recordAction();
+    auto* ending = child<QLabel>("ending");
+    EXPECT_TRUE(record->isEnabled() && record->isChecked());
+    EXPECT_EQ(ending->text(), "");
+    QTest::keyClick(&window(), Qt::Key_F7);
+    EXPECT_FALSE(record->isEnabled());
+    EXPECT_FALSE(record->isChecked());
+    EXPECT_EQ(ending->text(), "Writing the last pictures of " + m_first->displayName() + ".");
+    EXPECT_TRUE(ending->isVisible());
+    EXPECT_TRUE(isBusy());
+    QTest::keyClick(&window(), Qt::Key_F7);
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    EXPECT_TRUE(record->isEnabled());
+    EXPECT_FALSE(record->isChecked());
+    EXPECT_EQ(ending->text(), "");
+    EXPECT_TRUE(recording().exists()) << "one recording alone";
+}
+
+TEST_F(RecorderTest, ShowsThatItEndsAlsoWhereTheHostEndsIt)
+{
+    startRecording();
+    ASSERT_TRUE(waitUntil([this] { return recording().entryList({"*.png"}).size() >= 2; }));
+    window().recording().stopAll();
+    EXPECT_FALSE(window().recording().recordAction()->isEnabled());
+    clickCamera(1);
+    EXPECT_TRUE(window().recording().recordAction()->isEnabled()) << "of another camera";
+    EXPECT_FALSE(child<QLabel>("ending")->text().isEmpty());
+    EXPECT_TRUE(waitUntil([this] { return child<QLabel>("ending")->text().isEmpty(); }));
 }
 
 TEST_F(RecorderTest, EndsWithTheHostsStopOfAllActivity)
@@ -224,22 +258,16 @@ TEST_F(RecorderTest, TellsThatTheFolderCannotBeMade)
     EXPECT_FALSE(window().recording().recordAction()->isChecked());
 }
 
-// A limit on the size of files fails writes as a full disk does.
 TEST_F(RecorderTest, EndsWithAMessageWhenTheDiskIsFullAndLeavesNoHalfFile)
 {
-    auto* previous = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit;
-    getrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit full = {0, limit.rlim_max};
     startViewer();
     window().recording().setFolder(target());
     clickCamera(0);
-    setrlimit(RLIMIT_FSIZE, &full);
-    QTest::keyClick(&window(), Qt::Key_F7);
-    const bool isTold = waitUntil([this] { return hasMessage("Make room on the disk"); });
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, previous);
-    EXPECT_TRUE(isTold);
+    {
+        const FullDisk disk;
+        QTest::keyClick(&window(), Qt::Key_F7);
+        EXPECT_TRUE(waitUntil([this] { return hasMessage("Make room on the disk"); }));
+    }
     EXPECT_TRUE(recording().entryList(QDir::Files).isEmpty());
     ASSERT_TRUE(waitUntil([] { return messageBox() != nullptr; }));
     QTest::keyClick(messageBox(), Qt::Key_Return);

@@ -871,6 +871,10 @@ Do you want to end the recording and close the viewer?</source>
         <source>Camera tools</source>
         <translation>カメラツール</translation>
     </message>
+    <message>
+        <source>Writing the last pictures of %1.</source>
+        <translation>%1 の残りの画像を書き込んでいます。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::MessageLogModel</name>

@@ -871,6 +871,10 @@ Do you want to end the recording and close the viewer?</source>
         <source>Camera tools</source>
         <translation>카메라 도구</translation>
     </message>
+    <message>
+        <source>Writing the last pictures of %1.</source>
+        <translation>%1 카메라의 남은 이미지를 저장하고 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::MessageLogModel</name>

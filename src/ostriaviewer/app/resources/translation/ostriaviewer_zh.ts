@@ -871,6 +871,10 @@ Do you want to end the recording and close the viewer?</source>
         <source>Camera tools</source>
         <translation>相机工具</translation>
     </message>
+    <message>
+        <source>Writing the last pictures of %1.</source>
+        <translation>正在写入 %1 的剩余图像。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::MessageLogModel</name>
