@@ -212,6 +212,38 @@ TEST_F(ClosedWhileRecording, ClosesWhereTheRecordingHasEndedByItself)
     EXPECT_FALSE(window().isVisible());
 }
 
+TEST_F(ClosedWhileRecording, StaysOpenWhereTheLastPicturesCouldNotBeWritten)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    const FullDisk disk;
+    constexpr std::uint64_t afterAllOthers = 1'000'000;
+    emit m_first->cameraImageGrabbed(
+        m_first, std::make_shared<Ostria::CGrabResult>(
+                     Ostria::COstriaImage(Ostria::PixelType::Mono8, 8, 8), afterAllOthers));
+    answer("&End Recording");
+    ASSERT_TRUE(waitUntil([this] { return hasMessage("Make room on the disk"); }));
+    ASSERT_TRUE(waitUntil([this] { return window().recording().recorded().isEmpty(); }));
+    ASSERT_TRUE(window().isVisible());
+    ASSERT_TRUE(waitUntil([] { return messageBox() != nullptr; }));
+    QTest::keyClick(messageBox(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window().isVisible());
+}
+
+// Of two recordings one may have failed, and that have been read, before the other has ended.
+TEST_F(ClosedWhileRecording, StaysOpenWhereAnotherRecordingHasFailed)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    answer("&End Recording");
+    emit window().recording().reported("The recording of another camera ended.", true);
+    ASSERT_TRUE(messageBox());
+    EXPECT_EQ(messageBox()->text(), "The recording of another camera ended.");
+    QTest::keyClick(messageBox(), Qt::Key_Return);
+    ASSERT_FALSE(messageBox());
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    EXPECT_TRUE(window().isVisible());
+}
+
 TEST_F(ClosedWhileRecording, QuittingAsksNothing)
 {
     startRecording();
