@@ -6,11 +6,17 @@
 #include "wholefile.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImageWriter>
 
 namespace Viewer {
 namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Viewer::PictureFile)
+};
 
 /// A picture in the format of a file, or why there is none.
 struct Encoded
@@ -22,8 +28,10 @@ struct Encoded
 Encoded encoded(const QImage& picture, const QByteArray& format)
 {
     if (format == "png") {
-        const Saving::EncodedPng png = Saving::encodePng(picture);
-        return {png.bytes, png.problem};
+        const Saving::EncodedPng png = Saving::encodePngQuickly(picture);
+        if (png.problem.isEmpty())
+            return {png.bytes, {}};
+        return {{}, Texts::tr("There is not enough memory for the picture.")};
     }
     Encoded file;
     QBuffer buffer(&file.bytes);

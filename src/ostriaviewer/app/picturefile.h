@@ -9,8 +9,8 @@ namespace Viewer {
 
 /// Writes a picture into a file of the kind that its suffix names. The file is whole or, after a
 /// failure, as it was before. Reentrant.
-/// \param picture  opaque, up to 8 bits a channel
-/// \return  empty, or why it could not be written
+/// \param picture  not null, opaque, up to 8 bits a channel
+/// \return  empty, or why it could not be written, for people
 QString writePictureFile(const QImage& picture, const QString& path);
 
 } // namespace Viewer

@@ -3,6 +3,7 @@
 #include "fulldisk.h"
 #include "viewertest.h"
 
+#include "picturefile.h"
 #include "recorder.h"
 
 #include <QCloseEvent>
@@ -12,6 +13,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
+
+#include <algorithm>
+#include <array>
 
 namespace Viewer {
 namespace {
@@ -319,6 +323,31 @@ TEST_F(RecorderTest, AdvisesAnotherFormatWhereAPictureCannotBeConverted)
     EXPECT_EQ(told,
               "A picture could not be converted (A mosaic of 8 x 2 pixels is too small, "
               "interpolation needs 4 x 3). Choose another pixel format or another image size.");
+}
+
+TEST_F(RecorderTest, WritesThePixelsOfTheCamera)
+{
+    Ostria::COstriaImage image(Ostria::PixelType::RGB8, 2, 1);
+    const std::array<std::uint8_t, 6> colors = {10, 20, 30, 250, 0, 7};
+    std::copy(colors.begin(), colors.end(), image.writableData());
+    {
+        Recorder recorder;
+        ASSERT_EQ(recorder.start(m_first, target() + "/taken"), "");
+        emit m_first->cameraImageGrabbed(
+            m_first, std::make_shared<Ostria::CGrabResult>(std::move(image), 1));
+    }
+    const QImage written(target() + "/taken/000001.png");
+    ASSERT_EQ(written.size(), QSize(2, 1));
+    EXPECT_EQ(written.pixel(0, 0), qRgb(10, 20, 30));
+    EXPECT_EQ(written.pixel(1, 0), qRgb(250, 0, 7));
+}
+
+TEST_F(RecorderTest, TellsThatAPictureHasNoRoomInMemory)
+{
+    // Its bits fit, but no computer's QImage holds its rows in colors.
+    EXPECT_EQ(writePictureFile(QImage(100'000'000, 1, QImage::Format_Mono), target() + "/a.png"),
+              "There is not enough memory for the picture.");
+    EXPECT_TRUE(QDir(target()).isEmpty());
 }
 
 TEST_F(RecorderTest, WritesWhatItHasTakenBeforeItEnds)

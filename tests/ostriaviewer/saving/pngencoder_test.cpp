@@ -10,6 +10,7 @@
 
 using Saving::EncodedPng;
 using Saving::encodePng;
+using Saving::encodePngQuickly;
 
 namespace {
 
@@ -46,8 +47,9 @@ TEST(EncodePng, ColorsComeBackPixelByPixel)
 {
     for (const QSize& size : {QSize(1, 1), QSize(1, 9), QSize(9, 1), QSize(333, 127)}) {
         const QImage image = picture(size.width(), size.height());
-        EXPECT_EQ(decoded(encodePng(image).bytes).convertToFormat(QImage::Format_RGB32), image)
-            << size.width() << " x " << size.height();
+        for (const auto encode : {encodePng, encodePngQuickly})
+            EXPECT_EQ(decoded(encode(image).bytes).convertToFormat(QImage::Format_RGB32), image)
+                << size.width() << " x " << size.height();
     }
 }
 

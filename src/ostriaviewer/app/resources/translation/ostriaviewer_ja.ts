@@ -974,6 +974,13 @@ Do you want to end the recording and close the viewer?</source>
     </message>
 </context>
 <context>
+    <name>Viewer::PictureFile</name>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>画像を処理するためのメモリが不足しています。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PictureSaver</name>
     <message>
         <source>Save Picture</source>
