@@ -11,6 +11,7 @@ PLUGIN = "src/ostriaviewer/plugins/colorcalibration"
 LAYERS = {
     "src/ostria": [],
     "src/ostriaviewer/core": ["src/ostria"],
+    "src/ostriaviewer/saving": [],
     "src/ostriaviewer/cameras/genicam": ["src/ostria", "src/ostriaviewer/core"],
     "src/ostriaviewer/cameras/genicam/devices": [
         "src/ostria",
@@ -38,6 +39,7 @@ LAYERS = {
     "src/ostriaviewer/app": [
         "src/ostria",
         "src/ostriaviewer/core",
+        "src/ostriaviewer/saving",
         "src/ostriaviewer/cameras/genicam",
         "src/ostriaviewer/cameras/genicam/devices",
         "src/ostriaviewer/cameras/pool",
@@ -54,6 +56,7 @@ LAYERS = {
     f"{PLUGIN}/internal/model/report": [
         "src/ostria",
         "src/ostriaviewer/core",
+        "src/ostriaviewer/saving",
         f"{PLUGIN}/internal/model/calibration",
         f"{PLUGIN}/internal/model/chart",
     ],
@@ -98,6 +101,7 @@ LAYERS = {
 QT = re.compile(r"Q[A-Z]\w*(/\w+)?|Qt\w+|qt\w+\.h")
 DLIB = re.compile(r"dlib/.*")
 OPENCV = re.compile(r"opencv2/.*")
+PNG = re.compile(r"png\.h|zlib\.h")
 ARAVIS = re.compile(r"arv.*\.h|glib.*|gio/.*|gobject/.*")
 ENGINE = f"{PLUGIN}/internal/model/calibration"
 WITHOUT_QT = ["src/ostria", "src/ostriaviewer/cameras/emulation/renderer", ENGINE]
@@ -105,6 +109,7 @@ LIBRARIES = [
     ("Qt", QT, [layer for layer in LAYERS if layer not in WITHOUT_QT], (".h", ".cpp")),
     ("dlib", DLIB, [f"{ENGINE}/dlibmatrix.h"], (".h",)),
     ("OpenCV", OPENCV, ["src/ostria"], (".cpp",)),
+    ("libpng", PNG, ["src/ostriaviewer/saving"], (".cpp",)),
     (
         "Aravis",
         ARAVIS,

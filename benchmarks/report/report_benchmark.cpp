@@ -17,6 +17,7 @@
 namespace {
 
 using namespace ColorCalibration;
+using Saving::encodePng;
 
 /// The worst case: noise of a sensor that grows with nothing, in three channels that have nothing
 /// to do with each other, of which compression finds no end.

@@ -13,6 +13,10 @@ ClosingQuestion::ClosingQuestion(RecordingCommands& recordings, QWidget& window,
 {
     // Who records again while the last pictures are written has thought better of it.
     connect(&recordings, &RecordingCommands::begun, this, [this] { m_isAgreed = false; });
+    // What went wrong is to be read in a window that stays.
+    connect(
+        &recordings, &RecordingCommands::reported, this,
+        [this](const QString& /*text*/, bool isFailure) { m_isAgreed = m_isAgreed && !isFailure; });
     connect(&recordings, &RecordingCommands::allEnded, this, [this] {
         if (m_isAgreed)
             m_window.close();

@@ -8,7 +8,6 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QStandardPaths>
 #include <QStatusBar>
 
 #include <utility>
@@ -33,6 +32,7 @@ MainWindow::MainWindow(const MainWindowParts& parts)
     , m_selectorPanel(new CameraSelectorPanel(parts.cameras, parts.selector, this))
     , m_session(new LiveSession(parts.cameras, parts.selector, *m_view, this))
     , m_recording(new RecordingCommands(parts.cameras, *m_commands, parts.settings, this))
+    , m_saver(new PictureSaver(parts.settings, this))
     , m_features(new FeaturePanel(parts.cameras, parts.selector, this))
     , m_menu(new MainMenu(*menuBar(), parts.menus, *m_commands, *m_view, this))
     , m_tools(addToolBar(QString()))
@@ -88,10 +88,12 @@ void MainWindow::makeToolBar()
 
 void MainWindow::makeStatusBar()
 {
-    for (QLabel** label : {&m_pixel, &m_rate, &m_scale}) {
+    for (QLabel** label : {&m_ending, &m_pixel, &m_rate, &m_scale}) {
         *label = new QLabel(this);
         statusBar()->addPermanentWidget(*label);
     }
+    m_ending->setObjectName(QStringLiteral("ending"));
+    m_ending->setMinimumWidth(1); // long names of cameras do not widen the window
     m_pixel->setObjectName(QStringLiteral("pixel"));
     m_rate->setObjectName(QStringLiteral("rate"));
     m_scale->setObjectName(QStringLiteral("scale"));
@@ -114,11 +116,13 @@ void MainWindow::makeConnections()
     connect(m_selectorPanel, &CameraSelectorPanel::activated, m_commands, &CameraCommands::start);
     connect(m_commands, &CameraCommands::failed, this, &MainWindow::showFailure);
     connect(m_menu, &MainMenu::savePictureRequested, this, &MainWindow::savePicture);
+    connect(m_saver, &PictureSaver::failed, this, &MainWindow::showFailure);
     connect(m_menu, &MainMenu::quitRequested, this, &QWidget::close);
     connect(&m_parts.selector, &DeviceSelectorService::switched, m_recording,
             &RecordingCommands::update);
     connect(m_recording, &RecordingCommands::folderRequested, this,
             &MainWindow::chooseRecordingFolder);
+    connect(m_recording, &RecordingCommands::endingChanged, this, &MainWindow::showEnding);
     connect(m_view, &LiveView::pixelHovered, this, &MainWindow::showPixel);
     connect(m_view, &LiveView::scaleChanged, this, &MainWindow::showScale);
     connect(m_session, &LiveSession::rateMeasured, this, &MainWindow::showRate);
@@ -155,24 +159,10 @@ void MainWindow::showFailure(const QString& text)
 void MainWindow::savePicture()
 {
     const QImage picture = m_view->picture();
-    if (picture.isNull())
+    const Cameras::HostCameraPtr camera = m_commands->camera();
+    if (picture.isNull() || !camera)
         return showFailure(tr("There is no picture to save. Start a camera first."));
-    const QString folder =
-        m_parts.settings
-            .value(QStringLiteral("PictureFolder"),
-                   QStandardPaths::writableLocation(QStandardPaths::PicturesLocation))
-            .toString();
-    QString file = QFileDialog::getSaveFileName(this, tr("Save Picture"), folder,
-                                                tr("Pictures (*.png *.tif *.bmp *.jpg)"));
-    if (file.isEmpty())
-        return;
-    if (QFileInfo(file).suffix().isEmpty())
-        file += QStringLiteral(".png");
-    m_parts.settings.setValue(QStringLiteral("PictureFolder"), QFileInfo(file).absolutePath());
-    if (!picture.save(file))
-        showFailure(tr("%1 could not be written. Choose another folder or another kind of file, "
-                       "or make room on the disk.")
-                        .arg(QDir::toNativeSeparators(file)));
+    m_saver->save(picture, camera->modelName());
 }
 
 void MainWindow::chooseRecordingFolder()
@@ -213,6 +203,13 @@ void MainWindow::showRate(double perSecond)
     m_rate->setText(perSecond > 0.0 ? tr("%1 pictures/s").arg(perSecond, 0, 'f', 1) : QString());
 }
 
+void MainWindow::showEnding()
+{
+    const QString cameras = m_recording->ending().join(QStringLiteral(", "));
+    m_ending->setText(cameras.isEmpty() ? QString()
+                                        : tr("Writing the last pictures of %1.").arg(cameras));
+}
+
 // Whoever has hidden the messages still learns of what went wrong.
 void MainWindow::showMessage(const LogMessage& message)
 {
@@ -247,6 +244,7 @@ void MainWindow::retranslate()
     m_recording->retranslate();
     m_menu->retranslate();
     m_session->retranslate();
+    showEnding();
     showScale();
 }
 

@@ -12,6 +12,7 @@
 #include "mainmenu.h"
 #include "menuservice.h"
 #include "messagelogmodel.h"
+#include "picturesaver.h"
 #include "recordingcommands.h"
 #include "viewersettings.h"
 
@@ -80,6 +81,7 @@ private:
     void showPixel(const QPoint& pixel);
     void showScale();
     void showRate(double perSecond);
+    void showEnding();
     void showMessage(const LogMessage& message);
     void retranslate();
 
@@ -90,12 +92,14 @@ private:
     CameraSelectorPanel* m_selectorPanel;
     LiveSession* m_session;
     RecordingCommands* m_recording;
+    PictureSaver* m_saver;
     FeaturePanel* m_features;
     MainMenu* m_menu;
     QToolBar* m_tools;
     QDockWidget* m_cameraDock;
     QDockWidget* m_messageDock;
     QDockWidget* m_featureDock;
+    QLabel* m_ending;
     QLabel* m_pixel;
     QLabel* m_rate;
     QLabel* m_scale;

@@ -4,11 +4,10 @@
 
 #include "framebuffers.h"
 #include "imageformatconverter.h"
+#include "picturefile.h"
 #include "withoutfullstop.h"
 
 #include <QDir>
-#include <QImageWriter>
-#include <QSaveFile>
 
 #include <condition_variable>
 #include <deque>
@@ -19,31 +18,9 @@
 namespace Viewer {
 namespace {
 
-// Hardly any compression: files half as large take five times as long to write.
-constexpr int quality = 85;
-
 QString fileName(std::uint64_t number)
 {
     return QStringLiteral("%1.png").arg(number, 6, 10, QLatin1Char('0'));
-}
-
-/// A file appears whole or not at all.
-/// \return  empty, or why it could not be written
-QString writePicture(const QImage& picture, const QString& name)
-{
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    QImageWriter writer(&file, "png");
-    writer.setQuality(quality);
-    // What is only found out when the file is closed, a commit does not notice.
-    if (!writer.write(picture) || !file.flush() || file.error() != QFileDevice::NoError) {
-        const QString reason =
-            file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
-        file.cancelWriting();
-        return reason;
-    }
-    return file.commit() ? QString() : file.errorString();
 }
 
 QString diskProblem(const QString& reason)
@@ -174,6 +151,12 @@ void Recorder::stop()
     m_queue->end();
 }
 
+bool Recorder::isEnding() const
+{
+    const std::lock_guard lock(m_queue->mutex);
+    return m_queue->isEnding;
+}
+
 void Recorder::run(const std::shared_ptr<Queue>& queue)
 {
     Ostria::CImageFormatConverter converter;
@@ -184,8 +167,9 @@ void Recorder::run(const std::shared_ptr<Queue>& queue)
         try {
             auto image = buffers.take();
             converter.Convert(*image, frame->image());
-            const QString reason = writePicture(buffers.toPicture(std::move(image)),
-                                                folder.filePath(fileName(frame->frameNumber())));
+            const QString reason =
+                writePictureFile(buffers.toPicture(std::move(image)),
+                                 folder.filePath(fileName(frame->frameNumber())));
             queue->note(reason.isEmpty() ? reason : diskProblem(reason));
         } catch (const std::exception& error) {
             queue->note(pictureProblem(QString::fromUtf8(error.what())));

@@ -48,6 +48,9 @@ public:
     /// Takes no further images; finished tells when those taken are written.
     void stop();
 
+    /// Whether no further images are taken, while those taken may still be written.
+    bool isEnding() const;
+
 signals:
     /// Emitted once after start.
     void finished(const Viewer::RecordingResult& result);

@@ -3,10 +3,10 @@
 #include "recordingcommands.h"
 
 #include "commandtext.h"
+#include "filenames.h"
 
-#include <QDateTime>
 #include <QDir>
-#include <QRegularExpression>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace Viewer {
@@ -18,14 +18,10 @@ namespace {
 
 const auto folderName = QStringLiteral("RecordingFolder");
 
-/// A name for a folder that every file system takes, and that stands in no other's way.
+/// A folder that stands in no other's way.
 QString newFolder(const QString& parent, const QString& camera)
 {
-    QString plain = camera;
-    plain.replace(QRegularExpression(QStringLiteral("[^\\w.-]+")), QStringLiteral("_"));
-    const QString time =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss"));
-    const QString name = QStringLiteral("%1/%2_%3").arg(parent, plain, time);
+    const QString name = QStringLiteral("%1/%2").arg(parent, fileNameNow(camera));
     QString free = name;
     for (int number = 2; QFileInfo::exists(free); ++number)
         free = QStringLiteral("%1_%2").arg(name).arg(number);
@@ -88,10 +84,21 @@ QStringList RecordingCommands::recorded() const
     return names;
 }
 
+QStringList RecordingCommands::ending() const
+{
+    QStringList names;
+    for (auto recorder = m_recorders.begin(); recorder != m_recorders.end(); ++recorder)
+        if (recorder.value()->isEnding())
+            names.append(recorder.key()->displayName());
+    names.sort();
+    return names;
+}
+
 void RecordingCommands::stopAll()
 {
     for (Recorder* recorder : m_recorders)
         recorder->stop();
+    update();
 }
 
 void RecordingCommands::toggle(bool isWanted)
@@ -99,10 +106,9 @@ void RecordingCommands::toggle(bool isWanted)
     const HostCameraPtr camera = m_commands.camera();
     if (!camera)
         return;
-    if (isWanted)
-        start(camera);
-    else
-        stop(camera.data());
+    if (!isWanted)
+        return stop(camera.data());
+    start(camera);
     update();
 }
 
@@ -134,20 +140,27 @@ void RecordingCommands::stop(const HostCamera* camera)
 {
     if (Recorder* recorder = m_recorders.value(camera))
         recorder->stop();
+    update();
+}
+
+bool RecordingCommands::isEnding(const HostCamera* camera) const
+{
+    const Recorder* recorder = m_recorders.value(camera);
+    return recorder && recorder->isEnding();
 }
 
 void RecordingCommands::onStateChanged(const HostCameraPtr& camera)
 {
     if (!camera->isGrabbing())
         stop(camera.data());
-    update();
+    else
+        update();
 }
 
 // What such a camera does is not told any more.
 void RecordingCommands::onRemoved(const HostCameraPtr& camera)
 {
     stop(camera.data());
-    update();
 }
 
 void RecordingCommands::onFinished(const HostCameraPtr& camera, const RecordingResult& result)
@@ -182,8 +195,10 @@ void RecordingCommands::update()
 {
     const HostCameraPtr camera = m_commands.camera();
     const bool isRecording = camera && m_cameras.pool().recordings()->isRecording(camera.data());
-    m_record->setEnabled(camera != nullptr);
-    m_record->setChecked(isRecording);
+    const bool isWriting = isEnding(camera.data());
+    m_record->setEnabled(camera && !isWriting);
+    m_record->setChecked(isRecording && !isWriting);
+    emit endingChanged();
 }
 
 void RecordingCommands::retranslate()

@@ -27,7 +27,8 @@ public:
                       QObject* parent = nullptr);
     ~RecordingCommands() override;
 
-    /// Checked while the selected camera is recorded.
+    /// Checked while the selected camera is recorded; disabled while the last pictures of its
+    /// recording are written.
     QAction* recordAction() const { return m_record; }
     QAction* folderAction() const { return m_chooseFolder; }
 
@@ -37,6 +38,9 @@ public:
 
     /// The cameras whose recordings have not ended, by name.
     QStringList recorded() const;
+
+    /// The cameras of which the last pictures are being written, by name.
+    QStringList ending() const;
 
     /// Ends all recordings; `allEnded` tells when they are written.
     void stopAll();
@@ -53,6 +57,9 @@ signals:
     /// A recording has begun.
     void begun();
 
+    /// `ending` may have changed.
+    void endingChanged();
+
     /// The last recording that ran has ended, and what is to be known of it has been reported.
     void allEnded();
 
@@ -63,6 +70,7 @@ private:
     void toggle(bool isWanted);
     void start(const Cameras::HostCameraPtr& camera);
     void stop(const Cameras::HostCamera* camera);
+    bool isEnding(const Cameras::HostCamera* camera) const;
     void onStateChanged(const Cameras::HostCameraPtr& camera);
     void onRemoved(const Cameras::HostCameraPtr& camera);
     void onFinished(const Cameras::HostCameraPtr& camera, const RecordingResult& result);

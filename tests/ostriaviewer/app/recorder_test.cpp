@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 // Recordings are whole, tell what is missing, and count as activity while they run.
+#include "fulldisk.h"
 #include "viewertest.h"
 
+#include "picturefile.h"
 #include "recorder.h"
 
 #include <QCloseEvent>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 
-#include <csignal>
-#include <sys/resource.h>
+#include <algorithm>
+#include <array>
 
 namespace Viewer {
 namespace {
@@ -63,6 +66,41 @@ TEST_F(RecorderTest, WritesWholePicturesNumberedAsTheCameraNumbersThem)
             << qPrintable(name);
         EXPECT_EQ(QImage(recording().filePath(name)).size(), QSize(96, 64)) << qPrintable(name);
     }
+}
+
+// What ends a recording waits in the event queue until the test waits for it.
+TEST_F(RecorderTest, ShowsThatItEndsAndBeginsNothingMeanwhile)
+{
+    startRecording();
+    ASSERT_TRUE(waitUntil([this] { return recording().entryList({"*.png"}).size() >= 2; }));
+    QAction* record = window().recording().recordAction();
+    auto* ending = child<QLabel>("ending");
+    EXPECT_TRUE(record->isEnabled() && record->isChecked());
+    EXPECT_EQ(ending->text(), "");
+    QTest::keyClick(&window(), Qt::Key_F7);
+    EXPECT_FALSE(record->isEnabled());
+    EXPECT_FALSE(record->isChecked());
+    EXPECT_EQ(ending->text(), "Writing the last pictures of " + m_first->displayName() + ".");
+    EXPECT_TRUE(ending->isVisible());
+    EXPECT_TRUE(isBusy());
+    QTest::keyClick(&window(), Qt::Key_F7);
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    EXPECT_TRUE(record->isEnabled());
+    EXPECT_FALSE(record->isChecked());
+    EXPECT_EQ(ending->text(), "");
+    EXPECT_TRUE(recording().exists()) << "one recording alone";
+}
+
+TEST_F(RecorderTest, ShowsThatItEndsAlsoWhereTheHostEndsIt)
+{
+    startRecording();
+    ASSERT_TRUE(waitUntil([this] { return recording().entryList({"*.png"}).size() >= 2; }));
+    window().recording().stopAll();
+    EXPECT_FALSE(window().recording().recordAction()->isEnabled());
+    clickCamera(1);
+    EXPECT_TRUE(window().recording().recordAction()->isEnabled()) << "of another camera";
+    EXPECT_FALSE(child<QLabel>("ending")->text().isEmpty());
+    EXPECT_TRUE(waitUntil([this] { return child<QLabel>("ending")->text().isEmpty(); }));
 }
 
 TEST_F(RecorderTest, EndsWithTheHostsStopOfAllActivity)
@@ -178,6 +216,38 @@ TEST_F(ClosedWhileRecording, ClosesWhereTheRecordingHasEndedByItself)
     EXPECT_FALSE(window().isVisible());
 }
 
+TEST_F(ClosedWhileRecording, StaysOpenWhereTheLastPicturesCouldNotBeWritten)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    const FullDisk disk;
+    constexpr std::uint64_t afterAllOthers = 1'000'000;
+    emit m_first->cameraImageGrabbed(
+        m_first, std::make_shared<Ostria::CGrabResult>(
+                     Ostria::COstriaImage(Ostria::PixelType::Mono8, 8, 8), afterAllOthers));
+    answer("&End Recording");
+    ASSERT_TRUE(waitUntil([this] { return hasMessage("Make room on the disk"); }));
+    ASSERT_TRUE(waitUntil([this] { return window().recording().recorded().isEmpty(); }));
+    ASSERT_TRUE(window().isVisible());
+    ASSERT_TRUE(waitUntil([] { return messageBox() != nullptr; }));
+    QTest::keyClick(messageBox(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window().isVisible());
+}
+
+// Of two recordings one may have failed, and that have been read, before the other has ended.
+TEST_F(ClosedWhileRecording, StaysOpenWhereAnotherRecordingHasFailed)
+{
+    ASSERT_NO_FATAL_FAILURE(closeWhileRecording());
+    answer("&End Recording");
+    emit window().recording().reported("The recording of another camera ended.", true);
+    ASSERT_TRUE(messageBox());
+    EXPECT_EQ(messageBox()->text(), "The recording of another camera ended.");
+    QTest::keyClick(messageBox(), Qt::Key_Return);
+    ASSERT_FALSE(messageBox());
+    EXPECT_TRUE(waitUntil([this] { return hasMessage("Recorded"); }));
+    EXPECT_TRUE(window().isVisible());
+}
+
 TEST_F(ClosedWhileRecording, QuittingAsksNothing)
 {
     startRecording();
@@ -224,22 +294,16 @@ TEST_F(RecorderTest, TellsThatTheFolderCannotBeMade)
     EXPECT_FALSE(window().recording().recordAction()->isChecked());
 }
 
-// A limit on the size of files fails writes as a full disk does.
 TEST_F(RecorderTest, EndsWithAMessageWhenTheDiskIsFullAndLeavesNoHalfFile)
 {
-    auto* previous = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit;
-    getrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit full = {0, limit.rlim_max};
     startViewer();
     window().recording().setFolder(target());
     clickCamera(0);
-    setrlimit(RLIMIT_FSIZE, &full);
-    QTest::keyClick(&window(), Qt::Key_F7);
-    const bool isTold = waitUntil([this] { return hasMessage("Make room on the disk"); });
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, previous);
-    EXPECT_TRUE(isTold);
+    {
+        const FullDisk disk;
+        QTest::keyClick(&window(), Qt::Key_F7);
+        EXPECT_TRUE(waitUntil([this] { return hasMessage("Make room on the disk"); }));
+    }
     EXPECT_TRUE(recording().entryList(QDir::Files).isEmpty());
     ASSERT_TRUE(waitUntil([] { return messageBox() != nullptr; }));
     QTest::keyClick(messageBox(), Qt::Key_Return);
@@ -259,6 +323,31 @@ TEST_F(RecorderTest, AdvisesAnotherFormatWhereAPictureCannotBeConverted)
     EXPECT_EQ(told,
               "A picture could not be converted (A mosaic of 8 x 2 pixels is too small, "
               "interpolation needs 4 x 3). Choose another pixel format or another image size.");
+}
+
+TEST_F(RecorderTest, WritesThePixelsOfTheCamera)
+{
+    Ostria::COstriaImage image(Ostria::PixelType::RGB8, 2, 1);
+    const std::array<std::uint8_t, 6> colors = {10, 20, 30, 250, 0, 7};
+    std::copy(colors.begin(), colors.end(), image.writableData());
+    {
+        Recorder recorder;
+        ASSERT_EQ(recorder.start(m_first, target() + "/taken"), "");
+        emit m_first->cameraImageGrabbed(
+            m_first, std::make_shared<Ostria::CGrabResult>(std::move(image), 1));
+    }
+    const QImage written(target() + "/taken/000001.png");
+    ASSERT_EQ(written.size(), QSize(2, 1));
+    EXPECT_EQ(written.pixel(0, 0), qRgb(10, 20, 30));
+    EXPECT_EQ(written.pixel(1, 0), qRgb(250, 0, 7));
+}
+
+TEST_F(RecorderTest, TellsThatAPictureHasNoRoomInMemory)
+{
+    // Its bits fit, but no computer's QImage holds its rows in colors.
+    EXPECT_EQ(writePictureFile(QImage(100'000'000, 1, QImage::Format_Mono), target() + "/a.png"),
+              "There is not enough memory for the picture.");
+    EXPECT_TRUE(QDir(target()).isEmpty());
 }
 
 TEST_F(RecorderTest, WritesWhatItHasTakenBeforeItEnds)

@@ -836,18 +836,6 @@ Do you want to end the recording and close the viewer?</source>
         <translation>保存する画像がありません。先にカメラの画像取り込みを開始してください。</translation>
     </message>
     <message>
-        <source>Save Picture</source>
-        <translation>画像の保存</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
-        <translation>画像 (*.png *.tif *.bmp *.jpg)</translation>
-    </message>
-    <message>
-        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
-        <translation>%1 に書き込めませんでした。別のフォルダーかファイル形式を選択するか、ディスクの空き容量を増やしてください。</translation>
-    </message>
-    <message>
         <source>Recording Folder</source>
         <translation>録画フォルダー</translation>
     </message>
@@ -882,6 +870,10 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Camera tools</source>
         <translation>カメラツール</translation>
+    </message>
+    <message>
+        <source>Writing the last pictures of %1.</source>
+        <translation>%1 の残りの画像を書き込んでいます。</translation>
     </message>
 </context>
 <context>
@@ -979,6 +971,28 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Cameras</source>
         <translation>カメラ</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::PictureFile</name>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>画像を処理するためのメモリが不足しています。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::PictureSaver</name>
+    <message>
+        <source>Save Picture</source>
+        <translation>画像の保存</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
+        <translation>画像 (*.png *.tif *.bmp *.jpg)</translation>
+    </message>
+    <message>
+        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
+        <translation>%1 に書き込めませんでした。別のフォルダーかファイル形式を選択するか、ディスクの空き容量を増やしてください。</translation>
     </message>
 </context>
 <context>

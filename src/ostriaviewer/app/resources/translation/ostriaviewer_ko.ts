@@ -836,18 +836,6 @@ Do you want to end the recording and close the viewer?</source>
         <translation>저장할 이미지가 없습니다. 먼저 카메라의 이미지 획득을 시작하십시오.</translation>
     </message>
     <message>
-        <source>Save Picture</source>
-        <translation>이미지 저장</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
-        <translation>이미지 (*.png *.tif *.bmp *.jpg)</translation>
-    </message>
-    <message>
-        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
-        <translation>%1 파일을 쓰지 못했습니다. 다른 폴더나 파일 형식을 선택하거나 디스크의 여유 공간을 늘리십시오.</translation>
-    </message>
-    <message>
         <source>Recording Folder</source>
         <translation>녹화 폴더</translation>
     </message>
@@ -882,6 +870,10 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Camera tools</source>
         <translation>카메라 도구</translation>
+    </message>
+    <message>
+        <source>Writing the last pictures of %1.</source>
+        <translation>%1 카메라의 남은 이미지를 저장하고 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -979,6 +971,28 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Cameras</source>
         <translation>카메라</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::PictureFile</name>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>이미지를 처리할 메모리가 부족합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::PictureSaver</name>
+    <message>
+        <source>Save Picture</source>
+        <translation>이미지 저장</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
+        <translation>이미지 (*.png *.tif *.bmp *.jpg)</translation>
+    </message>
+    <message>
+        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
+        <translation>%1 파일을 쓰지 못했습니다. 다른 폴더나 파일 형식을 선택하거나 디스크의 여유 공간을 늘리십시오.</translation>
     </message>
 </context>
 <context>

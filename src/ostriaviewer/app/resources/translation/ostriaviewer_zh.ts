@@ -836,18 +836,6 @@ Do you want to end the recording and close the viewer?</source>
         <translation>没有可保存的图像。请先开始采集图像。</translation>
     </message>
     <message>
-        <source>Save Picture</source>
-        <translation>保存图像</translation>
-    </message>
-    <message>
-        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
-        <translation>图像 (*.png *.tif *.bmp *.jpg)</translation>
-    </message>
-    <message>
-        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
-        <translation>无法写入 %1。请选择其他文件夹或文件格式，或释放磁盘空间。</translation>
-    </message>
-    <message>
         <source>Recording Folder</source>
         <translation>录制文件夹</translation>
     </message>
@@ -882,6 +870,10 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Camera tools</source>
         <translation>相机工具</translation>
+    </message>
+    <message>
+        <source>Writing the last pictures of %1.</source>
+        <translation>正在写入 %1 的剩余图像。</translation>
     </message>
 </context>
 <context>
@@ -979,6 +971,28 @@ Do you want to end the recording and close the viewer?</source>
     <message>
         <source>Cameras</source>
         <translation>相机</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::PictureFile</name>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>内存不足，无法处理图像。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::PictureSaver</name>
+    <message>
+        <source>Save Picture</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.tif *.bmp *.jpg)</source>
+        <translation>图像 (*.png *.tif *.bmp *.jpg)</translation>
+    </message>
+    <message>
+        <source>%1 could not be written. Choose another folder or another kind of file, or make room on the disk.</source>
+        <translation>无法写入 %1。请选择其他文件夹或文件格式，或释放磁盘空间。</translation>
     </message>
 </context>
 <context>

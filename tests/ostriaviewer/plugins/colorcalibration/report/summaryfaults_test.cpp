@@ -167,7 +167,7 @@ TEST_F(SummaryFaults, InsideWhatTakesLittle)
     ASSERT_TRUE(WriteTextFile(disk + "/f.cst", "before"));
     EXPECT_FALSE(WriteTextFile(disk + "/f.cst", QString(200000, 'x')));
     EXPECT_EQ(fileBytes(disk + "/f.cst"), "before\n") << "what was there stays";
-    const EncodedPng png = encodePng(noise(200));
+    const Saving::EncodedPng png = Saving::encodePng(noise(200));
     ASSERT_GT(png.bytes.size(), 65536);
     EXPECT_FALSE(WritePngFile(disk + "/i.png", png));
     EXPECT_EQ(QDir(disk).entryList(QDir::Files | QDir::Hidden), QStringList("f.cst"))

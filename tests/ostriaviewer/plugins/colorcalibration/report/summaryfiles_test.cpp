@@ -87,14 +87,14 @@ TEST_F(SummaryFiles, ImagesComeBackPixelByPixel)
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, qRgb(x * 7, y * 30, x ^ y));
-    ASSERT_TRUE(WritePngFile(path("i.png"), encodePng(image)));
+    ASSERT_TRUE(WritePngFile(path("i.png"), Saving::encodePng(image)));
     EXPECT_EQ(QImage(path("i.png"), "PNG").convertToFormat(QImage::Format_RGB32), image);
     expectNoLog();
 }
 
 TEST_F(SummaryFiles, ThereIsNoFileWithoutAnImage)
 {
-    EXPECT_FALSE(WritePngFile(path("i.png"), encodePng(QImage())));
+    EXPECT_FALSE(WritePngFile(path("i.png"), Saving::encodePng(QImage())));
     EXPECT_FALSE(QFile::exists(path("i.png")));
     ASSERT_EQ(m_log.entries().size(), 1);
     EXPECT_EQ(m_log.entries().first().text,

@@ -76,10 +76,11 @@ bool CalibrationResult::SaveSummary(const QString& directory, const QImage& init
         return false;
     // Nearly all of the time goes into compressing, so both images are compressed side by side; the
     // files are still written, and fail, one after another.
-    const QFuture<EncodedPng> initialPng = QtConcurrent::run(encodePng, initialImage);
-    const QFuture<EncodedPng> latestPng = QtConcurrent::run(encodePng, latestImage);
+    const QFuture<Saving::EncodedPng> initialPng =
+        QtConcurrent::run(Saving::encodePng, initialImage);
+    const QFuture<Saving::EncodedPng> latestPng = QtConcurrent::run(Saving::encodePng, latestImage);
     // The pixels may be lent: they are let go of before the caller goes on.
-    QFutureSynchronizer<EncodedPng> atTheEnd;
+    QFutureSynchronizer<Saving::EncodedPng> atTheEnd;
     atTheEnd.addFuture(initialPng);
     atTheEnd.addFuture(latestPng);
     return WriteTextFile(folder + QStringLiteral("original.cst"), m_originalSettings) &&

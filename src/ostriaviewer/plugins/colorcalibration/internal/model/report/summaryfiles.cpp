@@ -3,9 +3,9 @@
 #include "summaryfiles.h"
 
 #include "reportlog.h"
+#include "wholefile.h"
 
 #include <QDir>
-#include <QSaveFile>
 
 namespace ColorCalibration {
 namespace {
@@ -26,28 +26,12 @@ QString notWritten(const QString& path, const QString& reason)
         .arg(QDir::toNativeSeparators(path), reason);
 }
 
-/// A disk that fills up takes a part first and gives the reason with the next attempt.
-bool writeAll(QFileDevice& file, const QByteArray& bytes)
-{
-    qint64 written = 0;
-    while (written < bytes.size()) {
-        const qint64 taken = file.write(bytes.constData() + written, bytes.size() - written);
-        if (taken <= 0)
-            return false;
-        written += taken;
-    }
-    return file.flush();
-}
-
-/// Fills a file under another name and gives it its own in the end: a reader never meets half of
-/// one, nor the tail of a longer one that stood there before.
 bool replaceFile(const QString& path, const QByteArray& bytes)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit())
-        return true;
-    logReportFailure(notWritten(path, file.errorString()));
-    return false;
+    const QString reason = Saving::writeWholeFile(path, bytes);
+    if (!reason.isEmpty())
+        logReportFailure(notWritten(path, reason));
+    return reason.isEmpty();
 }
 
 } // namespace
@@ -75,7 +59,7 @@ bool WriteTextFile(const QString& path, const QString& text)
     return replaceFile(path, text.toUtf8() + '\n');
 }
 
-bool WritePngFile(const QString& path, const EncodedPng& png)
+bool WritePngFile(const QString& path, const Saving::EncodedPng& png)
 {
     if (png.problem.isEmpty())
         return replaceFile(path, png.bytes);

@@ -22,8 +22,8 @@ QString MakeOutputFolder(const QString& directory, const QString& stem, const QS
 /// \return  false if it could not be written; the log says why
 bool WriteTextFile(const QString& path, const QString& text);
 
-/// Writes what encodePng gave; else like WriteTextFile. Reentrant.
+/// Writes what Saving::encodePng gave; else like WriteTextFile. Reentrant.
 /// \param png  one with a problem: the file cannot be written
-bool WritePngFile(const QString& path, const EncodedPng& png);
+bool WritePngFile(const QString& path, const Saving::EncodedPng& png);
 
 } // namespace ColorCalibration

@@ -8,7 +8,7 @@
 #include <csetjmp>
 #include <new>
 
-namespace ColorCalibration {
+namespace Saving {
 namespace {
 
 /// libpng leaves a call that fails by a long jump.
@@ -56,8 +56,9 @@ public:
     PngWriter& operator=(const PngWriter&) = delete;
 
     /// \param pixels  8 bits of gray, or of red, green and blue
+    /// \param filters  from which libpng chooses for each row
     /// \return  false without memory
-    bool write(const QImage& pixels)
+    bool write(const QImage& pixels, int filters)
     {
         // Nothing that has a destructor may be made behind this line.
         // NOLINTNEXTLINE(cert-err52-cpp): libpng has no other way
@@ -70,7 +71,7 @@ public:
         // What the filters leave of a camera's image is noise, in which hardly anything comes again
         // but zeros. To look for runs alone takes a fraction of the time, and the file is smaller.
         png_set_compression_strategy(m_png, Z_RLE);
-        png_set_filter(m_png, PNG_FILTER_TYPE_BASE, PNG_ALL_FILTERS);
+        png_set_filter(m_png, PNG_FILTER_TYPE_BASE, filters);
         png_write_info(m_png, m_info);
         for (int y = 0; y < pixels.height(); ++y)
             png_write_row(m_png, pixels.constScanLine(y));
@@ -83,9 +84,7 @@ private:
     png_infop m_info;
 };
 
-} // namespace
-
-EncodedPng encodePng(const QImage& image)
+EncodedPng encode(const QImage& image, int filters)
 {
     if (image.isNull())
         return {{}, QStringLiteral("there is no image")};
@@ -95,7 +94,7 @@ EncodedPng encodePng(const QImage& image)
         const QImage pixels =
             image.convertToFormat(isGray ? QImage::Format_Grayscale8 : QImage::Format_RGB888);
         EncodedPng png;
-        if (pixels.isNull() || !PngWriter(png.bytes).write(pixels))
+        if (pixels.isNull() || !PngWriter(png.bytes).write(pixels, filters))
             return noRoom;
         return png;
     } catch (const std::bad_alloc&) {
@@ -103,4 +102,17 @@ EncodedPng encodePng(const QImage& image)
     }
 }
 
-} // namespace ColorCalibration
+} // namespace
+
+EncodedPng encodePng(const QImage& image)
+{
+    return encode(image, PNG_ALL_FILTERS);
+}
+
+// To try all filters on a row takes longer than to compress what one of them leaves.
+EncodedPng encodePngQuickly(const QImage& image)
+{
+    return encode(image, PNG_FILTER_SUB);
+}
+
+} // namespace Saving
