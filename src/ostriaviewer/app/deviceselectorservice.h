@@ -14,7 +14,7 @@ namespace Viewer {
 ///
 /// Plugins ask the camera that they are told of, and the windows do not wait for a camera: what it
 /// does not answer at once fails, and selectionChanged is emitted again for the same device until
-/// everybody has got an answer.
+/// everybody has got an answer, with pauses that grow.
 class DeviceSelectorService final : public Plugin::CameraSelector::IDeviceSelectorService
 {
     Q_OBJECT
@@ -43,6 +43,7 @@ private:
 
     Core::CameraPoolComponents::DeviceBaseInfoPtr m_selected;
     QTimer m_again;
+    int m_repeats = 0; // of the selection, without an answer
 };
 
 } // namespace Viewer

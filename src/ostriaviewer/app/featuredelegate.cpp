@@ -4,9 +4,13 @@
 
 #include "featuremodel.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+
+#include <functional>
+#include <utility>
 
 namespace Viewer {
 namespace {
@@ -15,6 +19,44 @@ FeatureEditor editorAt(const QModelIndex& index)
 {
     return static_cast<FeatureEditor>(index.data(FeatureModel::EditorRole).toInt());
 }
+
+/// A list of choices that is an editor only while it is open: with it closed each arrow would
+/// choose. What was chosen goes to the delegate first.
+class ChoiceList : public QComboBox
+{
+public:
+    ChoiceList(QWidget* parent, std::function<void(ChoiceList*)> closed)
+        : QComboBox(parent)
+        , m_closed(std::move(closed))
+    {
+        connect(this, QOverload<int>::of(&QComboBox::activated), this,
+                [this] { m_isChosen = true; });
+    }
+
+    void showPopup() override
+    {
+        QComboBox::showPopup();
+        view()->window()->installEventFilter(this);
+    }
+
+    // A click beside an open list closes it without a word to the list.
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide && object == view()->window())
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    if (!m_isChosen)
+                        m_closed(this);
+                },
+                Qt::QueuedConnection);
+        return QComboBox::eventFilter(object, event);
+    }
+
+private:
+    std::function<void(ChoiceList*)> m_closed;
+    bool m_isChosen = false;
+};
 
 bool isButton(const QModelIndex& index)
 {
@@ -63,13 +105,14 @@ QWidget* FeatureDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
         line->setToolTip(index.data(Qt::ToolTipRole).toString());
         return line;
     }
-    auto* list = new QComboBox(parent);
+    auto* self = const_cast<FeatureDelegate*>(this);
+    auto* list = new ChoiceList(
+        parent, [self](ChoiceList* closed) { emit self->closeEditor(closed, RevertModelCache); });
     const auto choices = index.data(FeatureModel::ChoicesRole).value<FeatureChoices>();
     for (const FeatureChoice& choice : choices)
         list->addItem(choice.text, choice.name);
     // A choice counts without leaving the list first, but after the key that chose: the list takes
     // Return as a shortcut already, and the press that follows must find the list, not the table.
-    auto* self = const_cast<FeatureDelegate*>(this);
     connect(
         list, QOverload<int>::of(&QComboBox::activated), list,
         [self, list] {

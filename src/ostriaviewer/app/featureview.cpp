@@ -68,10 +68,17 @@ void FeatureView::useByKey(const QModelIndex& value)
         list->showPopup();
 }
 
+// The view looks for what stands in the present column.
+void FeatureView::searchName(const QString& beginning)
+{
+    setCurrentIndex(currentIndex().siblingAtColumn(FeatureModel::Name));
+    keyboardSearch(beginning);
+}
+
 void FeatureView::typeInto(const QModelIndex& value, QKeyEvent& event)
 {
     if (!begins(value, event.text().at(0)))
-        return keyboardSearch(event.text());
+        return searchName(event.text());
     setCurrentIndex(value);
     edit(value, AnyKeyPressed, &event);
 }

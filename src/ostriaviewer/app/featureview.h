@@ -25,6 +25,7 @@ protected:
 
 private:
     void useByKey(const QModelIndex& value);
+    void searchName(const QString& beginning);
     void typeInto(const QModelIndex& value, QKeyEvent& event);
 };
 

@@ -65,6 +65,16 @@ TEST_F(FeatureKeys, SearchByLettersAndChangeNothing)
     EXPECT_FALSE(m_tree->indexWidget(m_tree->currentIndex()));
 }
 
+TEST_F(FeatureKeys, SearchForNamesAlsoBehindAValue)
+{
+    child<QLineEdit>("featureFilter")->setText("Balance");
+    ASSERT_TRUE(find("BalanceRatioSelector").isValid());
+    m_tree->setFocus();
+    m_tree->setCurrentIndex(find("BalanceWhiteAuto").siblingAtColumn(FeatureModel::Value));
+    type("balancer");
+    EXPECT_TRUE(present().startsWith("BalanceRatio")) << qPrintable(present());
+}
+
 TEST_F(FeatureKeys, LeaveTheCameraAloneAfterEscape)
 {
     const double before = parameters()->floatParameter("ExposureTime")->value();
@@ -74,6 +84,22 @@ TEST_F(FeatureKeys, LeaveTheCameraAloneAfterEscape)
     press(Qt::Key_Escape);
     EXPECT_FALSE(m_tree->indexWidget(cell("ExposureTime")));
     EXPECT_EQ(parameters()->floatParameter("ExposureTime")->value(), before);
+}
+
+TEST_F(FeatureKeys, LeadOnBehindAListThatWasClosed)
+{
+    const auto choice = parameters()->enumerationParameter("BalanceWhiteAuto");
+    const QString before = choice->value();
+    ASSERT_NO_FATAL_FAILURE(goTo("BalanceWhiteAuto"));
+    press(Qt::Key_Return);
+    ASSERT_TRUE(waitUntil([] { return QApplication::activePopupWidget() != nullptr; }));
+    QApplication::activePopupWidget()->close(); // as a click beside it does
+    EXPECT_TRUE(waitUntil([this] { return !m_tree->indexWidget(m_tree->currentIndex()); }));
+    EXPECT_TRUE(waitUntil([this] { return m_tree->hasFocus(); }));
+    press(Qt::Key_Up);
+    press(Qt::Key_Down);
+    EXPECT_EQ(choice->value(), before);
+    EXPECT_EQ(present(), "BalanceWhiteAuto");
 }
 
 class FeatureKey : public FeatureKeys, public testing::WithParamInterface<Qt::Key>
