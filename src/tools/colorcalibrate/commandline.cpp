@@ -9,16 +9,19 @@
 namespace ColorCalibrate {
 namespace {
 
+void requireNotEmpty(const QStringList& values, const QString& hint)
+{
+    if (values.contains(QString()))
+        throw CommandError(QStringLiteral("an argument is empty") + hint, WrongUsage);
+}
+
+/// What stands for bytes that could not be read would name another file.
 void requireText(const QStringList& values, const QString& hint)
 {
-    for (const QString& value : values) {
-        if (value.isEmpty())
-            throw CommandError(QStringLiteral("an argument is empty") + hint, WrongUsage);
-        // What stands for bytes that could not be read would name another file.
+    for (const QString& value : values)
         if (value.contains(QChar(QChar::ReplacementCharacter)))
             throw CommandError(
                 QStringLiteral("\"%1\" has bytes that are no text").arg(value) + hint, WrongUsage);
-    }
 }
 
 } // namespace
@@ -60,9 +63,14 @@ bool CommandLine::parse(const QStringList& arguments, int positionals, std::ostr
         throw CommandError(
             QStringLiteral("\"%1\" is an argument too many").arg(given.at(positionals)) + hint,
             WrongUsage);
+    requireNotEmpty(given, hint);
     requireText(given, hint);
-    for (const QString& name : m_parser.optionNames())
-        requireText(m_parser.values(name), hint);
+    for (const QString& name : m_parser.optionNames()) {
+        requireNotEmpty(m_parser.values(name), hint);
+        // A camera may have such a name, and is listed by it.
+        if (name != QLatin1String("camera"))
+            requireText(m_parser.values(name), hint);
+    }
     return true;
 }
 

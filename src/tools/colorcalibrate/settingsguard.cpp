@@ -4,6 +4,7 @@
 
 #include "command.h"
 #include "interruption.h"
+#include "withoutfullstop.h"
 
 #include <QStringList>
 
@@ -107,8 +108,10 @@ QString SettingsGuard::restore(const std::function<void(const QString& step)>& t
 QString SettingsGuard::tryToRestore()
 {
     try {
-        if (!m_camera->open())
-            return QStringLiteral("the connection is lost");
+        if (!m_camera->open()) {
+            const QString reason = Core::withoutFullStop(m_camera->lastErrorText());
+            return reason.isEmpty() ? QStringLiteral("the connection is lost") : reason;
+        }
         const QStringList wanted = settingLines(m_settings);
         if (settingLines(readSettings()) != wanted) {
             QString ignoredErrors;

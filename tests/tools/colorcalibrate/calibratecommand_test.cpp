@@ -431,7 +431,9 @@ TEST_F(FaultyCamera, HasItsSettingsComparedAfterAFailure)
     EXPECT_TRUE(remark.contains(QLatin1String("Gamma"))) << remark.toStdString();
     m_camera->refuseWrites(QStringLiteral("Gamma"), -1);
     m_camera->loseConnection();
-    EXPECT_TRUE(guard.restore().contains(QLatin1String("(the connection is lost)")));
+    const QString lost = guard.restore();
+    EXPECT_TRUE(lost.contains(QLatin1String("COULD NOT BE RESTORED ("))) << lost.toStdString();
+    EXPECT_TRUE(lost.contains(m_camera->lastErrorText().chopped(1))) << lost.toStdString();
     m_camera->reconnect();
     EXPECT_TRUE(guard.restore().contains(QLatin1String("as they were")));
     EXPECT_EQ(m_camera->parameterCollection()->floatParameter(QStringLiteral("Gamma"))->value(),
