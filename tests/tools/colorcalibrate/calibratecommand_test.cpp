@@ -148,6 +148,8 @@ TEST_F(CalibrateCommand, BringsEveryCameraNearTheChart)
     }
 }
 
+// One draw of the noise, which holds for the program as it starts. What holds for many is asked by
+// GraysOfManyCalibrations: look there before a change is blamed.
 TEST_F(CalibrateCommand, KeepsGraysGray)
 {
     for (const QString& camera : namesOf(true)) {
