@@ -261,8 +261,7 @@ TEST_F(ModelResultsTest, ADefaultThatDoesNotComeBackIsToldOfALostCamera)
 {
     m_camera->parameters().addEnumeration("UserSetDefault", {"Default", "UserSet1"});
     ASSERT_TRUE(open());
-    bool isLost = false;
-    m_camera->features().beforeCall = [&isLost](const QString& call) {
+    m_camera->features().beforeCall = [isLost = false](const QString& call) mutable {
         isLost = isLost || call.startsWith("execute UserSetSave");
         if (isLost && call != "features")
             throw Core::Exception::BaseException("lost");
