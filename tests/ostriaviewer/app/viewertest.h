@@ -56,7 +56,6 @@ protected:
         m_viewer = std::make_unique<ViewerApplication>(
             arguments, QList<Cameras::HostCameraPtr>{m_first, m_second});
         m_viewer->start();
-        window().activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window(), patienceMs));
     }
 
