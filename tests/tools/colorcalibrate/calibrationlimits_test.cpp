@@ -76,17 +76,24 @@ PatchColors asShown(PatchColors linear, bool isOldGeneration)
     return ColorCalibration::toPatchColors(shown, true);
 }
 
-Outcome calibrate(const Arrangement& arrangement)
+/// Opens the camera with the grid on its chart and takes an image, so that it can be measured.
+ColorCalibration::ColorCorrectionModel& openAtTheChart(EmulatedHost& host)
 {
-    Cameras::Emulation::EmulationOptions options;
-    options.scene = Cameras::Emulation::Scene(arrangement.scene);
-    EmulatedHost host(arrangement.model, options);
     auto& model = host.model();
     EXPECT_TRUE(model.Open(host.pointer()));
     host.setExposure(exposure);
     model.SetGridPosition(host.chartGrid());
     QImage first;
     model.GrabImage(first, false);
+    return model;
+}
+
+Outcome calibrate(const Arrangement& arrangement)
+{
+    Cameras::Emulation::EmulationOptions options;
+    options.scene = Cameras::Emulation::Scene(arrangement.scene);
+    EmulatedHost host(arrangement.model, options);
+    auto& model = openAtTheChart(host);
     EXPECT_TRUE(model.ApplyInitialCameraImageAndPatchValues());
     QVector<QColor> initial;
     model.GetInitialColorPatchValues(initial);
@@ -106,12 +113,7 @@ Outcome calibrate(const Arrangement& arrangement)
 std::vector<double> drawsOfTheGrays(const Cameras::Emulation::CameraModel& camera, int count)
 {
     EmulatedHost host(camera);
-    auto& model = host.model();
-    EXPECT_TRUE(model.Open(host.pointer()));
-    host.setExposure(exposure);
-    model.SetGridPosition(host.chartGrid());
-    QImage first;
-    model.GrabImage(first, false);
+    auto& model = openAtTheChart(host);
     std::vector<double> draws;
     for (int draw = 0; draw < count; ++draw) {
         EXPECT_TRUE(model.SetNeutralSettings());

@@ -85,6 +85,14 @@ protected:
     }
 };
 
+void calibrate(EmulatedHost& host, CalibrationSequence& sequence)
+{
+    SequenceOptions options;
+    options.grid = host.chartGrid();
+    options.adjustExposure = false;
+    sequence.run(host.pointer(), options);
+}
+
 } // namespace
 
 TEST_F(Saving, WritesSettingsAndSummary)
@@ -253,10 +261,7 @@ TEST_F(CommandTest, SavingEndsBeforeItsNextStepWhenItIsCancelled)
     const QString before = host.settings();
     CalibrationSequence sequence(
         host.model(), [](const QString&) {}, [] { return false; });
-    SequenceOptions sequenceOptions;
-    sequenceOptions.grid = host.chartGrid();
-    sequenceOptions.adjustExposure = false;
-    sequence.run(host.pointer(), sequenceOptions);
+    calibrate(host, sequence);
     ASSERT_NE(host.settings().toStdString(), before.toStdString());
 
     SavingOptions options;
@@ -302,10 +307,7 @@ TEST_F(CommandTest, SavingSaysThatTheCameraWasLostBeforeIt)
     host.setExposure(20000.0);
     CalibrationSequence sequence(
         host.model(), [](const QString&) {}, [] { return false; });
-    SequenceOptions sequenceOptions;
-    sequenceOptions.grid = host.chartGrid();
-    sequenceOptions.adjustExposure = false;
-    sequence.run(host.pointer(), sequenceOptions);
+    calibrate(host, sequence);
     host.camera().loseConnection();
 
     SavingOptions options;
