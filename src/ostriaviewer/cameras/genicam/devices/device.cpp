@@ -8,6 +8,7 @@
 #include "genicamexception.h"
 #include "gerrorslot_p.h"
 #include "gvcpquestion_p.h"
+#include "librarydevice_p.h"
 #include "librarylog_p.h"
 #include "libraryparsing_p.h"
 #include "patience.h"
@@ -155,16 +156,12 @@ Device::Device(ArvDevice* device, QString id)
 // Who notices the loss does so on threads of their own, which may be about to when we go.
 void Device::watch()
 {
-    using Weak = std::weak_ptr<Device>;
-    const auto forget = [](void* weak, GClosure*) {
-        delete static_cast<Weak*>(weak);
-    };
-    g_signal_connect_data(m_device, "control-lost", G_CALLBACK(&Device::onControlLost),
-                          new Weak(weak_from_this()), forget, GConnectFlags());
-    m_watch = std::make_shared<DeviceWatch>(m_device, [weak = weak_from_this()] {
+    const auto lost = [weak = weak_from_this()] {
         if (const auto self = weak.lock())
             self->becomeLost();
-    });
+    };
+    m_libraryDevice = std::make_shared<LibraryDevice>(m_device, lost);
+    m_watch = std::make_shared<DeviceWatch>(m_device, lost);
 }
 
 Device::~Device()
@@ -173,24 +170,18 @@ Device::~Device()
     if (m_watch)
         m_watch->end();
     m_accesses->abandon();
-    runAside([device = m_device, id = m_id, watch = m_watch, accesses = m_accesses,
-              released = m_released] {
+    runAside([device = std::move(m_libraryDevice), id = m_id, watch = m_watch,
+              accesses = m_accesses, released = m_released]() mutable {
         const QString noFeature;
         const LibraryScope scope(id, noFeature, LibraryTask::Transfer);
         if (watch)
             watch->wait();
         accesses->finish();
-        g_object_unref(device);
+        device.reset();
         released->set_value();
     });
     if (!isLost())
         m_whenReleased.wait_for(longestWait);
-}
-
-void Device::onControlLost(ArvDevice* /*device*/, const std::weak_ptr<Device>* weak)
-{
-    if (const auto self = weak->lock())
-        self->becomeLost();
 }
 
 void Device::becomeLost(const QString& reason)
@@ -281,20 +272,20 @@ void Device::access(Access access, Repetition repetition)
             const QString noFeature;
             const LibraryScope scope(camera, noFeature, LibraryTask::Transfer);
             int attempts = repetition == Repetition::Harmless ? 3 : 1;
-            bool isTimeOver = true;
-            auto self = weak.lock();
-            for (; isTimeOver && self && attempts > 0; --attempts) {
+            for (bool isTimeOver = true; isTimeOver && attempts > 0; --attempts) {
                 GErrorSlot error;
                 answer->hasSucceeded = access(device, error);
-                answer->reason = error.isAccessDenied() ? self->denial(device) : error.reason();
                 isTimeOver = error.isTimeout();
-                if (self->m_accesses->isAbandoned())
+                // Whoever closes the camera meanwhile need not wait for this.
+                const auto self = weak.lock();
+                if (!self || self->m_accesses->isAbandoned())
                     return;
-            }
-            // The library has asked several times before it says that time is over.
-            if (self && isTimeOver) {
-                self->becomeLost();
-                answer->reason = self->lossReason();
+                answer->reason = error.isAccessDenied() ? self->denial(device) : error.reason();
+                // The library has asked several times before it says that time is over.
+                if (isTimeOver && attempts == 1) {
+                    self->becomeLost();
+                    answer->reason = self->lossReason();
+                }
             }
         },
         Patience::ofThisThread());

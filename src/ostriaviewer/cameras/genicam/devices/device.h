@@ -21,6 +21,7 @@ namespace Cameras::GenICam {
 class AccessQueue;
 class DeviceWatch;
 class GErrorSlot;
+class LibraryDevice;
 
 /// A camera that this program controls, as registers. Thread-safe.
 ///
@@ -67,7 +68,6 @@ private:
     Device(ArvDevice* device, QString id);
 
     void watch();
-    static void onControlLost(ArvDevice* device, const std::weak_ptr<Device>* weak);
     void becomeLost(const QString& reason = {});
     QString lossReason() const;
     QString denial(ArvDevice* device);
@@ -79,7 +79,8 @@ private:
 
     ArvDevice* const m_device;
     const QString m_id;
-    std::shared_ptr<DeviceWatch> m_watch; // null if it could not be made
+    std::shared_ptr<LibraryDevice> m_libraryDevice; // owns the device
+    std::shared_ptr<DeviceWatch> m_watch;           // null if it could not be made
     const std::shared_ptr<AccessQueue> m_accesses;
     const std::shared_ptr<std::promise<void>> m_released;
     const std::shared_future<void> m_whenReleased;
