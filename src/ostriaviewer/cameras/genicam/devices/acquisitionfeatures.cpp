@@ -77,6 +77,7 @@ void AcquisitionFeatures::setMode(bool single)
     // A write that fails may have been done. The mode from before an earlier acquisition counts.
     if (m_owed.mode.isEmpty())
         m_owed.mode = present;
+    m_owed.modeInstead = wanted;
     mode->setValue(wanted);
 }
 
@@ -122,10 +123,11 @@ void AcquisitionFeatures::lockFeatures(bool locked)
     m_nodeMap->d().requireConnection();
 }
 
+// Another mode than ours is what somebody wants who was told that it could not be put back.
 void AcquisitionFeatures::restoreMode()
 {
     const auto mode = m_parameters->enumerationParameter(modeName());
-    if (mode->value() != m_owed.mode)
+    if (m_owed.mode != m_owed.modeInstead && mode->value() == m_owed.modeInstead)
         mode->setValue(m_owed.mode);
     m_owed.mode.clear();
 }
@@ -157,10 +159,10 @@ QString AcquisitionFeatures::owedMode() const
     return m_owed.mode;
 }
 
-void AcquisitionFeatures::takeOver(const AcquisitionFeatures& lost)
+void AcquisitionFeatures::takeOver(const AcquisitionFeatures& earlier)
 {
-    const std::scoped_lock lock(m_mutex, lost.m_mutex);
-    m_owed = lost.m_owed;
+    const std::scoped_lock lock(m_mutex, earlier.m_mutex);
+    m_owed = earlier.m_owed;
 }
 
 void AcquisitionFeatures::replace(AcquisitionFeatures& previous)

@@ -43,20 +43,22 @@ public:
     void startAgain() noexcept;
 
     /// Ends sending, and puts everything back as it was before prepare. What the camera refuses
-    /// goes to the log. A mode that it refused is tried again by the next call, as is all that it
-    /// could not be asked for, which goes to the log in the last accesses of the node map alone.
+    /// goes to the log. A mode that it refused is tried again by the next call, unless somebody has
+    /// set another one meanwhile, as is all that it could not be asked for, which goes to the log
+    /// in the last accesses of the node map alone.
     void stop() noexcept;
 
-    /// The mode that a lost camera was in before prepare, and has not got back; empty if there is
+    /// The mode that the camera was in before prepare, and has not got back; empty if there is
     /// none.
     QString owedMode() const;
 
     /// What people are told of such a mode.
     static QString notPutBack(const QString& mode);
 
-    /// Takes over what a camera that was lost is to get back when it is there again, by stop.
-    /// \param lost  of another node map of the same camera
-    void takeOver(const AcquisitionFeatures& lost);
+    /// Takes over what a camera that did not answer any more is to get back when it is there again,
+    /// by stop.
+    /// \param earlier  of another node map of the same camera
+    void takeOver(const AcquisitionFeatures& earlier);
 
     /// Takes over, before prepare, what the acquisition before this one has not put back, which
     /// owes nothing any more then.
@@ -68,7 +70,8 @@ private:
     {
         bool stop = false;
         bool unlocking = false;
-        QString mode; ///< empty: none
+        QString mode;        ///< empty: none
+        QString modeInstead; ///< that we have set
 
         bool isNothing() const { return !stop && !unlocking && mode.isEmpty(); }
     };

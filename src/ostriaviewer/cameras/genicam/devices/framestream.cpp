@@ -69,8 +69,10 @@ struct FrameStream::State
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
-    const std::shared_ptr<Device> device;
-    ArvStream* stream; ///< null once released; the mutex guards that
+    // Null once released; the mutex guards that.
+    std::shared_ptr<Device> device;
+    ArvStream* stream;
+
     const Deliver deliver;
     const std::optional<Single> single;
     const Clock::time_point deadline;
@@ -106,18 +108,21 @@ bool FrameStream::State::giveBack(ArvBuffer* buffer)
 
 /// A stream that ends tells the camera to send nowhere, so it must have ended before the next one
 /// begins. Only while the thread does not wait for a buffer. It waits for the camera's answer,
-/// which nobody is to do for a camera that has gone.
+/// which nobody is to do for a camera that has gone. A receiver that is still called does not keep
+/// the device.
 void FrameStream::State::release()
 {
     ArvStream* ended = nullptr;
+    std::shared_ptr<Device> owner;
     {
         const std::lock_guard lock(mutex);
         ended = std::exchange(stream, nullptr);
+        owner = std::move(device);
     }
     if (!ended)
         return;
-    if (device->isLost())
-        runAside([ended, kept = device] { g_object_unref(ended); });
+    if (owner->isLost())
+        runAside([ended, kept = std::move(owner)] { g_object_unref(ended); });
     else
         g_object_unref(ended);
 }

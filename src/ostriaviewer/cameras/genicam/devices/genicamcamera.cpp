@@ -94,7 +94,7 @@ GenicamCamera::~GenicamCamera()
 {
     close();
     const QString mode = m_unfinished ? m_unfinished->owedMode() : QString();
-    if (!mode.isEmpty())
+    if (!mode.isEmpty() && !m_isUnfinishedTold)
         log(tr("%1: %2").arg(displayName(), AcquisitionFeatures::notPutBack(mode)));
 }
 
@@ -242,9 +242,9 @@ std::shared_ptr<GenicamCamera::Connection> GenicamCamera::connect()
                 self->lose(device);
         });
     });
-    if (const auto lost = unfinished()) {
+    if (const auto earlier = unfinished()) {
         AcquisitionFeatures features(result->nodeMap, result->parameters);
-        features.takeOver(*lost);
+        features.takeOver(*earlier);
         features.stop();
     }
     return result;
@@ -310,14 +310,18 @@ void GenicamCamera::close()
     if (running)
         running->silence();
     const QString name = displayName();
-    const auto step =
-        m_steps.add([closed = std::move(closed), running = std::move(running), name]() mutable {
+    const QWeakPointer<HostCamera> weak = sharedFromThis();
+    const auto step = m_steps.add(
+        [closed = std::move(closed), running = std::move(running), name, weak]() mutable {
             closed->nodeMap->disconnect([&running] {
                 if (running)
                     running->finish();
             });
-            if (running)
+            if (running) {
                 reportLosses(*running, name);
+                if (const auto self = weak.toStrongRef().staticCast<GenicamCamera>())
+                    self->keepUnfinished(*running);
+            }
             running.reset();
             giveBack(std::move(closed));
         });
@@ -325,15 +329,23 @@ void GenicamCamera::close()
     emit stateChanged();
 }
 
-// Whoever opens it next is not to be refused because this program still has it. On a bad line the
-// camera has to be told several times. A delivery that has begun may keep the device for longer.
+// A camera that had gone, which nobody had noticed by then.
+void GenicamCamera::keepUnfinished(const Acquisition& ended)
+{
+    const std::lock_guard lock(m_mutex);
+    m_unfinished = ended.features();
+    m_isUnfinishedTold = true;
+}
+
+// Whoever opens it next is not to be refused because this program still has it: on a bad line the
+// camera has to be told several times, and an access that somebody has lost patience with may still
+// be under way.
 void GenicamCamera::giveBack(std::shared_ptr<Connection> closed)
 {
-    const std::weak_ptr<Device> device = closed->device;
     const auto released = closed->device->released();
     const bool isLost = closed->device->isLost();
     closed.reset();
-    if (!isLost && device.expired())
+    if (!isLost)
         released.wait();
 }
 
@@ -349,6 +361,7 @@ void GenicamCamera::lose(const Device* device)
         running = std::exchange(m_acquisition, {});
         if (running)
             m_unfinished = running->features();
+        m_isUnfinishedTold = false;
     }
     lost->nodeMap->refuseAccesses();
     if (running)

@@ -96,6 +96,7 @@ private:
     std::pair<QString, TransportSettings> target() const;
     bool begin(std::optional<std::chrono::milliseconds> timeout);
     void lose(const Device* device);
+    void keepUnfinished(const Acquisition& ended);
     static void reportLosses(Acquisition& ended, const QString& name);
     static void giveBack(std::shared_ptr<Connection> closed);
 
@@ -112,7 +113,8 @@ private:
     CameraIdentity m_identity;
     std::shared_ptr<Connection> m_connection; // null while the camera is closed
     std::shared_ptr<Acquisition> m_acquisition;
-    std::shared_ptr<const AcquisitionFeatures> m_unfinished; // since the camera was lost
+    std::shared_ptr<const AcquisitionFeatures> m_unfinished; // what the camera is to get back
+    bool m_isUnfinishedTold = false;
 };
 
 } // namespace Cameras::GenICam

@@ -108,7 +108,8 @@ protected:
 <pFeature>AcquisitionStop</pFeature><pFeature>TLParamsLocked</pFeature>)",
                         R"(
 <Enumeration Name="AcquisitionMode"><EnumEntry Name="Continuous"><Value>0</Value></EnumEntry>
-  <EnumEntry Name="SingleFrame"><Value>1</Value></EnumEntry><pValue>ModeReg</pValue></Enumeration>
+  <EnumEntry Name="SingleFrame"><Value>1</Value></EnumEntry>
+  <EnumEntry Name="MultiFrame"><Value>2</Value></EnumEntry><pValue>ModeReg</pValue></Enumeration>
 <Command Name="AcquisitionStart"><pValue>StartReg</pValue><CommandValue>1</CommandValue></Command>
 <Command Name="AcquisitionStop"><pValue>StopReg</pValue><CommandValue>1</CommandValue></Command>
 <Integer Name="TLParamsLocked"><pValue>LockReg</pValue></Integer>)" +
@@ -199,6 +200,21 @@ TEST_F(PlainCamera, IsGivenBackAsItWasBeforeTheFirstOfTwo)
     second.start();
     second.stop();
     expectAsBefore();
+}
+
+TEST_F(PlainCamera, KeepsTheModeThatSomebodySetsWhoWasToldOfTheRefusedOne)
+{
+    const auto acquisition = takingAPicture();
+    port->refused = {modeRegister};
+    acquisition->stop();
+    ASSERT_EQ(log.entries().size(), 1);
+    port->refused.clear();
+    camera->enumerationParameter(QStringLiteral("AcquisitionMode"))
+        ->setValue(QStringLiteral("MultiFrame"));
+    acquisition->stop();
+    EXPECT_TRUE(acquisition->owedMode().isEmpty());
+    EXPECT_EQ(port->word(modeRegister), 2U);
+    EXPECT_EQ(log.entries().size(), 1);
 }
 
 TEST_F(AcquisitionFeaturesTest, PutBackAModeWhoseWritingSeemedToFail)

@@ -6,6 +6,7 @@
 #include "frameprobe.h"
 #include "genicamexception.h"
 #include "logrecorder.h"
+#include "patience.h"
 
 #include <QCoreApplication>
 
@@ -181,6 +182,32 @@ TEST_F(SilentCamera, IsClosedAtOnceAndGivenBackAsItWasLater)
     rig->letGo();
     EXPECT_TRUE(becomes([this] { return mode()->value() == single; }));
     EXPECT_FALSE(rig->served().isGrabbing());
+    EXPECT_TRUE(camera->open()) << camera->lastErrorText().toStdString();
+}
+
+TEST_F(SilentCamera, IsGivenBackAsItWasWhereNobodyNoticedItsLossBeforeItWasClosed)
+{
+    mode()->setValue(single);
+    FrameProbe probe(camera);
+    ASSERT_TRUE(camera->startGrabbing());
+    ASSERT_TRUE(probe.waitFor(1));
+    rig->vanish();
+    camera->close();
+    rig->comeBack();
+    ASSERT_TRUE(becomes([this] { return camera->open(); }));
+    EXPECT_EQ(mode()->value(), single);
+}
+
+TEST_F(SilentCamera, IsOpenedAgainAtOnceThoughSomebodyHasLostPatienceWithIt)
+{
+    rig->hold();
+    const auto gain = camera->parameterCollection()->floatParameter(QStringLiteral("Gain"));
+    {
+        const Cameras::GenICam::Patience little(std::chrono::milliseconds(10));
+        EXPECT_THROW(gain->value(), ::GenICam::RuntimeException);
+    }
+    camera->close();
+    rig->letGo();
     EXPECT_TRUE(camera->open()) << camera->lastErrorText().toStdString();
 }
 
