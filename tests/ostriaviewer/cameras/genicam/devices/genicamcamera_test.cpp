@@ -6,6 +6,7 @@
 #include "emulationtest.h"
 #include "frameprobe.h"
 #include "logrecorder.h"
+#include "processcounts.h"
 #include "registerstore.h"
 #include "servedemulation.h"
 
@@ -229,6 +230,19 @@ TEST_F(GenicamCameraTest, CountsAndLeavesOutImagesThatEndEarly)
     }
 }
 
+TEST_F(GenicamCameraTest, AsksForAnotherImageWhereTheOnlyOneEndsEarly)
+{
+    NetworkRig rig(modelOfSeveralPackets());
+    ASSERT_TRUE(rig.camera()->open());
+    rig.server().cutImages(1);
+    FrameProbe probe(rig.camera());
+    ASSERT_TRUE(rig.camera()->grabSingle());
+    ASSERT_TRUE(becomes([&] { return rig.client()->statistics().damaged > 0; }));
+    rig.server().cutImages(0);
+    ASSERT_TRUE(probe.waitFor(1));
+    EXPECT_TRUE(probe.results().front()->GrabSucceeded());
+}
+
 // Where they end, the memory ends that was made for them.
 TEST_F(GenicamCameraTest, CountsAndLeavesOutImagesThatAreSmallerThanTheySay)
 {
@@ -244,6 +258,7 @@ TEST_F(GenicamCameraTest, CountsAndLeavesOutImagesThatAreSmallerThanTheySay)
     ASSERT_TRUE(rig.camera()->startGrabbing());
     EXPECT_TRUE(becomes([&] { return rig.client()->statistics().damaged >= 3; }));
     EXPECT_EQ(probe.count(), 0U);
+    rig.camera()->close();
 }
 
 // A receiver that does not come back: no larger packet size helps there.
@@ -358,15 +373,30 @@ TEST_F(GenicamCameraTest, GivesUpACameraThatDoesNotAnswerAnAccess)
     EXPECT_TRUE(becomes([&] { return !camera->isOpen(); }));
 }
 
-TEST_F(GenicamCameraTest, OpensAndClosesManyTimes)
+// Threads end a little later than what they were for.
+TEST_F(GenicamCameraTest, OpensAndClosesManyTimesAndLeavesNeitherThreadsNorFilesBehind)
 {
     NetworkRig rig(smallModel());
     const HostCameraPtr camera = rig.camera();
-    for (int round = 0; round < 100; ++round) {
+    constexpr int warmUp = 5; // the library keeps what it has once had
+    int threadsBefore = 0;
+    int filesBefore = 0;
+    for (int round = -warmUp; round < 100; ++round) {
+        if (round == 0) {
+            threadsBefore = threadCount();
+            filesBefore = openFileCount();
+        }
         ASSERT_TRUE(camera->open()) << round << ": " << camera->lastErrorText().toStdString();
+        FrameProbe probe(camera);
+        ASSERT_TRUE(camera->grabSingle());
+        ASSERT_TRUE(probe.waitFor(1)) << round;
         camera->close();
         ASSERT_FALSE(camera->isOpen());
     }
+    EXPECT_TRUE(becomes([&] { return threadCount() <= threadsBefore; }))
+        << threadCount() << " and " << threadsBefore;
+    EXPECT_TRUE(becomes([&] { return openFileCount() <= filesBefore; }))
+        << openFileCount() << " and " << filesBefore;
 }
 
 // The library asks again after half a second each.
