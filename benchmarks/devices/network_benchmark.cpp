@@ -11,9 +11,13 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
+#include <future>
 #include <mutex>
+#include <optional>
 #include <thread>
 
 using namespace Cameras;
@@ -230,5 +234,70 @@ void openAndClose(benchmark::State& state)
                                   static_cast<double>(state.iterations());
 }
 BENCHMARK(openAndClose)->Unit(benchmark::kMillisecond)->Iterations(100)->UseRealTime();
+
+/// Waits until a camera is told to be lost.
+class Loss
+{
+public:
+    explicit Loss(const HostCameraPtr& camera)
+        : m_connection(QObject::connect(camera.data(), &HostCamera::cameraConnectionLost,
+                                        [this] { m_told.set_value(Clock::now()); }))
+    {}
+    ~Loss() { QObject::disconnect(m_connection); }
+    Loss(const Loss&) = delete;
+    Loss& operator=(const Loss&) = delete;
+
+    using Clock = std::chrono::steady_clock;
+
+    /// When it was told; nothing if it is not.
+    std::optional<Clock::time_point> wait()
+    {
+        constexpr std::chrono::seconds longest(60);
+        auto told = m_told.get_future();
+        if (told.wait_for(longest) != std::future_status::ready)
+            return {};
+        return told.get();
+    }
+
+private:
+    std::promise<Clock::time_point> m_told;
+    const QMetaObject::Connection m_connection;
+};
+
+/// From the death of a camera to the word that it is lost. It dies right after it was opened, or
+/// has sent its first image: the next question whether it is alive is a whole pause away then.
+void lossNoticed(benchmark::State& state, bool isGrabbing)
+{
+    constexpr double allowedSeconds = 6.0;
+    const QTemporaryDir folder;
+    const auto emulated = makeCamera(folder, true);
+    emulated->open();
+    const HostCameraPtr camera = networkCamera();
+    double worst = 0.0;
+    for (auto _ : state) {
+        auto server = std::make_unique<Emulation::GigeServer>(Emulation::serveEmulation(emulated),
+                                                              "127.0.0.1");
+        Counter counter(camera);
+        Loss loss(camera);
+        if (!camera->open() ||
+            (isGrabbing && !(camera->startGrabbing() && counter.waitForNext()))) {
+            state.SkipWithError(camera->lastErrorText().toUtf8().constData());
+            return;
+        }
+        const auto death = Loss::Clock::now();
+        server.reset();
+        const auto told = loss.wait();
+        if (!told)
+            return state.SkipWithError("the loss was not noticed");
+        const double seconds = std::chrono::duration<double>(*told - death).count();
+        state.SetIterationTime(seconds);
+        worst = std::max(worst, seconds);
+    }
+    state.counters["worst"] = worst;
+    if (worst > allowedSeconds)
+        state.SkipWithError("the loss was noticed too late");
+}
+BENCHMARK_CAPTURE(lossNoticed, open, false)->Unit(benchmark::kSecond)->UseManualTime();
+BENCHMARK_CAPTURE(lossNoticed, grabbing, true)->Unit(benchmark::kSecond)->UseManualTime();
 
 } // namespace

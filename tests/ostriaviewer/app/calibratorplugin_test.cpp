@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // The calibrator's plugin in the viewer: whatever ends it early, the camera is given back.
+#include "processcounts.h"
 #include "viewertest.h"
 
 #include <QDialog>
-#include <QDir>
 #include <QPointer>
 #include <QQmlContext>
 #include <QQuickItem>
@@ -292,9 +292,6 @@ TEST_F(CalibratorPlugin, QuittingWithAFileDialogOfTheWizardOpenEndsBoth)
 /// some.
 TEST_F(CalibratorPlugin, LeavesNoThreadBehindHoweverItEnds)
 {
-    const auto threads = [] {
-        return QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
-    };
     auto& pool = *QThreadPool::globalInstance();
     const int expiry = pool.expiryTimeout();
     pool.setExpiryTimeout(0);
@@ -306,7 +303,7 @@ TEST_F(CalibratorPlugin, LeavesNoThreadBehindHoweverItEnds)
     int before = 0;
     for (int round = 0; round < 5; ++round) {
         if (round == 1)
-            before = threads();
+            before = threadCount();
         run(close);
         m_first->faults().loseConnectionAfter(1);
         run([](QDialog& dialog) {
@@ -318,7 +315,8 @@ TEST_F(CalibratorPlugin, LeavesNoThreadBehindHoweverItEnds)
         window().commands().openAction()->trigger();
         ASSERT_TRUE(m_first->isOpen());
     }
-    EXPECT_TRUE(waitUntil([&] { return threads() <= before; })) << threads() << " and " << before;
+    EXPECT_TRUE(waitUntil([&] { return threadCount() <= before; }))
+        << threadCount() << " and " << before;
     pool.setExpiryTimeout(expiry);
 }
 

@@ -2,8 +2,7 @@
 // Opening, calibrating and closing a camera again and again leaves nothing behind.
 #include "calibrationsequence.h"
 #include "emulatedhost.h"
-
-#include <QDir>
+#include "processcounts.h"
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -19,19 +18,6 @@ constexpr bool isHeapCounted = false; // malloc is replaced
 #else
 constexpr bool isHeapCounted = true;
 #endif
-
-int threads()
-{
-    return static_cast<int>(QDir(QStringLiteral("/proc/self/task"))
-                                .entryList(QDir::Dirs | QDir::NoDotAndDotDot)
-                                .size());
-}
-
-int openFiles()
-{
-    return static_cast<int>(
-        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size());
-}
 
 std::size_t heap()
 {
@@ -66,13 +52,13 @@ TEST_P(RepeatedCalibration, LeavesNeitherMemoryNorThreadsNorFilesBehind)
     for (int i = 0; i < warmUp; ++i)
         calibrateOnce(host);
     const std::size_t heapBefore = heap();
-    const int threadsBefore = threads();
-    const int filesBefore = openFiles();
+    const int threadsBefore = threadCount();
+    const int filesBefore = openFileCount();
     for (int i = 0; i < cycles; ++i)
         calibrateOnce(host);
     // Less where a pool has let a thread go that was idle.
-    EXPECT_LE(threads(), threadsBefore);
-    EXPECT_LE(openFiles(), filesBefore);
+    EXPECT_LE(threadCount(), threadsBefore);
+    EXPECT_LE(openFileCount(), filesBefore);
     const auto grown = static_cast<double>(heap()) - static_cast<double>(heapBefore);
     // 256 bytes a cycle: less than one object of a camera, of which each opening makes hundreds.
     if (isHeapCounted) {

@@ -1,36 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // A camera that vanishes does not hold up the windows.
+#include "eventloopmeter.h"
 #include "featuremodel.h"
 #include "networkviewertest.h"
 
-#include <QElapsedTimer>
-#include <QTimer>
 #include <QTreeView>
-
-#include <algorithm>
 
 namespace Viewer {
 namespace {
-
-/// How long the event loop was held up at most.
-class EventLoopMeter
-{
-public:
-    EventLoopMeter()
-    {
-        m_sinceTick.start();
-        QObject::connect(&m_timer, &QTimer::timeout,
-                         [this] { m_longest = std::max(m_longest, m_sinceTick.restart()); });
-        m_timer.start(1);
-    }
-
-    qint64 longestMs() const { return std::max(m_longest, m_sinceTick.elapsed()); }
-
-private:
-    QTimer m_timer;
-    QElapsedTimer m_sinceTick;
-    qint64 m_longest = 0;
-};
 
 /// The library waits 2.5 s for each answer, and for the end of its own questions; nobody waits for
 /// the library for more than half a second.

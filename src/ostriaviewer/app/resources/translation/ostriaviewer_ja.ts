@@ -269,10 +269,6 @@
 <context>
     <name>Cameras::GenICam::Frame</name>
     <message>
-        <source>The frame holds less than its image.</source>
-        <translation>フレームのデータが画像のサイズに足りません。</translation>
-    </message>
-    <message>
         <source>The frame holds no image.</source>
         <translation>フレームに画像がありません。</translation>
     </message>

@@ -269,10 +269,6 @@
 <context>
     <name>Cameras::GenICam::Frame</name>
     <message>
-        <source>The frame holds less than its image.</source>
-        <translation>프레임의 데이터가 이미지 크기보다 적습니다.</translation>
-    </message>
-    <message>
         <source>The frame holds no image.</source>
         <translation>프레임에 이미지가 없습니다.</translation>
     </message>

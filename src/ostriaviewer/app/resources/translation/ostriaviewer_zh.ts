@@ -269,10 +269,6 @@
 <context>
     <name>Cameras::GenICam::Frame</name>
     <message>
-        <source>The frame holds less than its image.</source>
-        <translation>帧数据少于图像所需的大小。</translation>
-    </message>
-    <message>
         <source>The frame holds no image.</source>
         <translation>帧中没有图像。</translation>
     </message>

@@ -60,15 +60,26 @@ void FrameSender::losePackets(double share)
     m_loss = share;
 }
 
+void FrameSender::cutImages(std::size_t bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    m_cut = bytes;
+}
+
 std::size_t FrameSender::payloadSize() const
 {
     return m_target.packetSize - ipHeaders - packetHeader;
 }
 
+std::size_t FrameSender::sentSize(const SentFrame& frame) const
+{
+    return frame.image.size() - std::min(frame.image.size(), m_cut);
+}
+
 /// Leader and trailer included.
 std::uint32_t FrameSender::packetCount(const SentFrame& frame) const
 {
-    return static_cast<std::uint32_t>((frame.image.size() + payloadSize() - 1) / payloadSize()) + 2;
+    return static_cast<std::uint32_t>((sentSize(frame) + payloadSize() - 1) / payloadSize()) + 2;
 }
 
 Bytes FrameSender::leader(const SentFrame& frame) const
@@ -102,7 +113,7 @@ Bytes FrameSender::packet(const SentFrame& frame, std::uint32_t index) const
     }
     Bytes bytes = begin(frame.id, Content::Payload, index);
     const std::size_t offset = (index - 1) * payloadSize();
-    const std::size_t size = std::min(payloadSize(), frame.image.size() - offset);
+    const std::size_t size = std::min(payloadSize(), sentSize(frame) - offset);
     bytes.insert(bytes.end(), frame.image.data() + offset, frame.image.data() + offset + size);
     return bytes;
 }

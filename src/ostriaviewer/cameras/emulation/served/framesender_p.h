@@ -47,6 +47,9 @@ public:
     /// Lets that share of all packets vanish, from 0 to 1.
     void losePackets(double share);
 
+    /// Ends each image so many bytes early; its leader tells of it as if it were whole.
+    void cutImages(std::size_t bytes);
+
 private:
     struct SentFrame
     {
@@ -55,6 +58,7 @@ private:
     };
 
     std::size_t payloadSize() const;
+    std::size_t sentSize(const SentFrame& frame) const;
     std::uint32_t packetCount(const SentFrame& frame) const;
     Gvcp::Bytes packet(const SentFrame& frame, std::uint32_t index) const;
     Gvcp::Bytes leader(const SentFrame& frame) const;
@@ -70,6 +74,7 @@ private:
     SentFrame m_last;
     std::uint16_t m_nextId = 1;
     double m_loss = 0.0;
+    std::size_t m_cut = 0; // bytes
     std::minstd_rand m_chance;
 };
 

@@ -163,4 +163,9 @@ void GigeServer::losePackets(double share)
     m_worker->sender().losePackets(share);
 }
 
+void GigeServer::cutImages(std::size_t bytes)
+{
+    m_worker->sender().cutImages(bytes);
+}
+
 } // namespace Cameras::Emulation

@@ -4,6 +4,7 @@
 
 #include "serveddevice.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -26,6 +27,9 @@ public:
 
     /// Lets that share of all image packets vanish, from 0 to 1.
     void losePackets(double share);
+
+    /// Ends each image so many bytes early, of which nothing but its size tells.
+    void cutImages(std::size_t bytes);
 
     /// Lets that share of the requests vanish, and of the answers to the others, from 0 to 1.
     void loseControlPackets(double share);

@@ -83,7 +83,7 @@ Ostria::CGrabResultPtr toGrabResult(ArvBuffer* buffer, std::uint64_t number)
     try {
         const auto image = copyImage(buffer, layoutOf(buffer, type));
         if (!image)
-            return failure(Texts::tr("The frame holds less than its image."), number);
+            return nullptr;
         return std::make_shared<Ostria::CGrabResult>(std::move(*image), number);
     } catch (const std::exception& error) {
         return failure(Texts::tr("The frame cannot be used (%1). Choose another pixel format or "

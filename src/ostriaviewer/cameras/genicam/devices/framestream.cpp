@@ -165,14 +165,17 @@ void FrameStream::State::dropDamaged()
         single->again();
 }
 
+// For the library a frame is whole that its trailer ends, wherever that is.
 void FrameStream::State::receive(ArvBuffer* buffer)
 {
     const std::uint64_t frame = countFrame(buffer);
-    if (arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS) {
+    Ostria::CGrabResultPtr result;
+    if (arv_buffer_get_status(buffer) == ARV_BUFFER_STATUS_SUCCESS)
+        result = toGrabResult(buffer, frame);
+    if (!result) {
         dropDamaged();
         return;
     }
-    const Ostria::CGrabResultPtr result = toGrabResult(buffer, frame);
     if (!isWanted())
         return;
     if (single)

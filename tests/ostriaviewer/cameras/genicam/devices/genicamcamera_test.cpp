@@ -6,10 +6,13 @@
 #include "emulationtest.h"
 #include "frameprobe.h"
 #include "logrecorder.h"
+#include "processcounts.h"
+#include "registerstore.h"
 #include "servedemulation.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QtEndian>
 
 #include <algorithm>
 #include <chrono>
@@ -38,6 +41,15 @@ protected:
     }
 };
 
+/// 73728 bytes an image.
+Emulation::CameraModel modelOfSeveralPackets()
+{
+    Emulation::CameraModel model = smallModel();
+    model.sensor.width = 192;
+    model.sensor.height = 128;
+    return model;
+}
+
 /// A served camera with another description.
 class Misdescribed final : public Emulation::IServedDevice
 {
@@ -63,6 +75,39 @@ public:
 private:
     const std::shared_ptr<Emulation::IServedDevice> m_device;
     const std::string m_description;
+};
+
+/// A served camera that says that its images have less bytes than they have.
+class Understating final : public Emulation::IServedDevice
+{
+public:
+    Understating(const QSharedPointer<Emulation::EmulatedCamera>& camera, quint64 missing)
+        : m_device(Emulation::serveEmulation(camera))
+        , m_missing(missing)
+    {
+        const auto& store = *camera->registers();
+        m_address = store.layout().address(store.table()->indexOf(QStringLiteral("PayloadSize")));
+    }
+
+    Emulation::ServedIdentity identity() const override { return m_device->identity(); }
+    std::string description() const override { return m_device->description(); }
+    void setReceiver(Receiver receiver) override { m_device->setReceiver(std::move(receiver)); }
+    void stopAcquisition() override { m_device->stopAcquisition(); }
+    void read(std::uint64_t address, void* data, std::size_t size) override
+    {
+        m_device->read(address, data, size);
+        if (address == m_address && size == sizeof(quint64))
+            qToBigEndian(qFromBigEndian<quint64>(data) - m_missing, data);
+    }
+    void write(std::uint64_t address, const void* data, std::size_t size) override
+    {
+        m_device->write(address, data, size);
+    }
+
+private:
+    const std::shared_ptr<Emulation::IServedDevice> m_device;
+    const quint64 m_missing;
+    std::uint64_t m_address = 0;
 };
 
 struct BrokenDescription
@@ -164,6 +209,56 @@ TEST_F(GenicamCameraTest, ShowsWholeImagesAloneWhenHalfOfThePacketsAreLost)
     const std::size_t before = probe.count();
     ASSERT_TRUE(rig.camera()->grabSingle());
     EXPECT_TRUE(probe.waitFor(before + 1));
+}
+
+// A byte less, or a packet. For the library a frame is whole that its trailer ends.
+TEST_F(GenicamCameraTest, CountsAndLeavesOutImagesThatEndEarly)
+{
+    for (const std::size_t missing : {std::size_t{1}, std::size_t{9000}}) {
+        NetworkRig rig(modelOfSeveralPackets());
+        ASSERT_TRUE(rig.camera()->open());
+        rig.server().cutImages(missing);
+        FrameProbe probe(rig.camera());
+        ASSERT_TRUE(rig.camera()->startGrabbing());
+        EXPECT_TRUE(becomes([&] { return rig.client()->statistics().damaged >= 3; })) << missing;
+        EXPECT_EQ(probe.count(), 0U) << missing;
+        EXPECT_EQ(rig.client()->statistics().delivered, 0U) << missing;
+        rig.server().cutImages(0);
+        ASSERT_TRUE(probe.waitFor(1)) << missing;
+        EXPECT_TRUE(probe.results().front()->GrabSucceeded());
+        EXPECT_EQ(probe.results().front()->image().size(), 73728U);
+    }
+}
+
+TEST_F(GenicamCameraTest, AsksForAnotherImageWhereTheOnlyOneEndsEarly)
+{
+    NetworkRig rig(modelOfSeveralPackets());
+    ASSERT_TRUE(rig.camera()->open());
+    rig.server().cutImages(1);
+    FrameProbe probe(rig.camera());
+    ASSERT_TRUE(rig.camera()->grabSingle());
+    ASSERT_TRUE(becomes([&] { return rig.client()->statistics().damaged > 0; }));
+    rig.server().cutImages(0);
+    ASSERT_TRUE(probe.waitFor(1));
+    EXPECT_TRUE(probe.results().front()->GrabSucceeded());
+}
+
+// Where they end, the memory ends that was made for them.
+TEST_F(GenicamCameraTest, CountsAndLeavesOutImagesThatAreSmallerThanTheySay)
+{
+    NetworkRig rig(modelOfSeveralPackets());
+    rig.vanish();
+    const auto served = rig.served().sharedFromThis().staticCast<Emulation::EmulatedCamera>();
+    constexpr std::size_t missing = 20000;
+    Emulation::GigeServer server(std::make_shared<Understating>(served, missing),
+                                 NetworkRig::address());
+    server.cutImages(missing);
+    ASSERT_TRUE(rig.camera()->open()) << rig.camera()->lastErrorText().toStdString();
+    FrameProbe probe(rig.camera());
+    ASSERT_TRUE(rig.camera()->startGrabbing());
+    EXPECT_TRUE(becomes([&] { return rig.client()->statistics().damaged >= 3; }));
+    EXPECT_EQ(probe.count(), 0U);
+    rig.camera()->close();
 }
 
 // A receiver that does not come back: no larger packet size helps there.
@@ -278,15 +373,30 @@ TEST_F(GenicamCameraTest, GivesUpACameraThatDoesNotAnswerAnAccess)
     EXPECT_TRUE(becomes([&] { return !camera->isOpen(); }));
 }
 
-TEST_F(GenicamCameraTest, OpensAndClosesManyTimes)
+// Threads end a little later than what they were for.
+TEST_F(GenicamCameraTest, OpensAndClosesManyTimesAndLeavesNeitherThreadsNorFilesBehind)
 {
     NetworkRig rig(smallModel());
     const HostCameraPtr camera = rig.camera();
-    for (int round = 0; round < 100; ++round) {
+    constexpr int warmUp = 5; // the library keeps what it has once had
+    int threadsBefore = 0;
+    int filesBefore = 0;
+    for (int round = -warmUp; round < 100; ++round) {
+        if (round == 0) {
+            threadsBefore = threadCount();
+            filesBefore = openFileCount();
+        }
         ASSERT_TRUE(camera->open()) << round << ": " << camera->lastErrorText().toStdString();
+        FrameProbe probe(camera);
+        ASSERT_TRUE(camera->grabSingle());
+        ASSERT_TRUE(probe.waitFor(1)) << round;
         camera->close();
         ASSERT_FALSE(camera->isOpen());
     }
+    EXPECT_TRUE(becomes([&] { return threadCount() <= threadsBefore; }))
+        << threadCount() << " and " << threadsBefore;
+    EXPECT_TRUE(becomes([&] { return openFileCount() <= filesBefore; }))
+        << openFileCount() << " and " << filesBefore;
 }
 
 // The library asks again after half a second each.
