@@ -3,6 +3,7 @@
 #include "camerasettingscommands.h"
 
 #include "camerasettingsdialog.h"
+#include "networkinterfaces.h"
 
 #include <QStringList>
 
@@ -32,8 +33,7 @@ void CameraSettingsCommands::edit()
 {
     const CameraSettings kept =
         m_settings.isKept() ? readCameraSettings(m_settings) : m_sources.settings();
-    auto* dialog =
-        new CameraSettingsDialog(kept, CameraSettingsDialog::systemInterfaces(), &m_window);
+    auto* dialog = new CameraSettingsDialog(kept, Cameras::GenICam::networkInterfaces(), &m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setQuestion(
         [this, kept](const CameraSettings& chosen) { return question(applied(chosen, kept)); });

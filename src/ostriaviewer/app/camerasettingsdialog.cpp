@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QNetworkInterface>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -257,21 +256,6 @@ void CameraSettingsDialog::follow()
     m_remove->setEnabled(m_addresses->currentItem() != nullptr);
     m_add->setDefault(m_add->isEnabled());
     m_problem->hide();
-}
-
-QStringList CameraSettingsDialog::systemInterfaces()
-{
-    QStringList names;
-    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces()) {
-        const auto entries = interface.addressEntries();
-        const bool hasAddress =
-            std::any_of(entries.begin(), entries.end(), [](const QNetworkAddressEntry& entry) {
-                return entry.ip().protocol() == QAbstractSocket::IPv4Protocol;
-            });
-        if (hasAddress)
-            names.append(interface.name());
-    }
-    return names;
 }
 
 } // namespace Viewer

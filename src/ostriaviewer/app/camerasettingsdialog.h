@@ -31,9 +31,6 @@ public:
     /// What the dialog shows.
     CameraSettings settings() const;
 
-    /// The network interfaces of this machine that have an IPv4 address.
-    static QStringList systemInterfaces();
-
     /// What the user is asked before these settings are taken; empty if nothing.
     using Question = std::function<QString(const CameraSettings& settings)>;
     void setQuestion(Question question);

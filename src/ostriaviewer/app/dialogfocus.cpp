@@ -3,40 +3,40 @@
 #include "dialogfocus.h"
 
 #include <QApplication>
-#include <QDialog>
-#include <QEvent>
 
 namespace Viewer {
 
 DialogFocus::DialogFocus(QWidget& window)
     : m_window(window)
-{
-    QCoreApplication::instance()->installEventFilter(this);
-}
+{}
 
-// A user who has gone to another program meanwhile is not called back.
-bool DialogFocus::eventFilter(QObject* object, QEvent* event)
+bool DialogFocus::comes(QDialog& /*dialog*/, QEvent& /*event*/)
 {
-    if (event->type() != QEvent::Hide || event->spontaneous() ||
-        QGuiApplication::applicationState() != Qt::ApplicationActive)
-        return false;
-    if (const auto* dialog = qobject_cast<QDialog*>(object))
-        QMetaObject::invokeMethod(
-            this, [this, isParentless = !dialog->parentWidget()] { giveKeysBack(isParentless); },
-            Qt::QueuedConnection);
+    QWidget* active = QApplication::activeWindow();
+    if (active && !qobject_cast<QDialog*>(active))
+        m_before = active;
     return false;
 }
 
-// A dialog without a parent over another one is that one's matter: it may have the keys in a window
-// of its own within it.
-void DialogFocus::giveKeysBack(bool isParentless)
+// A user who has gone to another program meanwhile is not called back. A dialog without a parent
+// over another one is that one's matter: it may have the keys in a window of its own within it.
+bool DialogFocus::goes(const QDialog& dialog)
+{
+    return QGuiApplication::applicationState() == Qt::ApplicationActive &&
+           (dialog.parentWidget() || !QApplication::activeModalWidget());
+}
+
+// Who has gone to another window himself, past a dialog that let him, stays there.
+void DialogFocus::giveKeysBack()
 {
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal && isParentless)
+    const QWidget* active = QApplication::activeWindow();
+    if (!modal && active && active->isVisible())
         return;
-    QWidget& next = modal ? *modal : m_window;
-    if (next.isVisible() && !next.isActiveWindow())
-        next.activateWindow();
+    QWidget* before = m_before && m_before->isVisible() ? m_before.data() : &m_window;
+    QWidget* next = modal ? modal : before;
+    if (next->isVisible() && !next->isActiveWindow())
+        next->activateWindow();
 }
 
 } // namespace Viewer

@@ -2,27 +2,29 @@
 // Where the keys go when a dialog closes.
 #pragma once
 
-#include <QObject>
+#include "keysafterdialogs.h"
+
+#include <QPointer>
 #include <QWidget>
 
 namespace Viewer {
 
-/// Gives the keys back to the window, or to the dialog that is still open over it. A window manager
-/// does so too, but there is not one everywhere. Thread-bound: GUI thread.
-class DialogFocus final : public QObject
+/// Gives the keys back to the dialog that is still open, or to whichever window had them before:
+/// the main window or a panel that floats beside it. Thread-bound: GUI thread.
+class DialogFocus final : public Core::KeysAfterDialogs
 {
-    Q_OBJECT
-
 public:
     /// \param window  lent as long as this lives
     explicit DialogFocus(QWidget& window);
 
-    bool eventFilter(QObject* object, QEvent* event) override;
+protected:
+    bool comes(QDialog& dialog, QEvent& event) override;
+    bool goes(const QDialog& dialog) override;
+    void giveKeysBack() override;
 
 private:
-    void giveKeysBack(bool isParentless);
-
     QWidget& m_window;
+    QPointer<QWidget> m_before; // had the keys before the first dialog
 };
 
 } // namespace Viewer

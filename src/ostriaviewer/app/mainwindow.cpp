@@ -114,7 +114,8 @@ void MainWindow::publishContextMenu()
 void MainWindow::makeConnections()
 {
     connect(m_selectorPanel, &CameraSelectorPanel::activated, m_commands, &CameraCommands::start);
-    connect(m_commands, &CameraCommands::failed, this, &MainWindow::showFailure);
+    connect(m_commands, &CameraCommands::failed, this,
+            [this](const QString& text) { showFailure(text); });
     connect(m_menu, &MainMenu::savePictureRequested, this, &MainWindow::savePicture);
     connect(m_saver, &PictureSaver::failed, this, &MainWindow::showFailure);
     connect(m_menu, &MainMenu::quitRequested, this, &QWidget::close);
@@ -147,10 +148,10 @@ void MainWindow::saveLayout()
     m_parts.settings.setValue(QStringLiteral("Layout"), saveState(ViewerSettings::version));
 }
 
-void MainWindow::showFailure(const QString& text)
+void MainWindow::showFailure(const QString& text, QWidget* dialog)
 {
-    auto* box =
-        new QMessageBox(QMessageBox::Warning, tr("Ostria Viewer"), text, QMessageBox::Ok, this);
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("Ostria Viewer"), text, QMessageBox::Ok,
+                                dialog ? dialog : this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::PlainText);
     box->open();

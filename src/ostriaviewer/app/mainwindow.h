@@ -65,7 +65,8 @@ public:
     void saveLayout();
 
     /// A message about something the user asked for; the window stays usable meanwhile.
-    void showFailure(const QString& text);
+    /// \param dialog  where it stands, if not over this window
+    void showFailure(const QString& text, QWidget* dialog = nullptr);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

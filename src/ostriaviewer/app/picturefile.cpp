@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QImageWriter>
 
+#include <new>
+
 namespace Viewer {
 namespace {
 
@@ -29,9 +31,9 @@ Encoded encoded(const QImage& picture, const QByteArray& format)
 {
     if (format == "png") {
         const Saving::EncodedPng png = Saving::encodePngQuickly(picture);
-        if (png.problem.isEmpty())
-            return {png.bytes, {}};
-        return {{}, Texts::tr("There is not enough memory for the picture.")};
+        if (!png.problem.isEmpty())
+            throw std::bad_alloc();
+        return {png.bytes, {}};
     }
     Encoded file;
     QBuffer buffer(&file.bytes);
@@ -47,6 +49,12 @@ QString writePictureFile(const QImage& picture, const QString& path)
 {
     const Encoded file = encoded(picture, QFileInfo(path).suffix().toLower().toLatin1());
     return file.problem.isEmpty() ? Saving::writeWholeFile(path, file.bytes) : file.problem;
+}
+
+QString noMemoryForPicture()
+{
+    return Texts::tr("There is not enough memory for the picture. Close other programs or choose a "
+                     "smaller image size.");
 }
 
 } // namespace Viewer

@@ -10,11 +10,31 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <functional>
+#include <new>
+
 namespace Viewer {
 namespace {
 
 const auto folderName = QStringLiteral("PictureFolder");
 const auto standardSuffix = QStringLiteral("png");
+
+/// Stays open, as it is, where the file that was chosen cannot be used.
+class SaveDialog final : public QFileDialog
+{
+public:
+    using QFileDialog::QFileDialog;
+
+    /// \return  whether the file is written
+    std::function<bool(const QString& file)> write;
+
+protected:
+    void done(int result) override
+    {
+        if (result != Accepted || write(selectedFiles().constFirst()))
+            QFileDialog::done(result);
+    }
+};
 
 } // namespace
 
@@ -26,16 +46,20 @@ PictureSaver::PictureSaver(ViewerSettings& settings, QWidget* window)
 
 void PictureSaver::save(const QImage& picture, const QString& camera)
 {
-    auto* dialog = new QFileDialog(m_window, tr("Save Picture"), folder(),
-                                   tr("Pictures (*.png *.tif *.bmp *.jpg)"));
+    auto* dialog = new SaveDialog(m_window, tr("Save Picture"), folder(),
+                                  tr("Pictures (*.png *.tif *.bmp *.jpg)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // A desktop's own dialog may add the suffix after it has looked for a file of that name.
     dialog->setOption(QFileDialog::DontUseNativeDialog);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(standardSuffix);
     dialog->selectFile(QStringLiteral("%1.%2").arg(fileNameNow(camera), standardSuffix));
-    connect(dialog, &QFileDialog::fileSelected, this,
-            [this, picture](const QString& file) { write(picture, file); });
+    dialog->write = [this, picture, dialog](const QString& file) {
+        const QString problem = write(picture, file);
+        if (!problem.isEmpty())
+            emit failed(problem, dialog);
+        return problem.isEmpty();
+    };
     dialog->open();
 }
 
@@ -47,13 +71,19 @@ QString PictureSaver::folder() const
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
-void PictureSaver::write(const QImage& picture, const QString& file)
+/// \return  empty, or what went wrong and what to do
+QString PictureSaver::write(const QImage& picture, const QString& file)
 {
     m_settings.setValue(folderName, QFileInfo(file).absolutePath());
-    if (!writePictureFile(picture, file).isEmpty())
-        emit failed(tr("%1 could not be written. Choose another folder or another kind of file, "
-                       "or make room on the disk.")
-                        .arg(QDir::toNativeSeparators(file)));
+    try {
+        if (writePictureFile(picture, file).isEmpty())
+            return {};
+    } catch (const std::bad_alloc&) {
+        return noMemoryForPicture();
+    }
+    return tr("%1 could not be written. Choose another folder or another kind of file, or make "
+              "room on the disk.")
+        .arg(QDir::toNativeSeparators(file));
 }
 
 } // namespace Viewer

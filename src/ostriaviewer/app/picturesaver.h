@@ -10,8 +10,8 @@
 
 namespace Viewer {
 
-/// Asks for a file and writes a picture into it. No file is replaced that the user was not asked
-/// about. Thread-bound: GUI thread.
+/// Asks for a file and writes a picture into it, until that succeeds or the user gives it up. No
+/// file is replaced that the user was not asked about. Thread-bound: GUI thread.
 class PictureSaver final : public QObject
 {
     Q_OBJECT
@@ -27,11 +27,12 @@ public:
 
 signals:
     /// The file could not be written; says what to do.
-    void failed(const QString& text);
+    /// \param dialog  still open, with what the user has chosen
+    void failed(const QString& text, QWidget* dialog);
 
 private:
     QString folder() const;
-    void write(const QImage& picture, const QString& file);
+    QString write(const QImage& picture, const QString& file);
 
     ViewerSettings& m_settings;
     QWidget* m_window;

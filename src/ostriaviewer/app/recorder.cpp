@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <new>
 #include <optional>
 #include <utility>
 
@@ -171,6 +172,8 @@ void Recorder::run(const std::shared_ptr<Queue>& queue)
                 writePictureFile(buffers.toPicture(std::move(image)),
                                  folder.filePath(fileName(frame->frameNumber())));
             queue->note(reason.isEmpty() ? reason : diskProblem(reason));
+        } catch (const std::bad_alloc&) {
+            queue->note(noMemoryForPicture());
         } catch (const std::exception& error) {
             queue->note(pictureProblem(QString::fromUtf8(error.what())));
         }

@@ -5,6 +5,7 @@
 #include "viewertest.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -355,6 +356,23 @@ TEST_F(CameraSettingsInTheViewer, CountAtOnceAndAreKept)
 }
 
 // As after a newer viewer, whose file is left as it is.
+// Also those without a cable or an address: settings are made for later, too.
+TEST_F(CameraSettingsInTheViewer, OfferAllNetworkInterfacesOfTheSystem)
+{
+    startViewer();
+    child<QAction>("editCameraSettings")->trigger();
+    const auto* list = child<QListWidget>("interfaces");
+    QStringList offered;
+    for (int row = 0; row < list->count(); ++row)
+        offered.append(list->item(row)->text());
+    offered.sort();
+    const QStringList known =
+        QDir("/sys/class/net").entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    ASSERT_FALSE(known.isEmpty());
+    EXPECT_EQ(offered, known);
+    child<CameraSettingsDialog>("cameraSettings")->reject();
+}
+
 TEST_F(CameraSettingsInTheViewer, AreShownAsTheyCountWhereTheyAreNotKept)
 {
     QSettings().setValue("Viewer/Version", 1000);

@@ -3,6 +3,7 @@
 #include "viewertest.h"
 
 #include <QComboBox>
+#include <QDockWidget>
 #include <QTimer>
 
 #include <algorithm>
@@ -59,6 +60,68 @@ TEST_F(DialogFocusTest, GoesBackToTheDialogThatAsked)
     ASSERT_TRUE(hasKeys(*question));
     press(Qt::Key_Escape);
     EXPECT_TRUE(hasKeys(*dialog));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(hasKeys(window()));
+}
+
+/// The features stand in a window of their own and have the keys.
+class FocusOfAFloatingPanel : public DialogFocusTest
+{
+protected:
+    void floatFeatures()
+    {
+        startViewer();
+        m_panel = child<QDockWidget>("featuresPanel");
+        m_panel->setFloating(true);
+        m_panel->show();
+        m_panel->activateWindow();
+        ASSERT_TRUE(hasKeys(*m_panel));
+    }
+
+    /// With the keys, which Qt gives to the main window below it where a panel had them.
+    void openDialog()
+    {
+        child<QAction>("editCameraSettings")->trigger();
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_TRUE(dialog);
+        ASSERT_TRUE(hasKeys(window()));
+        dialog->activateWindow();
+        ASSERT_TRUE(hasKeys(*dialog));
+    }
+
+    QDockWidget* m_panel = nullptr;
+};
+
+TEST_F(FocusOfAFloatingPanel, ComesBackToIt)
+{
+    ASSERT_NO_FATAL_FAILURE(floatFeatures());
+    ASSERT_NO_FATAL_FAILURE(openDialog());
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(hasKeys(*m_panel));
+}
+
+TEST_F(FocusOfAFloatingPanel, IsNotTakenByADialogThatLeftIt)
+{
+    ASSERT_NO_FATAL_FAILURE(floatFeatures());
+    QDialog dialog(&window());
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(hasKeys(dialog));
+    m_panel->activateWindow();
+    ASSERT_TRUE(hasKeys(*m_panel));
+    dialog.hide();
+    // Behind what the dialog's end has left to the event loop.
+    bool isDone = false;
+    QTimer::singleShot(0, &dialog, [&isDone] { isDone = true; });
+    ASSERT_TRUE(waitUntil([&isDone] { return isDone; }));
+    EXPECT_TRUE(hasKeys(*m_panel));
+}
+
+TEST_F(FocusOfAFloatingPanel, GoesToTheWindowWhereThePanelIsClosed)
+{
+    ASSERT_NO_FATAL_FAILURE(floatFeatures());
+    ASSERT_NO_FATAL_FAILURE(openDialog());
+    m_panel->hide();
     press(Qt::Key_Escape);
     EXPECT_TRUE(hasKeys(window()));
 }

@@ -120,6 +120,45 @@ TEST_F(PictureSaverTest, KeepsTheOldFileWhereTheDiskIsFull)
     QTest::keyClick(messageBox(), Qt::Key_Return);
     EXPECT_TRUE(isOld("a.png"));
     EXPECT_EQ(QDir(m_target.path()).entryList(QDir::Files | QDir::Hidden), QStringList("a.png"));
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+}
+
+TEST_F(PictureSaverTest, KeepsFolderAndNameUntilThePictureIsWritten)
+{
+    ASSERT_TRUE(QDir(m_target.path()).mkdir("new"));
+    ASSERT_NO_FATAL_FAILURE(openDialog());
+    const QImage picture = view().picture();
+    {
+        const FullDisk disk;
+        dialog()->setDirectory(path("new"));
+        enter("a.bmp");
+    }
+    ASSERT_TRUE(waitUntil([] { return messageBox() != nullptr; }));
+    EXPECT_TRUE(messageBox()->text().startsWith(path("new/a.bmp") + " could not be written."));
+    QTest::keyClick(messageBox(), Qt::Key_Return);
+    ASSERT_TRUE(dialog());
+    EXPECT_EQ(dialog()->directory().path(), path("new"));
+    EXPECT_EQ(nameField()->text(), "a.bmp");
+    EXPECT_TRUE(
+        waitUntil([] { return QGuiApplication::focusWindow() == dialog()->windowHandle(); }));
+    QTest::keyClick(nameField(), Qt::Key_Return);
+    EXPECT_TRUE(waitUntil([] { return !dialog(); }));
+    EXPECT_EQ(decoded(path("new/a.bmp")), picture);
+}
+
+TEST_F(PictureSaverTest, IsGivenUpAfterAFailureByEscape)
+{
+    ASSERT_NO_FATAL_FAILURE(openDialog());
+    {
+        const FullDisk disk;
+        enter("a.png");
+    }
+    ASSERT_TRUE(waitUntil([] { return messageBox() != nullptr; }));
+    QTest::keyClick(messageBox(), Qt::Key_Return);
+    ASSERT_TRUE(dialog());
+    QTest::keyClick(dialog(), Qt::Key_Escape);
+    EXPECT_TRUE(waitUntil([] { return !QApplication::activeModalWidget(); }));
+    EXPECT_TRUE(QDir(m_target.path()).isEmpty());
 }
 
 TEST_F(PictureSaverTest, ProposesTheCamerasNameAndTheTime)

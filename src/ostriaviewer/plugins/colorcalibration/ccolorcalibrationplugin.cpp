@@ -2,7 +2,6 @@
 // What the host loads: the command that starts the wizard.
 #include "ccolorcalibrationplugin.h"
 
-#include "camerasupport.h"
 #include "cameratexts.h"
 #include "iparameterservice.h"
 #include "modalbox.h"
@@ -103,7 +102,7 @@ void CColorCalibrationPlugin::onDeviceChanged(Core::CameraPoolComponents::Device
     const CameraInfoPtr camera = device.dynamicCast<ICameraInfo>();
     const auto parameters = find<ParameterCollectionPool::IParameterService>();
     if (m_action)
-        m_action->setVisible(::ColorCalibration::isCameraSupported(camera, parameters.data()));
+        m_action->setVisible(m_support.isSupported(camera, parameters.data()));
     if (camera)
         m_camera = camera;
 }

@@ -2,6 +2,7 @@
 // What the host loads: the command that starts the wizard.
 #pragma once
 
+#include "camerasupport.h"
 #include "colorcorrectionmodel.h"
 #include "colorcorrectiontooldlg.h"
 #include "icameraservices.h"
@@ -61,6 +62,7 @@ private:
     ::ColorCalibration::ColorCorrectionModel* m_model = nullptr;
     ::ColorCalibration::QmlDataModelInterface* m_dataModel = nullptr;
     Core::CameraPoolComponents::CameraInfoPtr m_camera;
+    ::ColorCalibration::CameraSupport m_support;
     QSharedPointer<MessageLogCore::IMessageLogService> m_messageLog;
 
     // The model works with these and does not own them.

@@ -4,6 +4,8 @@
 #include "iparameterservice.h"
 #include "networkviewertest.h"
 
+#include <algorithm>
+
 namespace Viewer {
 namespace {
 
@@ -92,6 +94,56 @@ TEST_F(DeviceSelectorServiceTest, TellsOnceOfACameraThatAnswers)
     clickItem(networkItem());
     EXPECT_TRUE(m_hasAnswered);
     EXPECT_EQ(m_questions, 1);
+}
+
+class CalibratorsQuestion : public NetworkViewerTest
+{
+protected:
+    bool isCommandShown()
+    {
+        const QList<QAction*> tools = child<QMenu>("toolsMenu")->actions();
+        return std::any_of(tools.begin(), tools.end(), [](const QAction* action) {
+            return action->text() == "Color Calibrator" && action->isVisible();
+        });
+    }
+
+    QStringList questionsThatFailed()
+    {
+        QStringList texts;
+        const MessageLogModel& messages = m_viewer->messages();
+        for (int row = 0; row < messages.rowCount(); ++row)
+            if (messages.message(row).text.contains("isCameraSupported"))
+                texts.append(messages.message(row).text);
+        return texts;
+    }
+};
+
+TEST_F(CalibratorsQuestion, IsAnsweredInTheEndAndItsFailuresAreToldOnce)
+{
+    startViewer(CALIBRATOR_FOLDER);
+    ASSERT_TRUE(isFound());
+    openNetworkCamera();
+    ASSERT_TRUE(waitUntil([this] { return isCommandShown(); }));
+    const auto camera = window().commands().camera();
+    clickCamera(0);
+    ASSERT_FALSE(isCommandShown());
+    const auto selector =
+        m_viewer->registry()->find<Plugin::CameraSelector::IDeviceSelectorService>();
+    int questions = 0;
+    QObject::connect(selector.data(),
+                     &Plugin::CameraSelector::IDeviceSelectorService::selectionChanged, &window(),
+                     [&questions] { ++questions; });
+    m_rig.hold();
+    clickItem(networkItem());
+    ASSERT_TRUE(waitUntil([&] { return questions == 3; }));
+    EXPECT_FALSE(isCommandShown());
+    m_rig.letGo();
+    EXPECT_TRUE(waitUntil([this] { return isCommandShown(); }));
+    const QStringList failures = questionsThatFailed();
+    ASSERT_EQ(failures.size(), 1) << qPrintable(failures.join('\n'));
+    EXPECT_TRUE(
+        failures.constFirst().contains(camera->displayName() + ": DeviceColorPipelineVersion: "))
+        << qPrintable(failures.constFirst());
 }
 
 } // namespace

@@ -972,8 +972,8 @@ Do you want to end the recording and close the viewer?</source>
 <context>
     <name>Viewer::PictureFile</name>
     <message>
-        <source>There is not enough memory for the picture.</source>
-        <translation>画像を処理するためのメモリが不足しています。</translation>
+        <source>There is not enough memory for the picture. Close other programs or choose a smaller image size.</source>
+        <translation>画像を処理するためのメモリが不足しています。ほかのアプリケーションを終了するか、より小さい画像サイズを選択してください。</translation>
     </message>
 </context>
 <context>

@@ -972,8 +972,8 @@ Do you want to end the recording and close the viewer?</source>
 <context>
     <name>Viewer::PictureFile</name>
     <message>
-        <source>There is not enough memory for the picture.</source>
-        <translation>이미지를 처리할 메모리가 부족합니다.</translation>
+        <source>There is not enough memory for the picture. Close other programs or choose a smaller image size.</source>
+        <translation>이미지를 처리할 메모리가 부족합니다. 다른 응용 프로그램을 종료하거나 더 작은 이미지 크기를 선택하십시오.</translation>
     </message>
 </context>
 <context>

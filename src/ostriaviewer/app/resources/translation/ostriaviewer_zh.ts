@@ -972,8 +972,8 @@ Do you want to end the recording and close the viewer?</source>
 <context>
     <name>Viewer::PictureFile</name>
     <message>
-        <source>There is not enough memory for the picture.</source>
-        <translation>内存不足，无法处理图像。</translation>
+        <source>There is not enough memory for the picture. Close other programs or choose a smaller image size.</source>
+        <translation>内存不足，无法处理图像。请关闭其他应用程序，或选择较小的图像尺寸。</translation>
     </message>
 </context>
 <context>

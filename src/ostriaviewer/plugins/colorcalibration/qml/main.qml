@@ -277,9 +277,8 @@ Rectangle {
 
     onAutoRefreshCheckedChanged: qmlModelInterface.singleShotEnabled = !autoRefreshChecked
 
-    // A key that is held goes no further than one that is pressed.
-    function goOn(event) {
-        if (event.isAutoRepeat || progress.moving)
+    function goOn() {
+        if (progress.moving)
             return
         if (qmlModelInterface.activeStep === iStep2)
             toolBox.runAutoButton()
@@ -287,12 +286,10 @@ Rectangle {
             navigation.jumpNext()
     }
 
-    Keys.onReturnPressed: goOn(event)
-    Keys.onEnterPressed: goOn(event)
-    Keys.onEscapePressed: {
-        if (!event.isAutoRepeat)
-            navigation.jumpCancel()
-    }
+    // The window lets none of these through again while it is held.
+    Keys.onReturnPressed: goOn()
+    Keys.onEnterPressed: goOn()
+    Keys.onEscapePressed: navigation.jumpCancel()
     Keys.onPressed: {
         if (progress.moving)
             event.accepted = true

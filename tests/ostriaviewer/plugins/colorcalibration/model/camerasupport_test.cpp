@@ -3,6 +3,7 @@
 #include "camerasupport.h"
 #include "fakecamera.h"
 #include "iparameterservice.h"
+#include "logrecorder.h"
 
 #include <gtest/gtest.h>
 
@@ -43,6 +44,14 @@ protected:
     {
         m_camera->model = modelName;
         return isCameraSupported(m_camera, &m_service);
+    }
+
+    static QStringList texts(const LogRecorder& log)
+    {
+        QStringList texts;
+        for (const LogEntry& entry : log.entries())
+            texts.append(entry.text);
+        return texts;
     }
 
     QSharedPointer<FakeCamera> m_camera = QSharedPointer<FakeCamera>::create();
@@ -105,6 +114,47 @@ TEST_F(CameraSupport, AVersionThatCannotBeReadIsNone)
         throw std::runtime_error("lost");
     };
     EXPECT_NO_THROW(EXPECT_FALSE(supports("Emulation")));
+    m_camera->features().beforeCall = nullptr;
+}
+
+TEST_F(CameraSupport, AFailureIsToldWithTheCamera)
+{
+    m_camera->features().beforeCall = [](const QString&) {
+        throw std::runtime_error("no answer");
+    };
+    const LogRecorder log;
+    EXPECT_FALSE(supports("Emulation"));
+    EXPECT_FALSE(supports("Emulation"));
+    m_camera->features().beforeCall = nullptr;
+    const QString told = "isCameraSupported: Emulation: no answer";
+    EXPECT_EQ(texts(log), (QStringList{told, told})) << "for each question";
+}
+
+TEST_F(CameraSupport, WhoAsksAgainIsToldOnce)
+{
+    ColorCalibration::CameraSupport support;
+    const auto fail = [](const QString&) {
+        throw std::runtime_error("no answer");
+    };
+    m_camera->model = "Emulation";
+    m_camera->features().beforeCall = fail;
+    {
+        const LogRecorder log;
+        for (int i = 0; i < 3; ++i)
+            EXPECT_FALSE(support.isSupported(m_camera, &m_service));
+        EXPECT_EQ(texts(log), QStringList("isCameraSupported: Emulation: no answer"));
+    }
+    m_camera->features().beforeCall = nullptr;
+    EXPECT_TRUE(support.isSupported(m_camera, &m_service)) << "it answers";
+    m_camera->features().beforeCall = fail;
+    {
+        const LogRecorder log;
+        EXPECT_FALSE(support.isSupported(m_camera, &m_service));
+        EXPECT_EQ(texts(log), QStringList()) << "still the same camera";
+        EXPECT_FALSE(support.isSupported({}, &m_service)) << "another device was selected";
+        EXPECT_FALSE(support.isSupported(m_camera, &m_service));
+        EXPECT_EQ(texts(log), QStringList("isCameraSupported: Emulation: no answer"));
+    }
     m_camera->features().beforeCall = nullptr;
 }
 

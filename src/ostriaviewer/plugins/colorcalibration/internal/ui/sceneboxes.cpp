@@ -3,41 +3,30 @@
 #include "sceneboxes.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QScreen>
 
 namespace ColorCalibration {
 SceneBoxes::SceneBoxes(QWidget* window, QWindow* scene)
     : m_window(window)
     , m_scene(scene)
-{
-    QCoreApplication::instance()->installEventFilter(this);
-}
+{}
 
-bool SceneBoxes::eventFilter(QObject* object, QEvent* event)
+bool SceneBoxes::comes(QDialog& dialog, QEvent& event)
 {
-    const bool isShown = event->type() == QEvent::Show;
-    if ((!isShown && event->type() != QEvent::Hide) || event->spontaneous())
+    if (!isPlaced(dialog))
         return false;
-    auto* dialog = qobject_cast<QDialog*>(object);
-    if (!dialog || !isPlaced(dialog))
-        return false;
-    if (isShown)
-        return show(dialog, event);
-    QMetaObject::invokeMethod(this, &SceneBoxes::giveKeysBack, Qt::QueuedConnection);
-    return false;
-}
-
-bool SceneBoxes::show(QWidget* dialog, QEvent* event)
-{
-    dialog->windowHandle()->setTransientParent(m_window->windowHandle());
+    dialog.windowHandle()->setTransientParent(m_window->windowHandle());
     // Only in its own answer to this event does it find its size, and a place that is none.
-    static_cast<QObject*>(dialog)->event(event);
+    static_cast<QObject&>(dialog).event(&event);
     place(dialog);
     return true;
 }
 
-// Without a window manager nobody else does it.
+bool SceneBoxes::goes(const QDialog& dialog)
+{
+    return isPlaced(dialog);
+}
+
 void SceneBoxes::giveKeysBack()
 {
     if (!m_window || !m_window->isVisible() || QApplication::activeModalWidget() != m_window)
@@ -47,20 +36,20 @@ void SceneBoxes::giveKeysBack()
         m_scene->requestActivate();
 }
 
-bool SceneBoxes::isPlaced(const QWidget* dialog) const
+bool SceneBoxes::isPlaced(const QDialog& dialog) const
 {
-    return m_window && dialog != m_window && m_window->isVisible() && !dialog->parentWidget() &&
-           dialog->windowHandle();
+    return m_window && &dialog != m_window && m_window->isVisible() && !dialog.parentWidget() &&
+           dialog.windowHandle();
 }
 
-void SceneBoxes::place(QWidget* dialog)
+void SceneBoxes::place(QDialog& dialog) const
 {
-    QRect area = dialog->frameGeometry();
+    QRect area = dialog.frameGeometry();
     area.moveCenter(m_window->frameGeometry().center());
     const QRect screen = m_window->screen()->availableGeometry();
     area.moveLeft(qMax(screen.left(), qMin(area.left(), screen.right() + 1 - area.width())));
     area.moveTop(qMax(screen.top(), qMin(area.top(), screen.bottom() + 1 - area.height())));
-    dialog->move(area.topLeft());
+    dialog.move(area.topLeft());
 }
 
 } // namespace ColorCalibration

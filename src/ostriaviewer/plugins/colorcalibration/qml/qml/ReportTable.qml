@@ -37,10 +37,7 @@ TableView {
     Keys.onLeftPressed: scrollSideways(-mTableColumnMinWidth)
     Keys.onRightPressed: scrollSideways(mTableColumnMinWidth)
     // The view keeps this key to itself as soon as a row is current.
-    Keys.onReturnPressed: {
-        if (!event.isAutoRepeat)
-            navigation.jumpNext()
-    }
+    Keys.onReturnPressed: navigation.jumpNext()
 
     rowDelegate: Rectangle {
         height: 1.8 * mDefaultPixelSize

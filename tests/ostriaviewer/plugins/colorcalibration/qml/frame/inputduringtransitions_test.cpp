@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What a user does while the camera is led to another step: calls wait for images in event loops,
 // in which clicks and keys arrive.
+#include "heldkeys.h"
 #include "wizardwindow.h"
 
 #include <QTest>
@@ -245,9 +246,10 @@ TEST_F(DuringATransition, TheFirstImageStartsNoLiveImage)
 class Keys : public WizardWindow
 {
 protected:
-    /// What a key that is held sends besides its press.
+    /// What a key that is held sends besides its press, to a window that is shown as the wizard is.
     void repeat(Qt::Key key)
     {
+        const ColorCalibration::HeldKeys keys;
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
         QCoreApplication::sendEvent(m_view.get(), &event);
     }

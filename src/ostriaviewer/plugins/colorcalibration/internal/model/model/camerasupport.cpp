@@ -2,11 +2,17 @@
 // Which cameras can be calibrated.
 #include "camerasupport.h"
 
-#include "guarded.h"
+#include "reportfailure.h"
 
 #include <QRegularExpression>
 
+#include <utility>
+
 namespace ColorCalibration {
+
+using Core::CameraPoolComponents::CameraInfoPtr;
+using Plugin::ParameterCollectionPool::IParameterService;
+
 namespace {
 
 constexpr qint64 knownPipelineVersion = 1;
@@ -18,10 +24,8 @@ bool isCandidate(const QString& modelName)
     return series.match(modelName).hasMatch() || modelName.contains(QLatin1String("Emulation"));
 }
 
-} // namespace
-
-bool isCameraSupported(const Core::CameraPoolComponents::CameraInfoPtr& camera,
-                       Plugin::ParameterCollectionPool::IParameterService* parameters)
+/// Throws what the camera's feature throws.
+bool canBeCalibrated(const CameraInfoPtr& camera, IParameterService* parameters)
 {
     if (!camera)
         return false;
@@ -30,15 +34,35 @@ bool isCameraSupported(const Core::CameraPoolComponents::CameraInfoPtr& camera,
         return true;
     if (!isCandidate(modelName) || !parameters)
         return false;
-    return guarded("", "isCameraSupported", false, [&] {
-        const auto collection = parameters->parameterCollection(camera);
-        if (!collection)
-            return false;
-        const auto version =
-            collection->integerParameter(QStringLiteral("DeviceColorPipelineVersion"));
-        return version && !version->isEmpty() && version->isAvailable() &&
-               version->value() == knownPipelineVersion;
-    });
+    const auto collection = parameters->parameterCollection(camera);
+    if (!collection)
+        return false;
+    const auto version = collection->integerParameter(QStringLiteral("DeviceColorPipelineVersion"));
+    return version && !version->isEmpty() && version->isAvailable() &&
+           version->value() == knownPipelineVersion;
+}
+
+} // namespace
+
+bool isCameraSupported(const CameraInfoPtr& camera, IParameterService* parameters)
+{
+    return CameraSupport().isSupported(camera, parameters);
+}
+
+bool CameraSupport::isSupported(const CameraInfoPtr& camera, IParameterService* parameters)
+{
+    if (m_camera != camera) {
+        m_camera = camera;
+        m_isTold = false;
+    }
+    try {
+        return canBeCalibrated(camera, parameters);
+    } catch (...) {
+        if (!std::exchange(m_isTold, true))
+            reportFailure({}, QStringLiteral("isCameraSupported: %1").arg(camera->displayName()),
+                          modelLogCategory());
+        return false;
+    }
 }
 
 } // namespace ColorCalibration
