@@ -85,18 +85,18 @@ int ColorCorrectionToolDlg::exec()
     if (self && m_running)
         reject();
     if (self)
-        tellRestoreFailure();
+        tellClosingProblem();
     return result;
 }
 
 // After the window has gone and the camera is closed: nothing of the wizard is left to go wrong.
-void ColorCorrectionToolDlg::tellRestoreFailure()
+void ColorCorrectionToolDlg::tellClosingProblem()
 {
-    const QString failure = m_dataModel->takeRestoreFailure();
-    if (!failure.isEmpty())
+    const QString problem = m_dataModel->takeClosingProblem();
+    if (!problem.isEmpty())
         showModalBox(BoxIcon::Error,
                      QCoreApplication::translate("ColorCorrectionToolDlg", "Color Calibrator"),
-                     failure, QMessageBox::Ok, QMessageBox::Ok, Qt::PlainText);
+                     problem, QMessageBox::Ok, QMessageBox::Ok, Qt::PlainText);
 }
 
 // Keys come here while a message box goes away. An Escape then must not be an answer to its

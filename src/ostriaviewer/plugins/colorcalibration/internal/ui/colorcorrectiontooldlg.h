@@ -49,7 +49,7 @@ private:
     void outliveParent();
     void connectDataModel();
     void showScene();
-    void tellRestoreFailure();
+    void tellClosingProblem();
 
     QmlDataModelInterface* m_dataModel;
     QSharedPointer<Plugin::MessageLogCore::IMessageLogService> m_messageLog;

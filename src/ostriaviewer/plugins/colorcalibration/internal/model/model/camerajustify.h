@@ -122,6 +122,10 @@ public:
     /// \param setAsDefault  the camera starts with this set
     void StoreInUserSet(const QString& name, bool store, bool setAsDefault);
 
+    /// The user set during whose last storing the camera fell silent, so that nobody knows what it
+    /// holds; empty if there is none. Storing in it anew settles that.
+    QString UncertainUserSet() const;
+
 signals:
     /// A brightness run has ended, of itself or because it was stopped. That of a run which another
     /// one has replaced is not told.
@@ -160,6 +164,7 @@ private:
     QRecursiveMutex m_brightnessRunMutex;
     std::atomic_uint m_brightnessRuns{0};
     UserSetChoice m_userSet;
+    QString m_uncertainUserSet;
     QVector<std::pair<QString, QString>> m_testImages; ///< features and what they were
 };
 

@@ -108,6 +108,12 @@ bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
     }
 }
 
+bool ColorCorrectionModelImpl::IsCameraOpen() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return isCameraOpen();
+}
+
 QString ColorCorrectionModelImpl::OpeningFailure() const
 {
     const QMutexLocker lock(&m_mutex);
