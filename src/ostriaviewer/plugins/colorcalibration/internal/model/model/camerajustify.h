@@ -33,8 +33,7 @@ class CameraJustify : public QObject
 
 public:
     /// \param camera  shared; its parameters are asked for at each operation
-    explicit CameraJustify(const Core::CameraPoolComponents::CameraPtr& camera,
-                           QObject* parent = nullptr);
+    explicit CameraJustify(Core::CameraPoolComponents::CameraPtr camera, QObject* parent = nullptr);
 
     /// Ends a brightness run and waits for it.
     ~CameraJustify() override;

@@ -56,7 +56,7 @@ ColorCorrectionModelImpl::ColorCorrectionModelImpl(QObject* parent)
 ColorCorrectionModelImpl::~ColorCorrectionModelImpl()
 {
     if (m_imageCamera)
-        Close();
+        ColorCorrectionModelImpl::Close();
 }
 
 void ColorCorrectionModelImpl::SetCameraStatusService(ICameraStatusService* service)
