@@ -26,7 +26,6 @@ ColorCorrectionToolDlg::ColorCorrectionToolDlg(
                           Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint)
     , m_dataModel(dataModel)
     , m_messageLog(std::move(messageLog))
-    , m_container(nullptr)
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint);
     outliveParent();
@@ -157,7 +156,7 @@ void ColorCorrectionToolDlg::addLogMessage(QString message, Core::Logging::ELogL
 
 void ColorCorrectionToolDlg::addLogMessage(QString message)
 {
-    addLogMessage(message, Core::Logging::Warning);
+    addLogMessage(std::move(message), Core::Logging::Warning);
 }
 
 void ColorCorrectionToolDlg::showScene()

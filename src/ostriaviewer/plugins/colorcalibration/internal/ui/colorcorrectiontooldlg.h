@@ -53,7 +53,7 @@ private:
 
     QmlDataModelInterface* m_dataModel;
     QSharedPointer<Plugin::MessageLogCore::IMessageLogService> m_messageLog;
-    QWidget* m_container;
+    QWidget* m_container = nullptr;
     QWidget* m_problem = nullptr;
     bool m_running = false;
     bool m_decided = false;
