@@ -28,4 +28,12 @@ QString CameraTexts::settingsNotBackedUp()
               "try again, or cancel.");
 }
 
+QString CameraTexts::userSetUncertain(const QString& userSet)
+{
+    return tr("The connection to the camera was lost while its settings were being stored in the "
+              "user set \"%1\". Whether it holds the new settings is not known. Open the camera "
+              "again and check it, and which user set the camera starts with.")
+        .arg(userSet);
+}
+
 } // namespace Core::CameraPoolComponents

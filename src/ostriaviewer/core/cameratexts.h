@@ -25,6 +25,9 @@ public:
     /// The user may try again or give up.
     static QString settingsNotRestoredYet();
     static QString settingsNotBackedUp();
+
+    /// Nobody but the camera knows.
+    static QString userSetUncertain(const QString& userSet);
 };
 
 } // namespace Core::CameraPoolComponents

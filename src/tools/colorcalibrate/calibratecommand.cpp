@@ -257,7 +257,7 @@ void calibrateCommand(const QStringList& arguments, const Streams& streams)
     else
         writeText(streams.out, report);
     // The outcome holds all the same, and the state before cannot be measured again.
-    if (!report.saved.failures.isEmpty())
+    if (!isAllSaved(report.saved))
         throw CommandError(unsavedMessage(report.saved));
 }
 

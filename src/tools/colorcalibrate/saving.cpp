@@ -57,13 +57,30 @@ bool attempt(SavingOutcome& outcome, const QString& what, Reason reasonIn,
     if (save())
         return true;
     QString reason = (log.*reasonIn)();
-    // The model has nothing to say where it has no camera any more.
-    if (reason.isEmpty()) {
+    // The model has nothing to say where it had no camera any more.
+    if (reason.isEmpty())
         reason = QStringLiteral("the camera has been disconnected");
-        outcome.isCameraLost = true;
-    }
     outcome.failures.append(QStringLiteral("%1 (%2)").arg(what, reason));
     return false;
+}
+
+/// \return  false if it is known that the user set is as it was
+bool store(SavingOutcome& outcome, ColorCalibration::ColorCorrectionModel& model,
+           const SavingOptions& options)
+{
+    if (model.StoreSettingsInUserSet(options.userSet, options.asDefault))
+        return true;
+    outcome.uncertainUserSet = model.UncertainUserSet();
+    return !outcome.uncertainUserSet.isEmpty();
+}
+
+/// What nobody knows, as a sentence that goes on.
+QString doubtAbout(const QString& userSet)
+{
+    return QStringLiteral("; the connection was lost while the user set %1 was being stored, and "
+                          "whether it holds the new settings is not known: open the camera again "
+                          "and check it, and which user set the camera starts with")
+        .arg(userSet);
 }
 
 } // namespace
@@ -117,16 +134,24 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
                   .arg(options.userSet, names.join(QStringLiteral(", "))));
 }
 
+bool isAllSaved(const SavingOutcome& outcome)
+{
+    return outcome.failures.isEmpty() && outcome.uncertainUserSet.isEmpty();
+}
+
 QString unsavedMessage(const SavingOutcome& outcome)
 {
-    const QString what = outcome.failures.join(QStringLiteral("; "));
-    return outcome.isCameraLost
-               ? QStringLiteral("the camera was calibrated and then lost, so look whether it still "
-                                "is; this could not be saved: %1")
-                     .arg(what)
-               : QStringLiteral("the camera is calibrated and stays so, but this could not be "
-                                "saved: %1")
-                     .arg(what);
+    QString message =
+        outcome.isCameraLost
+            ? QStringLiteral("the camera was calibrated and then lost, so look whether it still is")
+            : QStringLiteral("the camera is calibrated and stays so");
+    if (!outcome.failures.isEmpty())
+        message += QStringLiteral("%1 this could not be saved: %2")
+                       .arg(outcome.isCameraLost ? QStringLiteral(";") : QStringLiteral(", but"),
+                            outcome.failures.join(QStringLiteral("; ")));
+    if (!outcome.uncertainUserSet.isEmpty())
+        message += doubtAbout(outcome.uncertainUserSet);
+    return message;
 }
 
 SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
@@ -159,9 +184,11 @@ SavingOutcome saveOutcome(ColorCalibration::ColorCorrectionModel& model,
     if (!options.userSet.isEmpty())
         save(QStringLiteral("Storing the user set"),
              QStringLiteral("user set %1").arg(options.userSet), reasonOfUserSet,
-             [&] { return model.StoreSettingsInUserSet(options.userSet, options.asDefault); });
+             [&] { return store(outcome, model, options); });
     else
         outcome.isCancelled = outcome.isCancelled || isCancelled();
+    // The word of the loss may still be on its way.
+    outcome.isCameraLost = !model.IsCameraOpen() || !outcome.uncertainUserSet.isEmpty();
     return outcome;
 }
 

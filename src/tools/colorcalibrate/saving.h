@@ -35,12 +35,16 @@ void resolveUserSet(const Cameras::HostCameraPtr& camera, SavingOptions& options
 struct SavingOutcome
 {
     bool isCancelled = false;  ///< before the user set: the camera keeps nothing
-    bool isCameraLost = false; ///< before all was saved
+    bool isCameraLost = false; ///< before or while it was saved
     QStringList folders;       ///< that settings and summary were saved into
     QStringList failures;      ///< what could not be saved, with the reasons
+    QString uncertainUserSet;  ///< nobody knows whether it was stored; empty if it is known
 };
 
-/// What could not be saved, and whether the camera is still calibrated. There must be failures.
+bool isAllSaved(const SavingOutcome& outcome);
+
+/// What could not be saved for certain, and whether the camera is still calibrated. Something must
+/// be left unsaved.
 QString unsavedMessage(const SavingOutcome& outcome);
 
 /// Saves in the wizard's order: settings, summary, user set; one that fails keeps none of the

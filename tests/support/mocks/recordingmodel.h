@@ -19,6 +19,7 @@ public:
 
     QSet<QString> refused; ///< operations that answer with their failure value
     bool isBackupOwed = false;
+    QString uncertainUserSet;
     Trapezoid outline;
     QVector<Trapezoid> patches;
     QVector<QColor> colors;
@@ -139,6 +140,7 @@ public:
         return note("StoreSettingsInUserSet",
                     name + QString::fromLatin1(setAsDefault ? " true" : " false"));
     }
+    QString UncertainUserSet() const override { return uncertainUserSet; }
     bool SaveSettingsToFile(const QString& folder) override
     {
         return note("SaveSettingsToFile", folder);

@@ -7,6 +7,8 @@
 #include "command.h"
 #include "commandtest.h"
 #include "emulatedhost.h"
+#include "genicamexception.h"
+#include "registerstore.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -323,4 +325,64 @@ TEST_F(CommandTest, SavingSaysThatTheCameraWasLostBeforeIt)
     EXPECT_THAT(unsavedMessage(outcome).toStdString(),
                 StartsWith("the camera was calibrated and then lost, so look whether it still is; "
                            "this could not be saved: settings in "));
+}
+
+// Nobody knows whether the camera has carried the command out whose answer did not come.
+TEST_F(CommandTest, SavingSaysThatTheCameraWasLostWhileItStored)
+{
+    EmulatedHost host(reduced(supportedModels().at(1)));
+    ASSERT_TRUE(host.camera().open());
+    host.setExposure(20000.0);
+    CalibrationSequence sequence(
+        host.model(), [](const QString&) {}, [] { return false; });
+    calibrate(host, sequence);
+    host.camera().registers()->setWriteHook(
+        [&](const Cameras::Emulation::FeatureDefinition& feature, int) {
+            if (feature.name != QLatin1String("UserSetSave"))
+                return;
+            host.camera().registers()->setReachable(false);
+            throw GenICam::RuntimeException("timeout");
+        });
+
+    SavingOptions options;
+    options.settingsFolder = path(QStringLiteral("settings"));
+    options.userSet = QStringLiteral("UserSet1");
+    options.asDefault = true;
+    const SavingOutcome outcome = saveOutcome(
+        host.model(), options, [](const QString&) {}, [] { return false; });
+    EXPECT_EQ(outcome.folders.size(), 1);
+    EXPECT_EQ(outcome.failures, QStringList());
+    EXPECT_FALSE(isAllSaved(outcome));
+    EXPECT_EQ(unsavedMessage(outcome).toStdString(),
+              "the camera was calibrated and then lost, so look whether it still is; the "
+              "connection was lost while the user set UserSet1 was being stored, and whether it "
+              "holds the new settings is not known: open the camera again and check it, and which "
+              "user set the camera starts with");
+    host.camera().loseConnection();
+}
+
+TEST_F(CommandTest, SavingSaysThatARefusedUserSetLeavesTheCalibration)
+{
+    EmulatedHost host(reduced(supportedModels().at(1)));
+    ASSERT_TRUE(host.camera().open());
+    host.setExposure(20000.0);
+    CalibrationSequence sequence(
+        host.model(), [](const QString&) {}, [] { return false; });
+    calibrate(host, sequence);
+    host.camera().refuseWrites(QStringLiteral("UserSetSave"));
+
+    SavingOptions options;
+    options.userSet = QStringLiteral("UserSet1");
+    options.asDefault = true;
+    const SavingOutcome outcome = saveOutcome(
+        host.model(), options, [](const QString&) {}, [] { return false; });
+    EXPECT_FALSE(outcome.isCameraLost);
+    EXPECT_EQ(unsavedMessage(outcome).toStdString(),
+              "the camera is calibrated and stays so, but this could not be saved: user set "
+              "UserSet1 (UserSetSave: The camera refuses the value.)");
+    EXPECT_EQ(host.camera()
+                  .parameterCollection()
+                  ->enumerationParameter(QStringLiteral("UserSetDefault"))
+                  ->value(),
+              QStringLiteral("Default"));
 }

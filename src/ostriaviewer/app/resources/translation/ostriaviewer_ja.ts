@@ -386,6 +386,10 @@
         <source>The camera&apos;s settings couldn&apos;t be backed up. Check the connection of the camera and try again, or cancel.</source>
         <translation>カメラの設定をバックアップできませんでした。カメラの接続を確認してから再試行するか、キャンセルしてください。</translation>
     </message>
+    <message>
+        <source>The connection to the camera was lost while its settings were being stored in the user set &quot;%1&quot;. Whether it holds the new settings is not known. Open the camera again and check it, and which user set the camera starts with.</source>
+        <translation>カメラの設定をユーザーセット「%1」に保存しているときに、カメラとの接続が失われました。新しい設定が保存されたかどうかは不明です。もう一度カメラを開いて、このユーザーセットの内容と、カメラが起動時に使用するユーザーセットを確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraCommands</name>

@@ -386,6 +386,10 @@
         <source>The camera&apos;s settings couldn&apos;t be backed up. Check the connection of the camera and try again, or cancel.</source>
         <translation>카메라의 설정을 백업하지 못했습니다. 카메라 연결을 확인한 후 다시 시도하거나, 취소하십시오.</translation>
     </message>
+    <message>
+        <source>The connection to the camera was lost while its settings were being stored in the user set &quot;%1&quot;. Whether it holds the new settings is not known. Open the camera again and check it, and which user set the camera starts with.</source>
+        <translation>카메라 설정을 사용자 세트 &quot;%1&quot;에 저장하는 동안 카메라와의 연결이 끊어졌습니다. 새 설정이 저장되었는지는 알 수 없습니다. 카메라를 다시 열고 이 사용자 세트의 내용과, 카메라가 시작할 때 사용하는 사용자 세트를 확인하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraCommands</name>

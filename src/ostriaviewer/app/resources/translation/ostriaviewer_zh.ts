@@ -386,6 +386,10 @@
         <source>The camera&apos;s settings couldn&apos;t be backed up. Check the connection of the camera and try again, or cancel.</source>
         <translation>无法备份相机的设置。请检查相机的连接，然后重试或取消。</translation>
     </message>
+    <message>
+        <source>The connection to the camera was lost while its settings were being stored in the user set &quot;%1&quot;. Whether it holds the new settings is not known. Open the camera again and check it, and which user set the camera starts with.</source>
+        <translation>将相机设置保存到用户集“%1”时，与相机的连接中断。新设置是否已保存尚不清楚。请重新打开相机，检查该用户集的内容以及相机启动时使用的用户集。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraCommands</name>

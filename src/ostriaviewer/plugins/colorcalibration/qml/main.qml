@@ -310,6 +310,14 @@ Rectangle {
             icon: StandardIcon.Critical
             title: tMsgHeader
             text: ""
+
+            // A box that is on the screen keeps the text that it came up with.
+            onTextChanged: {
+                if (visible) {
+                    close()
+                    open()
+                }
+            }
         }
 
         readonly property MessageDialog warning: MessageDialog {

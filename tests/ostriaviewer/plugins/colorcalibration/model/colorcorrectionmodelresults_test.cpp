@@ -40,6 +40,17 @@ protected:
         };
     }
 
+    /// Lets the camera vanish in its first call that begins like this.
+    void loseAt(const QString& start)
+    {
+        m_camera->features().beforeCall = [this, start](const QString& call) {
+            if (m_camera->open && call.startsWith(start)) {
+                m_camera->loseConnection();
+                throw Core::Exception::BaseException("reason");
+            }
+        };
+    }
+
     QStringList saved(const QString& filter) const
     {
         return QDir(m_folder.path()).entryList({filter}, QDir::Dirs | QDir::NoDotAndDotDot);
@@ -213,6 +224,8 @@ TEST_F(ModelResultsTest, AUserSetThatRefusesLeavesDefaultAndStateAsTheyWere)
     EXPECT_EQ(m_camera->features().get("UserSetDefault").value, "Default")
         << "the camera would start with a set that lacks the settings";
     EXPECT_EQ(m_camera->features().get("UserSetSelector").value, "Default");
+    EXPECT_EQ(m_model.UncertainUserSet(), "");
+    EXPECT_TRUE(m_model.IsCameraOpen());
     m_camera->features().beforeCall = nullptr;
     m_camera->features().forget();
     EXPECT_TRUE(m_model.ExecuteWhitebalance());
@@ -225,6 +238,66 @@ TEST_F(ModelResultsTest, AUserSetThatRefusesLeavesDefaultAndStateAsTheyWere)
     EXPECT_EQ(writes().mid(writes().size() - 2),
               (QStringList{"UserSetSelector = MYUSERSET2", "execute UserSetSave"}))
         << "armed as it was";
+}
+
+TEST_F(ModelResultsTest, ACameraLostWithinTheStoringCommandLeavesTheUserSetUncertain)
+{
+    m_camera->parameters().addEnumeration("UserSetDefault", {"Default", "UserSet1", "MYUSERSET2"});
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(m_model.IsCameraOpen());
+    loseAt("execute UserSetSave");
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", true));
+    EXPECT_EQ(m_model.UncertainUserSet(), "UserSet1");
+    EXPECT_FALSE(m_model.IsCameraOpen());
+    EXPECT_EQ(logTexts(),
+              (QStringList{"2 Store settings in UserSet failed.",
+                           "2 ColorCorrectionModelImpl::StoreSettingsInUserSet:The camera may "
+                           "start with the user set \"UserSet1\", which may not have been saved: "
+                           "it could not be told to start with \"Default\" again. reason"}));
+    ASSERT_TRUE(m_model.Close());
+    EXPECT_EQ(m_model.UncertainUserSet(), "");
+}
+
+TEST_F(ModelResultsTest, ACameraLostWhileALaterGroupStoresLeavesTheUserSetUncertain)
+{
+    ASSERT_TRUE(calibrate());
+    ASSERT_TRUE(m_model.StoreSettingsInUserSet("MYUSERSET2", false));
+    EXPECT_EQ(m_model.UncertainUserSet(), "");
+    loseAt("execute UserSetSave");
+    EXPECT_FALSE(m_model.SetNeutralSettings());
+    EXPECT_EQ(m_model.UncertainUserSet(), "MYUSERSET2");
+}
+
+TEST_F(ModelResultsTest, AUserSetIsCertainWhereTheCameraWasLostBefore)
+{
+    ASSERT_TRUE(open());
+    loseAt("UserSetSelector = ");
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", false));
+    EXPECT_FALSE(m_model.IsCameraOpen());
+    EXPECT_EQ(m_model.UncertainUserSet(), "");
+}
+
+TEST_F(ModelResultsTest, StoringAnewSettlesAnUncertainUserSet)
+{
+    ASSERT_TRUE(open());
+    // Silent for a while, and there again.
+    bool isSilent = false;
+    m_camera->features().beforeCall = [&](const QString& call) {
+        isSilent = isSilent || call == "execute UserSetSave";
+        if (isSilent)
+            throw GenICam::RuntimeException("reason");
+    };
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", false));
+    EXPECT_EQ(m_model.UncertainUserSet(), "UserSet1");
+    m_camera->features().beforeCall = nullptr;
+    ASSERT_TRUE(m_model.StoreSettingsInUserSet("MYUSERSET2", false));
+    EXPECT_EQ(m_model.UncertainUserSet(), "UserSet1") << "another one says nothing of it";
+    failAt("execute UserSetSave");
+    EXPECT_FALSE(m_model.StoreSettingsInUserSet("UserSet1", false));
+    EXPECT_EQ(m_model.UncertainUserSet(), "UserSet1") << "a refusal does not settle it";
+    m_camera->features().beforeCall = nullptr;
+    ASSERT_TRUE(m_model.StoreSettingsInUserSet("UserSet1", false));
+    EXPECT_EQ(m_model.UncertainUserSet(), "");
 }
 
 TEST_F(ModelResultsTest, TheDefaultIsReadOnlyWhereItIsToBeChanged)

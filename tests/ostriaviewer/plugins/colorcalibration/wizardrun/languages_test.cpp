@@ -131,7 +131,7 @@ TEST_P(WizardLanguage, ShowsEveryTextWhole)
             expectWholeBox("modelError", text(message));
         expectWholeBox("cancelWarningDialog");
         const QStringList texts = boxTexts(GetParam());
-        EXPECT_EQ(texts.size(), 22);
+        EXPECT_EQ(texts.size(), 23);
         for (const QString& each : texts)
             expectWholeBox("modelError", each);
         root->setProperty("autoRefreshChecked", true);

@@ -2,7 +2,9 @@
 // A camera that is lost while the wizard works with it: told once, and left alone from then on.
 #include "wizardrun.h"
 
+#include "genicamexception.h"
 #include "logrecorder.h"
+#include "registerstore.h"
 
 #include <QAbstractButton>
 #include <QSettings>
@@ -72,6 +74,39 @@ TEST_F(LostCamera, IsToldOnceOnTheResults)
     });
     EXPECT_EQ(m_told, told);
     EXPECT_FALSE(m_dialog->isVisible());
+    EXPECT_FALSE(m_camera->isExclusive());
+}
+
+// The command is carried out or not: the answer does not come through.
+TEST_F(LostCamera, IsToldWithTheUserSetThatItWasStoringIn)
+{
+    ASSERT_NO_FATAL_FAILURE(openCamera(FeatureNames::SecondGeneration));
+    bool isVanished = false;
+    m_camera->registers()->setWriteHook(
+        [&](const Cameras::Emulation::FeatureDefinition& feature, int) {
+            if (feature.name != QLatin1String("UserSetSave"))
+                return;
+            isVanished = true;
+            m_camera->registers()->setReachable(false);
+            QTimer::singleShot(0, m_dialog.get(), [this] { loseCamera(); });
+            throw GenICam::RuntimeException("timeout");
+        });
+    confirmBoxes([&] { return isVanished; });
+    run([this] {
+        ASSERT_NO_FATAL_FAILURE(goTo(4));
+        item("userSets")->setProperty("currentIndex", 2);
+        click("saveButton");
+    });
+    EXPECT_TRUE(isVanished);
+    // The message of the page goes when the loss is known.
+    m_told.removeAll("Couldn't store settings in user set: UserSet2");
+    EXPECT_EQ(m_told,
+              (QStringList{told.first(),
+                           told.last() +
+                               "\n\nThe connection to the camera was lost while its settings were "
+                               "being stored in the user set \"UserSet2\". Whether it holds the "
+                               "new settings is not known. Open the camera again and check it, and "
+                               "which user set the camera starts with."}));
     EXPECT_FALSE(m_camera->isExclusive());
 }
 

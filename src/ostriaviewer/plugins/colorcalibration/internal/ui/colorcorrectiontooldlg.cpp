@@ -26,7 +26,6 @@ ColorCorrectionToolDlg::ColorCorrectionToolDlg(
                           Qt::CustomizeWindowHint | Qt::WindowCloseButtonHint)
     , m_dataModel(dataModel)
     , m_messageLog(std::move(messageLog))
-    , m_container(nullptr)
 {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint);
     outliveParent();
@@ -85,18 +84,18 @@ int ColorCorrectionToolDlg::exec()
     if (self && m_running)
         reject();
     if (self)
-        tellRestoreFailure();
+        tellClosingProblem();
     return result;
 }
 
 // After the window has gone and the camera is closed: nothing of the wizard is left to go wrong.
-void ColorCorrectionToolDlg::tellRestoreFailure()
+void ColorCorrectionToolDlg::tellClosingProblem()
 {
-    const QString failure = m_dataModel->takeRestoreFailure();
-    if (!failure.isEmpty())
+    const QString problem = m_dataModel->takeClosingProblem();
+    if (!problem.isEmpty())
         showModalBox(BoxIcon::Error,
                      QCoreApplication::translate("ColorCorrectionToolDlg", "Color Calibrator"),
-                     failure, QMessageBox::Ok, QMessageBox::Ok, Qt::PlainText);
+                     problem, QMessageBox::Ok, QMessageBox::Ok, Qt::PlainText);
 }
 
 // Keys come here while a message box goes away. An Escape then must not be an answer to its
@@ -157,7 +156,7 @@ void ColorCorrectionToolDlg::addLogMessage(QString message, Core::Logging::ELogL
 
 void ColorCorrectionToolDlg::addLogMessage(QString message)
 {
-    addLogMessage(message, Core::Logging::Warning);
+    addLogMessage(std::move(message), Core::Logging::Warning);
 }
 
 void ColorCorrectionToolDlg::showScene()

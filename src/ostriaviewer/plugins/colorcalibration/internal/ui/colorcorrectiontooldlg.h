@@ -49,11 +49,11 @@ private:
     void outliveParent();
     void connectDataModel();
     void showScene();
-    void tellRestoreFailure();
+    void tellClosingProblem();
 
     QmlDataModelInterface* m_dataModel;
     QSharedPointer<Plugin::MessageLogCore::IMessageLogService> m_messageLog;
-    QWidget* m_container;
+    QWidget* m_container = nullptr;
     QWidget* m_problem = nullptr;
     bool m_running = false;
     bool m_decided = false;

@@ -158,7 +158,7 @@ void QmlDataModelInterface::resetScene()
     if (!m_view)
         return;
     dropSearches();
-    m_restoreFailure.clear();
+    m_closingProblems.clear();
     m_view->setSource(QUrl());
     m_view->engine()->clearComponentCache();
     m_imageProvider->reset();

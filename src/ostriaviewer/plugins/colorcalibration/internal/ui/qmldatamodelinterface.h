@@ -157,9 +157,9 @@ public:
     /// Gives the camera its settings back although the user neither canceled nor finished.
     void abandon();
 
-    /// Text for people if the camera could not be given its settings back, else empty. A read
-    /// empties it.
-    QString takeRestoreFailure();
+    /// Text for people if the camera could not be given its settings back, or if nobody knows what
+    /// one of its user sets holds; else empty. A read empties it.
+    QString takeClosingProblem();
 
     /// Why the scene cannot be shown, for people; empty if it can.
     QString sceneProblem() const { return m_sceneProblem; }
@@ -218,6 +218,8 @@ private:
     void setSceneProblem(const QString& problem);
     void onSceneWarnings(const QList<QQmlError>& warnings);
     void giveSettingsBack();
+    void noteUncertainUserSet();
+    void noteClosingProblem(const QString& problem);
     bool tellOutcome(bool success, const QString& whenDone, const QString& whenFailed,
                      const QString& target);
     void dropSearches();
@@ -246,7 +248,7 @@ private:
     ColorCorrectionAutoChartFinder m_chartFinder;
     QString m_sceneProblem;
     QString m_drawingProblem; // stays: graphics come back with the next start of the program alone
-    QString m_restoreFailure;
+    QStringList m_closingProblems;
     QVector<QFuture<void>> m_searches;
     int m_busyCursors = 0;
     int m_scene = 0;

@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 using Core::CameraPoolComponents::CameraTexts;
 
@@ -86,14 +87,29 @@ void QmlDataModelInterface::giveSettingsBack()
 {
     m_model->StopGrabbing();
     if (!restoreSettingsBackup(false) || isBackupOwed())
-        m_restoreFailure = CameraTexts::settingsNotRestored();
+        noteClosingProblem(CameraTexts::settingsNotRestored());
+    noteUncertainUserSet();
 }
 
-QString QmlDataModelInterface::takeRestoreFailure()
+void QmlDataModelInterface::noteUncertainUserSet()
 {
-    QString text;
-    text.swap(m_restoreFailure);
-    return text;
+    const QString userSet = m_model->UncertainUserSet();
+    if (userSet.isEmpty())
+        return;
+    const QString problem = CameraTexts::userSetUncertain(userSet);
+    LogMessage(problem, Core::Logging::Error);
+    noteClosingProblem(problem);
+}
+
+void QmlDataModelInterface::noteClosingProblem(const QString& problem)
+{
+    if (!m_closingProblems.contains(problem))
+        m_closingProblems.append(problem);
+}
+
+QString QmlDataModelInterface::takeClosingProblem()
+{
+    return std::exchange(m_closingProblems, {}).join(QStringLiteral("\n\n"));
 }
 
 void QmlDataModelInterface::finish()
@@ -102,8 +118,9 @@ void QmlDataModelInterface::finish()
     // What a calibration that failed has left must not pass for the result of one.
     if (isBackupOwed()) {
         LogMessage(CameraTexts::settingsNotRestored(), Core::Logging::Error);
-        m_restoreFailure = CameraTexts::settingsNotRestored();
+        noteClosingProblem(CameraTexts::settingsNotRestored());
     }
+    noteUncertainUserSet();
     emit signalFinished();
 }
 

@@ -102,7 +102,41 @@ TEST_F(QmlDataModelCallsTest, TellsInTheUsersLanguageWhatFailsWithTheSettings)
     const QString notRestored = "[The camera's original settings couldn't be restored. Load them "
                                 "from a user set or a settings file.]";
     EXPECT_EQ(logTexts(), (QStringList{"3 " + text("backupProblem"), "3 " + notRestored}));
-    EXPECT_EQ(m_data.takeRestoreFailure(), notRestored);
+    EXPECT_EQ(m_data.takeClosingProblem(), notRestored);
+}
+
+TEST_F(QmlDataModelCallsTest, TellsAtEveryEndThatNobodyKnowsWhatAUserSetHolds)
+{
+    const InBrackets translator;
+    const QString uncertain =
+        "[The connection to the camera was lost while its settings were being stored in the user "
+        "set \"UserSet2\". Whether it holds the new settings is not known. Open the camera again "
+        "and check it, and which user set the camera starts with.]";
+    m_model.uncertainUserSet = "UserSet2";
+    for (const char* end : {"cancel", "finish"}) {
+        m_logged.clear();
+        callVoid(end);
+        EXPECT_EQ(logTexts(), QStringList("3 " + uncertain));
+        EXPECT_EQ(m_data.takeClosingProblem(), uncertain);
+        EXPECT_EQ(m_data.takeClosingProblem(), "") << "once";
+    }
+    m_model.uncertainUserSet.clear();
+    callVoid("cancel");
+    EXPECT_EQ(m_data.takeClosingProblem(), "");
+}
+
+TEST_F(QmlDataModelCallsTest, TellsEachProblemOfTheEndOnce)
+{
+    m_model.uncertainUserSet = "UserSet2";
+    m_model.isBackupOwed = true;
+    m_data.abandon();
+    m_data.abandon();
+    EXPECT_EQ(m_data.takeClosingProblem(),
+              "The camera's original settings couldn't be restored. Load them from a user set or a "
+              "settings file.\n\nThe connection to the camera was lost while its settings were "
+              "being stored in the user set \"UserSet2\". Whether it holds the new settings is "
+              "not known. Open the camera again and check it, and which user set the camera starts "
+              "with.");
 }
 
 TEST_F(QmlDataModelCallsTest, BackupsAreThoseForGivingTheCameraBackUnlessSaidOtherwise)
@@ -150,16 +184,16 @@ TEST_F(QmlDataModelCallsTest, ABackupThatIsStillOwedIsTold)
     EXPECT_EQ(m_logged.count(), 1);
     EXPECT_TRUE(m_data.restoreSettingsBackup(true));
     EXPECT_EQ(m_logged.count(), 1);
-    EXPECT_TRUE(m_data.takeRestoreFailure().isEmpty()) << "it may still come back";
+    EXPECT_TRUE(m_data.takeClosingProblem().isEmpty()) << "it may still come back";
     for (const char* end : {"cancel", "finish"}) {
         const int before = m_logged.count();
         callVoid(end);
         EXPECT_EQ(m_logged.count(), before + 1) << end;
-        EXPECT_FALSE(m_data.takeRestoreFailure().isEmpty()) << end;
+        EXPECT_FALSE(m_data.takeClosingProblem().isEmpty()) << end;
     }
     m_model.isBackupOwed = false;
     callVoid("finish");
-    EXPECT_TRUE(m_data.takeRestoreFailure().isEmpty());
+    EXPECT_TRUE(m_data.takeClosingProblem().isEmpty());
 }
 
 TEST_F(QmlDataModelCallsTest, FinishKeepsTheSettings)

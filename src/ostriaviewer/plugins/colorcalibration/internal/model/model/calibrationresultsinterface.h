@@ -36,6 +36,10 @@ public:
     /// \param setAsDefault  the camera starts with this set
     virtual bool StoreSettingsInUserSet(const QString& name, bool setAsDefault) = 0;
 
+    /// The user set during whose last storing the connection to the camera was lost: nobody knows
+    /// whether it holds the new settings. Empty if there is none, and once the camera is closed.
+    virtual QString UncertainUserSet() const = 0;
+
     /// Writes the calibrated settings as a file that LoadSettings reads, into a new folder.
     /// \param folder  in which the new one is made
     virtual bool SaveSettingsToFile(const QString& folder) = 0;

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ColorCalibration {
 namespace {
@@ -37,11 +38,11 @@ Core::Exception::BaseException refusal(const char* what, double value)
 } // namespace
 
 CameraAutoBrightnessHelper::CameraAutoBrightnessHelper(
-    CalibrationInterface* calibration,
-    const Core::ParameterCollection::ParameterCollectionPtr& parameters, QRecursiveMutex* lock)
+    CalibrationInterface* calibration, Core::ParameterCollection::ParameterCollectionPtr parameters,
+    QRecursiveMutex* lock)
     : m_calibration(calibration)
     , m_lock(lock)
-    , m_parameters(parameters)
+    , m_parameters(std::move(parameters))
 {}
 
 CameraAutoBrightnessHelper::~CameraAutoBrightnessHelper() = default;

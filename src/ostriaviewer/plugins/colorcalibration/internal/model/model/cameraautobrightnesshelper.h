@@ -26,7 +26,7 @@ public:
     /// \param calibration  not owned, outlives the worker
     /// \param lock         what the calibration's operations lock; null if nothing. Not owned
     CameraAutoBrightnessHelper(CalibrationInterface* calibration,
-                               const Core::ParameterCollection::ParameterCollectionPtr& parameters,
+                               Core::ParameterCollection::ParameterCollectionPtr parameters,
                                QRecursiveMutex* lock = nullptr);
     ~CameraAutoBrightnessHelper() override;
 

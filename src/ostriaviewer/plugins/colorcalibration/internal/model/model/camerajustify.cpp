@@ -68,16 +68,16 @@ void requireFinite(const Values& values, Name feature)
 
 } // namespace
 
-CameraJustify::CameraJustify(const CameraPtr& camera, QObject* parent)
+CameraJustify::CameraJustify(CameraPtr camera, QObject* parent)
     : QObject(parent)
-    , m_camera(camera)
+    , m_camera(std::move(camera))
 {}
 
 CameraJustify::~CameraJustify() = default;
 
 ParameterCollectionPtr CameraJustify::parameters() const
 {
-    const ParameterCollectionPtr collection =
+    ParameterCollectionPtr collection =
         m_camera ? m_camera->parameterCollection() : ParameterCollectionPtr();
     if (!collection)
         throw Core::Exception::BaseException(

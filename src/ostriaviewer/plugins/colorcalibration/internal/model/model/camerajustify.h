@@ -33,8 +33,7 @@ class CameraJustify : public QObject
 
 public:
     /// \param camera  shared; its parameters are asked for at each operation
-    explicit CameraJustify(const Core::CameraPoolComponents::CameraPtr& camera,
-                           QObject* parent = nullptr);
+    explicit CameraJustify(Core::CameraPoolComponents::CameraPtr camera, QObject* parent = nullptr);
 
     /// Ends a brightness run and waits for it.
     ~CameraJustify() override;
@@ -122,6 +121,10 @@ public:
     /// \param setAsDefault  the camera starts with this set
     void StoreInUserSet(const QString& name, bool store, bool setAsDefault);
 
+    /// The user set during whose last storing the camera fell silent, so that nobody knows what it
+    /// holds; empty if there is none. Storing in it anew settles that.
+    QString UncertainUserSet() const;
+
 signals:
     /// A brightness run has ended, of itself or because it was stopped. That of a run which another
     /// one has replaced is not told.
@@ -160,6 +163,7 @@ private:
     QRecursiveMutex m_brightnessRunMutex;
     std::atomic_uint m_brightnessRuns{0};
     UserSetChoice m_userSet;
+    QString m_uncertainUserSet;
     QVector<std::pair<QString, QString>> m_testImages; ///< features and what they were
 };
 

@@ -134,9 +134,12 @@ void CameraJustify::StoreInUserSet(const QString& name, bool store, bool setAsDe
         if (restoreEntry(startSetName, startBefore))
             throw;
         throw Core::Exception::BaseException(
-            QStringLiteral("The camera may start with the user set \"%1\", which was not saved: it "
-                           "could not be told to start with \"%2\" again. %3")
-                .arg(name, startBefore, QString::fromUtf8(failure.what())));
+            QStringLiteral("The camera may start with the user set \"%1\", which %2 saved: it "
+                           "could not be told to start with \"%3\" again. %4")
+                .arg(name,
+                     m_uncertainUserSet == name ? QStringLiteral("may not have been")
+                                                : QStringLiteral("was not"),
+                     startBefore, QString::fromUtf8(failure.what())));
     }
 }
 
@@ -168,14 +171,28 @@ void CameraJustify::persistToUserSet()
         return;
     const ParameterCollectionPtr collection = parameters();
     collection->enumerationParameter(setSelectorName)->setValue(m_userSet.name);
-    if (m_userSet.isDefault)
-        collection->enumerationParameter(startSetName)->setValue(m_userSet.name);
-    collection->commandParameter(QStringLiteral("UserSetSave"))->execute();
+    try {
+        if (m_userSet.isDefault)
+            collection->enumerationParameter(startSetName)->setValue(m_userSet.name);
+        collection->commandParameter(QStringLiteral("UserSetSave"))->execute();
+    } catch (const std::exception&) {
+        // A camera that refuses still answers. One that does not may have obeyed before.
+        if (presentEntry(setSelectorName).isEmpty())
+            m_uncertainUserSet = m_userSet.name;
+        throw;
+    }
+    if (m_uncertainUserSet == m_userSet.name)
+        m_uncertainUserSet.clear();
     if (std::exchange(m_userSet.isReplacementUntold, false))
         warn(QStringLiteral("The user set \"%1\" follows the camera's settings until the camera is "
                             "closed: what was stored in it has just been replaced. Store it anew "
                             "when the calibration is done.")
                  .arg(m_userSet.name));
+}
+
+QString CameraJustify::UncertainUserSet() const
+{
+    return m_uncertainUserSet;
 }
 
 } // namespace ColorCalibration

@@ -65,6 +65,11 @@ quint64 ColorCorrectionModel::TakenImages() const
     return m_impl->TakenImages();
 }
 
+bool ColorCorrectionModel::IsCameraOpen() const
+{
+    return m_impl->IsCameraOpen();
+}
+
 QString ColorCorrectionModel::OpeningFailure() const
 {
     return m_impl->OpeningFailure();
@@ -253,6 +258,11 @@ QJsonObject ColorCorrectionModel::GetAvailableUserSetsJson()
 bool ColorCorrectionModel::StoreSettingsInUserSet(const QString& name, bool setAsDefault)
 {
     return m_impl->StoreSettingsInUserSet(name, setAsDefault);
+}
+
+QString ColorCorrectionModel::UncertainUserSet() const
+{
+    return m_impl->UncertainUserSet();
 }
 
 bool ColorCorrectionModel::SaveSettingsToFile(const QString& folder)

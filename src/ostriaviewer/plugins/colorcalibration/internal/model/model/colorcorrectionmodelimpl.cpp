@@ -56,7 +56,7 @@ ColorCorrectionModelImpl::ColorCorrectionModelImpl(QObject* parent)
 ColorCorrectionModelImpl::~ColorCorrectionModelImpl()
 {
     if (m_imageCamera)
-        Close();
+        ColorCorrectionModelImpl::Close();
 }
 
 void ColorCorrectionModelImpl::SetCameraStatusService(ICameraStatusService* service)
@@ -106,6 +106,12 @@ bool ColorCorrectionModelImpl::Open(const CameraPtr& camera)
             resumeDelivery(*camera);
         return false;
     }
+}
+
+bool ColorCorrectionModelImpl::IsCameraOpen() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return isCameraOpen();
 }
 
 QString ColorCorrectionModelImpl::OpeningFailure() const

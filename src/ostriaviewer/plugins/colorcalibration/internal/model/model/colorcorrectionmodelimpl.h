@@ -57,6 +57,9 @@ public:
     /// number stays; of a camera that is grabbing continuously the newest image counts each time.
     quint64 TakenImages() const;
 
+    /// False also once the open camera has been lost.
+    bool IsCameraOpen() const;
+
     /// Why the last Open failed, where the camera's own error text does not know it; empty if it
     /// did not fail.
     QString OpeningFailure() const;
@@ -103,6 +106,7 @@ public:
     QJsonObject GetCalibrationResultsJson() override;
     QJsonObject GetAvailableUserSetsJson() override;
     bool StoreSettingsInUserSet(const QString& name, bool setAsDefault) override;
+    QString UncertainUserSet() const override;
     bool SaveSettingsToFile(const QString& folder) override;
     bool SaveSummaryToFile(const QString& folder) override;
 

@@ -90,6 +90,12 @@ bool ColorCorrectionModelImpl::StoreSettingsInUserSet(const QString& name, bool 
                    });
 }
 
+QString ColorCorrectionModelImpl::UncertainUserSet() const
+{
+    const QMutexLocker lock(&m_mutex);
+    return m_justify ? m_justify->UncertainUserSet() : QString();
+}
+
 bool ColorCorrectionModelImpl::SaveSettingsToFile(const QString& folder)
 {
     const QMutexLocker lock(&m_mutex);

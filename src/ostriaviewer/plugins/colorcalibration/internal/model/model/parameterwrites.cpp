@@ -2,6 +2,8 @@
 // Writes of parameters by name, guarded and not.
 #include "parameterwrites.h"
 
+#include <utility>
+
 namespace ColorCalibration {
 
 bool isUsable(const Core::ParameterCollection::IParameter& parameter)
@@ -9,9 +11,8 @@ bool isUsable(const Core::ParameterCollection::IParameter& parameter)
     return !parameter.isEmpty() && parameter.isWritable();
 }
 
-ParameterWrites::ParameterWrites(
-    const Core::ParameterCollection::ParameterCollectionPtr& parameters)
-    : m_parameters(parameters)
+ParameterWrites::ParameterWrites(Core::ParameterCollection::ParameterCollectionPtr parameters)
+    : m_parameters(std::move(parameters))
 {}
 
 void ParameterWrites::entry(QLatin1String name, QLatin1String value) const

@@ -13,7 +13,7 @@ namespace ColorCalibration {
 class ParameterWrites
 {
 public:
-    explicit ParameterWrites(const Core::ParameterCollection::ParameterCollectionPtr& parameters);
+    explicit ParameterWrites(Core::ParameterCollection::ParameterCollectionPtr parameters);
 
     void entry(QLatin1String name, QLatin1String value) const;
     void number(QLatin1String name, double value) const;

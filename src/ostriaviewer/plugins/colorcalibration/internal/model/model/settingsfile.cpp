@@ -15,7 +15,7 @@ namespace {
 QByteArray readAll(QIODevice& device)
 {
     // Nothing stops what the camera is asked to take, and each line takes it a millisecond or so.
-    constexpr qint64 longestFile = 1024 * 1024;
+    constexpr qint64 longestFile = qint64(1024) * 1024;
     // Devices and pipes do not tell their size.
     QByteArray bytes;
     while (bytes.size() <= longestFile) {
@@ -32,7 +32,7 @@ QByteArray readAll(QIODevice& device)
 QString toText(const QByteArray& bytes)
 {
     QTextCodec::ConverterState state;
-    const QString text =
+    QString text =
         QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars > 0 || state.remainingChars > 0 || bytes.contains('\0'))
         throw Core::Exception::BaseException(
@@ -59,7 +59,7 @@ QString readSettingsText(QIODevice& device)
     const auto* file = qobject_cast<const QFileDevice*>(&device);
     if (file && file->error() != QFileDevice::NoError)
         throw Core::Exception::BaseException(file->errorString());
-    const QString text = toText(bytes);
+    QString text = toText(bytes);
     if (settingNames(text).isEmpty())
         throw Core::Exception::BaseException(
             QStringLiteral("This is no settings file: no line has a feature's name, a tab and a "

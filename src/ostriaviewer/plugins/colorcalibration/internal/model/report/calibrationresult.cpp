@@ -27,8 +27,8 @@ bool isNamed(const QString& directory)
 
 } // namespace
 
-CalibrationResult::CalibrationResult(const QString& cameraModel, Clock clock)
-    : m_cameraModel(cameraModel)
+CalibrationResult::CalibrationResult(QString cameraModel, Clock clock)
+    : m_cameraModel(std::move(cameraModel))
     , m_clock(std::move(clock))
 {}
 

@@ -18,8 +18,7 @@ public:
     using Clock = std::function<QDateTime()>;
 
     /// \param clock  the time that folders and reports carry
-    explicit CalibrationResult(const QString& cameraModel,
-                               Clock clock = &QDateTime::currentDateTime);
+    explicit CalibrationResult(QString cameraModel, Clock clock = &QDateTime::currentDateTime);
 
     /// \param text  feature stream text of the whole camera; what FilterSettings keeps is stored
     void SetOriginalSettings(const QString& text);
