@@ -114,9 +114,9 @@ else()
 endif()
 
 # A GoogleTest program. The label "realtime" keeps its tests out of runs under sanitizers, PACED is for
-# those that wait for the clock of a camera more than they compute, DISPLAY gives it a screen and
-# settings of its own, for programs that open windows, LOOPBACK a network of its own. WITHOUT_QT is for
-# what must not even see Qt's headers.
+# those that wait for the clock of a camera more than they compute, DISPLAY gives it a screen of its
+# own, for programs that open windows, LOOPBACK a network of its own. WITHOUT_QT is for what must not
+# even see Qt's headers.
 function(ostria_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "AUTOMOC;PACED;DISPLAY;LOOPBACK;WITHOUT_QT" ""
         "SOURCES;DEPS;LABELS;ENVIRONMENT")
@@ -131,6 +131,7 @@ function(ostria_add_test name)
     target_compile_options(${name} PRIVATE ${OSTRIA_TEST_OPTIONS})
     if(NOT arg_WITHOUT_QT)
         target_precompile_headers(${name} REUSE_FROM test_prelude)
+        target_link_libraries(${name} PRIVATE test_folders)
     endif()
     set_target_properties(${name} PROPERTIES
         AUTOMOC "${arg_AUTOMOC}"

@@ -16,7 +16,6 @@
 #include <QJsonObject>
 #include <QMap>
 #include <QSettings>
-#include <QStandardPaths>
 
 #include <chrono>
 #include <new>
@@ -30,14 +29,6 @@ namespace {
 class CalibrateCommand : public CommandTest
 {
 protected:
-    CalibrateCommand() { QStandardPaths::setTestModeEnabled(true); }
-    ~CalibrateCommand() override
-    {
-        // User sets that a test has stored.
-        QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
-        QStandardPaths::setTestModeEnabled(false);
-    }
-
     static QJsonArray listed()
     {
         const Outcome outcome = runTool({QStringLiteral("list"), QStringLiteral("--json")});

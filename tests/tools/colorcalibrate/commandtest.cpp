@@ -7,8 +7,10 @@
 #include "testsettings.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QRgba64>
+#include <QStandardPaths>
 
 #include <sstream>
 
@@ -72,6 +74,11 @@ std::string targetLines()
     for (int i = 0; i < 24; ++i)
         lines << targets(i, 0) << "," << targets(i, 1) << "," << targets(i, 2) << "\n";
     return lines.str();
+}
+
+CommandTest::~CommandTest()
+{
+    QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
 }
 
 QString CommandTest::writeFile(const QString& name, const QByteArray& content) const

@@ -50,6 +50,9 @@ std::string targetLines();
 class CommandTest : public testing::Test
 {
 protected:
+    /// Removes the user sets that the test has stored.
+    ~CommandTest() override;
+
     QString path(const QString& name) const { return folder.filePath(name); }
     QString writeFile(const QString& name, const QByteArray& content) const;
 

@@ -7,7 +7,6 @@
 #include "emulatedcamera.h"
 #include "iparameterservice.h"
 
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -22,7 +21,6 @@ public:
     explicit EmulatedHost(const CameraModel& model,
                           Cameras::Emulation::EmulationOptions options = {})
     {
-        QStandardPaths::setTestModeEnabled(true);
         options.settingsFolder = m_folder.path();
         m_camera = EmulatedCamera::create(model, options);
         m_pool = std::make_unique<Cameras::CameraPool>(QList<Cameras::HostCameraPtr>{m_camera});
@@ -32,11 +30,7 @@ public:
         m_model.SetCameraControlService(
             m_registry.find<Plugin::CameraPool::ICameraControlService>().data());
     }
-    ~EmulatedHost()
-    {
-        m_model.Close();
-        QStandardPaths::setTestModeEnabled(m_wasTestMode);
-    }
+    ~EmulatedHost() { m_model.Close(); }
     EmulatedHost(const EmulatedHost&) = delete;
     EmulatedHost& operator=(const EmulatedHost&) = delete;
 
@@ -83,7 +77,6 @@ public:
     }
 
 private:
-    const bool m_wasTestMode = QStandardPaths::isTestModeEnabled();
     QTemporaryDir m_folder;
     QSharedPointer<EmulatedCamera> m_camera;
     Core::Service::CServiceRegistry m_registry;

@@ -8,7 +8,6 @@
 #include "servedemulation.h"
 
 #include <QJsonDocument>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <memory>
@@ -19,9 +18,6 @@ class NetworkCameras : public CommandTest
 protected:
     using EmulatedCamera = Cameras::Emulation::EmulatedCamera;
     using CameraModel = Cameras::Emulation::CameraModel;
-
-    NetworkCameras() { QStandardPaths::setTestModeEnabled(true); }
-    ~NetworkCameras() override { QStandardPaths::setTestModeEnabled(false); }
 
     void SetUp() override
     {

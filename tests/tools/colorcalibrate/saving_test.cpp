@@ -17,7 +17,6 @@
 #include <QJsonObject>
 #include <QPair>
 #include <QRegularExpression>
-#include <QStandardPaths>
 
 #include <gmock/gmock.h>
 
@@ -33,23 +32,6 @@ const QString camera = QStringLiteral("emA1920-60ucEMU");
 class Saving : public CommandTest
 {
 protected:
-    Saving()
-    {
-        QStandardPaths::setTestModeEnabled(true);
-        removeUserSets();
-    }
-
-    ~Saving() override
-    {
-        removeUserSets();
-        QStandardPaths::setTestModeEnabled(false);
-    }
-
-    static void removeUserSets()
-    {
-        QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
-    }
-
     static Outcome calibrate(const QStringList& options)
     {
         return runTool(QStringList{QStringLiteral("calibrate"), QStringLiteral("--camera"), camera,
