@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a test program and its children store goes to a folder of its own. Several run at a time, and
-// nobody's own settings are to be touched.
+// What a test program and its children store goes to a folder of its own. Several run at a time,
+// and nobody's own settings are to be touched.
 #include <QTemporaryDir>
 
 namespace {

@@ -272,7 +272,8 @@ void Device::access(Access access, Repetition repetition)
             const QString noFeature;
             const LibraryScope scope(camera, noFeature, LibraryTask::Transfer);
             int attempts = repetition == Repetition::Harmless ? 3 : 1;
-            for (bool isTimeOver = true; isTimeOver && attempts > 0; --attempts) {
+            for (bool isTimeOver = true; isTimeOver && attempts > 0 && !weak.expired();
+                 --attempts) {
                 GErrorSlot error;
                 answer->hasSucceeded = access(device, error);
                 isTimeOver = error.isTimeout();
@@ -293,8 +294,9 @@ void Device::access(Access access, Repetition repetition)
         fail(lossReason());
     if (outcome == AccessQueue::Outcome::Late)
         fail(Texts::tr("the camera does not answer at present"));
+    // The reason is not given where the loss was noticed meanwhile.
     if (!answer->hasSucceeded)
-        fail(answer->reason);
+        fail(answer->reason.isEmpty() ? lossReason() : answer->reason);
 }
 
 std::string Device::description()

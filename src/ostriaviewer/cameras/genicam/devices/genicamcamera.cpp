@@ -339,13 +339,14 @@ void GenicamCamera::keepUnfinished(const Acquisition& ended)
 
 // Whoever opens it next is not to be refused because this program still has it: on a bad line the
 // camera has to be told several times, and an access that somebody has lost patience with may still
-// be under way.
+// be under way. Whoever else holds the device may be waiting for us.
 void GenicamCamera::giveBack(std::shared_ptr<Connection> closed)
 {
+    const std::weak_ptr<Device> device = closed->device;
     const auto released = closed->device->released();
     const bool isLost = closed->device->isLost();
     closed.reset();
-    if (!isLost)
+    if (!isLost && device.expired())
         released.wait();
 }
 
@@ -435,7 +436,7 @@ int GenicamCamera::defaultTimeoutMs() const
     return unknownMs;
 }
 
-/// One wish for images.
+/// One wish for images. What it needs of the camera is the step's.
 struct GenicamCamera::Beginning
 {
     std::shared_ptr<Connection> connection;
@@ -489,20 +490,21 @@ bool GenicamCamera::begin(std::optional<std::chrono::milliseconds> timeout)
 void GenicamCamera::carryOut(Beginning& beginning)
 {
     const auto opened = std::exchange(beginning.connection, {});
+    const auto begun = std::exchange(beginning.begun, {});
     if (const auto previous = std::exchange(beginning.previous, {})) {
         previous->finish();
-        beginning.begun->replace(*previous);
+        begun->replace(*previous);
         reportLosses(*previous, displayName());
     }
     const QWeakPointer<HostCamera> weak = sharedFromThis();
     try {
-        beginning.begun->begin(opened->device, [weak](const Ostria::CGrabResultPtr& result) {
+        begun->begin(opened->device, [weak](const Ostria::CGrabResultPtr& result) {
             if (const auto receiver = weak.toStrongRef().staticCast<GenicamCamera>())
                 receiver->deliver(result);
         });
     } catch (const std::exception& error) {
-        beginning.isMissed = beginning.begun->silence();
-        beginning.begun->finish();
+        beginning.isMissed = begun->silence();
+        begun->finish();
         beginning.error = QString::fromUtf8(error.what());
         beginning.hasFailed = true;
     }
@@ -535,12 +537,12 @@ void GenicamCamera::reportLosses(Acquisition& ended, const QString& name)
 // The acquisition stays for its statistics.
 void GenicamCamera::stopGrabbing()
 {
-    const auto running = acquisition();
+    auto running = acquisition();
     if (!running)
         return;
     const bool wasGrabbing = isGrabbing();
     running->silence();
-    const auto step = m_steps.add([running, name = displayName()] {
+    const auto step = m_steps.add([running = std::move(running), name = displayName()] {
         running->finish();
         reportLosses(*running, name);
     });

@@ -4,6 +4,7 @@
 
 #include <arv.h>
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <utility>
@@ -39,10 +40,11 @@ public:
         static_cast<LastReference*>(self)->set(isLast != FALSE);
     }
 
-    void wait()
+    /// \return  whether there are none
+    bool waitFor(std::chrono::milliseconds time)
     {
         std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_isLast; });
+        return m_changed.wait_for(lock, time, [this] { return m_isLast; });
     }
 
 private:
@@ -58,12 +60,17 @@ private:
     bool m_isLast = false; // guarded by the mutex
 };
 
+// Whoever was letting go while we began to listen may not have told us: then we tell ourselves.
 void unrefAsLast(GObject* object)
 {
+    constexpr std::chrono::milliseconds untilAskedAgain(100);
     LastReference reference;
     g_object_add_toggle_ref(object, LastReference::tell, &reference);
     g_object_unref(object);
-    reference.wait();
+    while (!reference.waitFor(untilAskedAgain)) {
+        g_object_ref(object);
+        g_object_unref(object);
+    }
     g_object_remove_toggle_ref(object, LastReference::tell, &reference);
 }
 

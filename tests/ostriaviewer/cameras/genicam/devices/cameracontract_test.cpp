@@ -275,6 +275,57 @@ TEST_P(CameraContract, ClosingEndsGrabbing)
     EXPECT_TRUE(number("Width")->isWritable());
 }
 
+TEST_P(CameraContract, ClosesFromWithinADeliveryAndOpensAtOnce)
+{
+    open();
+    std::promise<void> closed;
+    FrameProbe probe(camera, [this, &closed] {
+        camera->close();
+        closed.set_value();
+    });
+    ASSERT_TRUE(camera->startGrabbing());
+    ASSERT_EQ(closed.get_future().wait_for(patience), std::future_status::ready);
+    open();
+    EXPECT_FALSE(camera->isGrabbing());
+    EXPECT_TRUE(number("Width")->isWritable());
+}
+
+TEST_P(CameraContract, ClosesAndOpensWhileAReceiverIsStillCalled)
+{
+    open();
+    std::promise<void> isReleased;
+    FrameProbe probe(camera, [release = isReleased.get_future().share()] { release.wait(); });
+    ASSERT_TRUE(camera->startGrabbing());
+    ASSERT_TRUE(probe.waitFor(1));
+    camera->close();
+    EXPECT_FALSE(camera->isOpen());
+    open();
+    EXPECT_TRUE(number("Width")->isWritable());
+    isReleased.set_value();
+}
+
+// On a thread that waits until the camera has done it.
+TEST_P(CameraContract, IsClosedByWhoHearsThatItStartsOrStops)
+{
+    for (const bool hearsOfStart : {true, false}) {
+        open();
+        const auto connection = QObject::connect(
+            camera.data(), &Cameras::HostCamera::stateChanged, camera.data(),
+            [this, hearsOfStart] {
+                if (camera->isOpen() && camera->isGrabbing() == hearsOfStart)
+                    camera->close();
+            },
+            Qt::DirectConnection);
+        auto closed = std::async(std::launch::async, [this] {
+            camera->startGrabbing();
+            camera->stopGrabbing();
+        });
+        EXPECT_EQ(closed.wait_for(patience), std::future_status::ready);
+        QObject::disconnect(connection);
+        EXPECT_FALSE(camera->isOpen());
+    }
+}
+
 TEST_P(CameraContract, OneHandleGrabsAlone)
 {
     open();

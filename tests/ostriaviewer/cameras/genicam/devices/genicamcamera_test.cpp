@@ -15,6 +15,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <cstring>
 #include <future>
@@ -341,6 +342,34 @@ TEST_F(GenicamCameraTest, TellsAtItsEndWhatItCouldNotPutBack)
         return std::any_of(entries.begin(), entries.end(),
                            [&](const LogEntry& entry) { return entry.text == told; });
     }));
+}
+
+TEST_F(GenicamCameraTest, TellsOnceWhatItCouldNotPutBackWhereItIsClosedBeforeItsLossIsNoticed)
+{
+    const LogRecorder log;
+    std::atomic<bool> isGone = false;
+    {
+        NetworkRig rig(smallModel());
+        const HostCameraPtr camera = rig.camera();
+        QObject::connect(
+            camera.data(), &QObject::destroyed, camera.data(), [&isGone] { isGone = true; },
+            Qt::DirectConnection);
+        ASSERT_TRUE(camera->open());
+        mode(camera)->setValue(QStringLiteral("SingleFrame"));
+        FrameProbe probe(camera);
+        ASSERT_TRUE(camera->startGrabbing());
+        ASSERT_TRUE(probe.waitFor(1));
+        rig.vanish();
+        camera->close();
+    }
+    ASSERT_TRUE(becomes([&isGone] { return isGone.load(); }));
+    const auto entries = log.entries();
+    EXPECT_EQ(std::count_if(entries.begin(), entries.end(),
+                            [](const LogEntry& entry) {
+                                return entry.text.contains(
+                                    QLatin1String("set AcquisitionMode to \"SingleFrame\""));
+                            }),
+              1);
 }
 
 // The served camera sends packets of 9000 bytes at most.

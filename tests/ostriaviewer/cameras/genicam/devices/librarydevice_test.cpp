@@ -8,6 +8,7 @@
 #include <arv.h>
 
 #include <atomic>
+#include <future>
 #include <memory>
 #include <thread>
 
@@ -83,4 +84,24 @@ TEST(LibraryDevice, DoesNotEndOnTheThreadThatTellsOfItsLoss)
     owner.reset();
     EXPECT_EQ(ended, std::this_thread::get_id());
     library.join();
+}
+
+TEST(LibraryDevice, EndsBehindEverybodyElseWhoHoldsIt)
+{
+    ArvDevice* const device = makeDevice();
+    ASSERT_NE(device, nullptr);
+    std::thread::id ended;
+    g_object_weak_ref(G_OBJECT(device), noteThread, &ended);
+    std::promise<void> hasEnded;
+    auto owner = std::make_unique<LibraryDevice>(device, [] {});
+    g_object_ref(device);
+    std::thread other([device, end = hasEnded.get_future()] {
+        EXPECT_TRUE(becomes([device] { return !isHeard(device); }));
+        EXPECT_EQ(end.wait_for(std::chrono::milliseconds(250)), std::future_status::timeout);
+        g_object_unref(device);
+    });
+    owner.reset();
+    hasEnded.set_value();
+    EXPECT_EQ(ended, std::this_thread::get_id());
+    other.join();
 }
