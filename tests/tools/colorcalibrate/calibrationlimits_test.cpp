@@ -212,20 +212,25 @@ TEST_P(CalibrationLimits, ShowHowMuchEachOfThemCosts)
     }
 }
 
-// A patch has the color of one pixel, so that of a single calibration nothing like this can be
-// said.
-TEST(GraysOfManyCalibrations, AreAsGrayAsTheyAreWantedOnAverage)
+// A patch has the color of one pixel, and that in whole levels of 255, so that a calibration is a
+// draw, of which a few may miss what is wanted.
+TEST(GraysOfManyCalibrations, AreAsGrayAsTheyAreWantedButForAFew)
 {
-    // A mean is itself a draw. Single calibrations have a standard deviation of 0.26, and the
-    // noisiest camera a mean of 1.31 (of 100), so that twice the standard error of a mean of 20,
-    // 0.12, has room below what is wanted.
     constexpr int draws = 20;
+    // The worst camera has a mean of 1.06 with a standard deviation of 0.22, and 4 draws of 100
+    // above what is wanted (of 200). Three times the standard error of a mean of 20 is 0.15.
+    constexpr double highestMean = 1.21;
+    constexpr int mostMisses = 3;
     for (const auto& camera : supportedModels()) {
         const std::vector<double> each = drawsOfTheGrays(camera, draws);
         const double mean = std::accumulate(each.begin(), each.end(), 0.0) / draws;
+        const auto misses = std::count_if(each.begin(), each.end(),
+                                          [](double draw) { return draw > wantedDeltaC; });
         std::cout << camera.name.toStdString() << ": " << std::fixed << std::setprecision(2) << mean
-                  << " on average of " << draws << " calibrations\n";
-        EXPECT_LE(mean, wantedDeltaC) << camera.name.toStdString();
+                  << " on average of " << draws << " calibrations, " << misses << " above "
+                  << wantedDeltaC << "\n";
+        EXPECT_LE(mean, highestMean) << camera.name.toStdString();
+        EXPECT_LE(misses, mostMisses) << camera.name.toStdString();
     }
 }
 

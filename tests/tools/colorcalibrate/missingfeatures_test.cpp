@@ -58,8 +58,8 @@ protected:
         // Without the version a camera counts as one of the first generation.
         if (GetParam().feature == "DeviceSFNCVersionMajor" && GetParam().camera != 0)
             return "it has no gain that can be read: Gain or GainAbs, or GainRaw in older cameras";
-        // White balance alone does not undo the first camera's crosstalk; without the selector all
-        // gains go to one cell.
+        // White balance alone does not undo a strong crosstalk, as the first camera has it here;
+        // without the selector all gains go to one cell.
         if (isMatrixSelector() || (isOfMatrix() && GetParam().camera == 0))
             return "the patches are off their targets by a mean Delta E of ";
         return {};
@@ -103,7 +103,11 @@ TEST_P(OptionalFeatures, MayBeMissingAndTheCameraIsGivenBackAsItWas)
     const QString feature = QString::fromStdString(GetParam().feature);
     Cameras::Emulation::EmulationOptions options;
     options.missingFeatures = QStringList(feature);
-    EmulatedHost host(reduced(supportedModels().at(GetParam().camera)), options);
+    auto model = reduced(supportedModels().at(GetParam().camera));
+    // Its own leaves a Delta E so near to what is refused that noise would decide.
+    if (isOfMatrix() && GetParam().camera == 0)
+        model.sensor.crosstalk = {0.66, 0.26, 0.08, 0.27, 0.54, 0.19, 0.08, 0.32, 0.60};
+    EmulatedHost host(model, options);
     ASSERT_TRUE(host.camera().open());
     host.setExposure(20000.0);
     const QString before = host.settings();

@@ -27,8 +27,8 @@ QVector<CameraModel> everydayModels()
 {
     CameraModel first = model("Emulation 1920-40c", "90010001", FeatureNames::FirstGeneration, 1);
     first.readoutTime = 25000.0;
-    first.sensor.fullWell = 96000.0;
-    first.sensor.conversionGain = 0.044;
+    first.sensor.fullWell = 384000.0;
+    first.sensor.conversionGain = 0.011;
     first.sensor.readNoise = 14.0;
     first.sensor.crosstalk = {0.73, 0.21, 0.06, 0.22, 0.62, 0.16, 0.05, 0.27, 0.68};
 

@@ -31,8 +31,8 @@ struct SensorModel
 
     double vignetting = 0.03; ///< share of the light that is lost in the corners, 0 to 1
 
-    double fullWell = 48000.0;     ///< electrons
-    double conversionGain = 0.088; ///< counts an electron at 0 dB, above 0
+    double fullWell = 192000.0;    ///< electrons
+    double conversionGain = 0.022; ///< counts an electron at 0 dB, above 0
     double readNoise = 7.0;        ///< electrons, standard deviation
     double pedestal = 64.0;        ///< counts that the sensor adds, 0 to 2047; whole
     std::uint64_t noiseSeed = 1;
