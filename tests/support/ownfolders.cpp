@@ -10,6 +10,8 @@ struct OwnFolders
 {
     OwnFolders()
     {
+        if (!folder.isValid())
+            qFatal("no folder for what the tests store: %s", qPrintable(folder.errorString()));
         for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
             qputenv(variable, folder.filePath(QString::fromLatin1(variable)).toUtf8());
     }

@@ -355,7 +355,6 @@ TEST_F(CameraSettingsInTheViewer, CountAtOnceAndAreKept)
     EXPECT_FALSE(readCameraSettings(ViewerSettings()).transport.isSearching);
 }
 
-// As after a newer viewer, whose file is left as it is.
 // Also those without a cable or an address: settings are made for later, too.
 TEST_F(CameraSettingsInTheViewer, OfferAllNetworkInterfacesOfTheSystem)
 {
@@ -373,6 +372,7 @@ TEST_F(CameraSettingsInTheViewer, OfferAllNetworkInterfacesOfTheSystem)
     child<CameraSettingsDialog>("cameraSettings")->reject();
 }
 
+// As after a newer viewer, whose file is left as it is.
 TEST_F(CameraSettingsInTheViewer, AreShownAsTheyCountWhereTheyAreNotKept)
 {
     QSettings().setValue("Viewer/Version", 1000);

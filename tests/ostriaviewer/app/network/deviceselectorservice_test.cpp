@@ -135,7 +135,7 @@ TEST_F(CalibratorsQuestion, IsAnsweredInTheEndAndItsFailuresAreToldOnce)
                      [&questions] { ++questions; });
     m_rig.hold();
     clickItem(networkItem());
-    ASSERT_TRUE(waitUntil([&] { return questions == 3; }));
+    ASSERT_TRUE(waitUntil([&] { return questions == 2; }));
     EXPECT_FALSE(isCommandShown());
     m_rig.letGo();
     EXPECT_TRUE(waitUntil([this] { return isCommandShown(); }));
