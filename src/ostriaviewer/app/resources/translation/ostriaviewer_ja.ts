@@ -307,6 +307,10 @@
         <translation>%1：%3枚中%2枚の画像が転送中に破損したため、破棄しました（欠落パケット数：%4）。パケットサイズを大きくするか、パケット遅延を設定してください。</translation>
     </message>
     <message>
+        <source>%1: %2 of %3 images were shorter than the camera says and were left out. Nothing was lost on the way. Restart the camera, or choose another image size or pixel format.</source>
+        <translation>%1：画像%3枚中%2枚がカメラの通知したサイズに満たなかったため、破棄しました。転送中の欠落はありません。カメラを再起動するか、別の画像サイズまたはピクセルフォーマットを選択してください。</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
         <translation>%1：%3枚中%2枚の画像は、このコンピューターの処理が追いつかなかったため、破棄しました。フレームレートを下げるか、画像を小さくしてください。</translation>
     </message>

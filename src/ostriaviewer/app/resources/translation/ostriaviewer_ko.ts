@@ -307,6 +307,10 @@
         <translation>%1: 이미지 %3장 중 %2장이 전송 과정에서 손상되어 폐기되었습니다(누락된 패킷 %4개). 패킷 크기를 늘리거나 패킷 지연을 설정하십시오.</translation>
     </message>
     <message>
+        <source>%1: %2 of %3 images were shorter than the camera says and were left out. Nothing was lost on the way. Restart the camera, or choose another image size or pixel format.</source>
+        <translation>%1: 이미지 %3장 중 %2장이 카메라가 알린 크기보다 짧아 폐기되었습니다. 전송 중 누락된 것은 없습니다. 카메라를 다시 시작하거나 다른 이미지 크기 또는 픽셀 형식을 선택하십시오.</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
         <translation>%1: 이 컴퓨터의 처리가 따라가지 못해 이미지 %3장 중 %2장이 폐기되었습니다. 프레임 속도를 낮추거나 이미지 크기를 줄이십시오.</translation>
     </message>

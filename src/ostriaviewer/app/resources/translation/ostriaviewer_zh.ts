@@ -307,6 +307,10 @@
         <translation>%1：%3 帧图像中有 %2 帧在传输中损坏并被丢弃（缺少 %4 个数据包）。请增大数据包大小或设置数据包延迟。</translation>
     </message>
     <message>
+        <source>%1: %2 of %3 images were shorter than the camera says and were left out. Nothing was lost on the way. Restart the camera, or choose another image size or pixel format.</source>
+        <translation>%1：%3 帧图像中有 %2 帧小于相机所声明的大小，已被丢弃。传输中没有丢失数据。请重新启动相机，或选择其他图像尺寸或像素格式。</translation>
+    </message>
+    <message>
         <source>%1: %2 of %3 images came faster than this computer takes them and were left out. Set a lower frame rate or a smaller image.</source>
         <translation>%1：%3 帧图像中有 %2 帧因本计算机来不及处理而被丢弃。请降低帧率或减小图像尺寸。</translation>
     </message>

@@ -89,7 +89,7 @@ struct FrameStream::State
     void hand(const Ostria::CGrabResultPtr& result);
     std::uint64_t countFrame(ArvBuffer* buffer);
     void receive(ArvBuffer* buffer);
-    void dropDamaged();
+    void drop(std::uint64_t& count);
     void endAtDeadline();
     bool giveBack(ArvBuffer* buffer);
     void release();
@@ -155,11 +155,12 @@ std::uint64_t FrameStream::State::countFrame(ArvBuffer* buffer)
     return number;
 }
 
-void FrameStream::State::dropDamaged()
+/// \param count  the one of the counts that the frame belongs to
+void FrameStream::State::drop(std::uint64_t& count)
 {
     {
         const std::lock_guard lock(mutex);
-        ++counts.damaged;
+        ++count;
     }
     if (single && isWanted())
         single->again();
@@ -169,11 +170,13 @@ void FrameStream::State::dropDamaged()
 void FrameStream::State::receive(ArvBuffer* buffer)
 {
     const std::uint64_t frame = countFrame(buffer);
-    Ostria::CGrabResultPtr result;
-    if (arv_buffer_get_status(buffer) == ARV_BUFFER_STATUS_SUCCESS)
-        result = toGrabResult(buffer, frame);
+    if (arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS) {
+        drop(counts.damaged);
+        return;
+    }
+    const Ostria::CGrabResultPtr result = toGrabResult(buffer, frame);
     if (!result) {
-        dropDamaged();
+        drop(counts.endedEarly);
         return;
     }
     if (!isWanted())

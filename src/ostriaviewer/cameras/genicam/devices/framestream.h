@@ -18,12 +18,14 @@ namespace Cameras::GenICam {
 struct StreamStatistics
 {
     std::uint64_t delivered = 0;      ///< whole images
-    std::uint64_t damaged = 0;        ///< dropped, as a part of them was missing
+    std::uint64_t damaged = 0;        ///< dropped, as a part of them was lost on the way
+    std::uint64_t endedEarly = 0;     ///< dropped, as the camera sent less than it said
     std::uint64_t overrun = 0;        ///< came while no buffer was free
     std::uint64_t missingPackets = 0; ///< lost on the network, and not got again
 };
 
-/// One run of images, from its beginning to its end. Damaged frames are counted and dropped.
+/// One run of images, from its beginning to its end. Damaged and short frames are counted and
+/// dropped.
 /// Thread-safe.
 class FrameStream
 {

@@ -514,8 +514,9 @@ void GenicamCamera::carryOut(Beginning& beginning)
 void GenicamCamera::reportLosses(Acquisition& ended, const QString& name)
 {
     const StreamStatistics statistics = ended.statistics();
-    const std::uint64_t all = statistics.damaged + statistics.overrun + statistics.delivered;
-    if (statistics.damaged + statistics.overrun == 0 || !ended.mayReport())
+    const std::uint64_t missed = statistics.damaged + statistics.endedEarly + statistics.overrun;
+    const std::uint64_t all = missed + statistics.delivered;
+    if (missed == 0 || !ended.mayReport())
         return;
     if (statistics.damaged > 0)
         log(tr("%1: %2 of %3 images were damaged on their way and left out (%4 packets are "
@@ -524,6 +525,13 @@ void GenicamCamera::reportLosses(Acquisition& ended, const QString& name)
                 .arg(statistics.damaged)
                 .arg(all)
                 .arg(statistics.missingPackets));
+    if (statistics.endedEarly > 0)
+        log(tr("%1: %2 of %3 images were shorter than the camera says and were left out. Nothing "
+               "was lost on the way. Restart the camera, or choose another image size or pixel "
+               "format.")
+                .arg(name)
+                .arg(statistics.endedEarly)
+                .arg(all));
     // Whoever wants the newest image alone misses nothing.
     if (statistics.overrun > 0)
         log(tr("%1: %2 of %3 images came faster than this computer takes them and were left out. "

@@ -221,7 +221,7 @@ TEST_F(GenicamCameraTest, CountsAndLeavesOutImagesThatEndEarly)
         rig.server().cutImages(missing);
         FrameProbe probe(rig.camera());
         ASSERT_TRUE(rig.camera()->startGrabbing());
-        EXPECT_TRUE(becomes([&] { return rig.client()->statistics().damaged >= 3; })) << missing;
+        EXPECT_TRUE(becomes([&] { return rig.client()->statistics().endedEarly >= 3; })) << missing;
         EXPECT_EQ(probe.count(), 0U) << missing;
         EXPECT_EQ(rig.client()->statistics().delivered, 0U) << missing;
         rig.server().cutImages(0);
@@ -238,7 +238,7 @@ TEST_F(GenicamCameraTest, AsksForAnotherImageWhereTheOnlyOneEndsEarly)
     rig.server().cutImages(1);
     FrameProbe probe(rig.camera());
     ASSERT_TRUE(rig.camera()->grabSingle());
-    ASSERT_TRUE(becomes([&] { return rig.client()->statistics().damaged > 0; }));
+    ASSERT_TRUE(becomes([&] { return rig.client()->statistics().endedEarly > 0; }));
     rig.server().cutImages(0);
     ASSERT_TRUE(probe.waitFor(1));
     EXPECT_TRUE(probe.results().front()->GrabSucceeded());
@@ -257,9 +257,14 @@ TEST_F(GenicamCameraTest, CountsAndLeavesOutImagesThatAreSmallerThanTheySay)
     ASSERT_TRUE(rig.camera()->open()) << rig.camera()->lastErrorText().toStdString();
     FrameProbe probe(rig.camera());
     ASSERT_TRUE(rig.camera()->startGrabbing());
-    EXPECT_TRUE(becomes([&] { return rig.client()->statistics().damaged >= 3; }));
+    EXPECT_TRUE(becomes([&] { return rig.client()->statistics().endedEarly >= 3; }));
     EXPECT_EQ(probe.count(), 0U);
+    const LogRecorder log;
     rig.camera()->close();
+    ASSERT_TRUE(becomes([&log] { return !log.entries().isEmpty(); }));
+    EXPECT_TRUE(log.entries().constFirst().text.contains(
+        QStringLiteral(" images were shorter than the camera says and were left out.")))
+        << log.entries().constFirst().text.toStdString();
 }
 
 // A receiver that does not come back: no larger packet size helps there.
